@@ -1,0 +1,27 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace oracle_sql {
+
+// A failure while a value is computed, told by Oracle's own number and text. It knows no place: whoever
+// evaluates the expression adds the line and column.
+class FunctionError : public std::runtime_error {
+ public:
+  // `code` is the number of the error, 1722 for ORA-01722; `message` is its text without that prefix.
+  FunctionError(int code, const std::string& message);
+
+  int code() const { return code_; }
+
+ private:
+  int code_;
+};
+
+[[noreturn]] void raiseInvalidNumber();       // ORA-01722
+[[noreturn]] void raiseDivisionByZero();      // ORA-01476
+[[noreturn]] void raiseNumericOverflow();     // ORA-01426
+[[noreturn]] void raiseArgumentOutOfRange();  // ORA-01428
+[[noreturn]] void raiseInconsistentTypes();   // ORA-00932
+
+}  // namespace oracle_sql

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "oracle_sql/date.h"
+#include "oracle_sql/number.h"
+
+namespace oracle_sql {
+
+// What an expression is known to be before it runs. Null: a bare NULL, which fits every type. Char: a text
+// literal or CHAR column, which compares blank-padded with its like; every other text is Varchar.
+enum class SqlType : std::uint8_t { Null, Number, Char, Varchar, Date, Raw };
+
+constexpr bool isText(SqlType type) { return type == SqlType::Char || type == SqlType::Varchar; }
+
+// One value of a row. The empty text and the empty RAW are NULL. Text is UTF-8.
+class Value {
+ public:
+  enum class Kind : std::uint8_t { Null, Number, Date, Text, Raw };
+
+  Value() = default;
+  Value(Number number) : data_(number), kind_(Kind::Number) {}  // NOLINT: every Number is a Value
+  Value(std::int64_t number) : data_(Number(number)), kind_(Kind::Number) {}  // NOLINT
+  Value(int number) : data_(Number(number)), kind_(Kind::Number) {}           // NOLINT
+  Value(Date date) : data_(date), kind_(Kind::Date) {}                        // NOLINT
+  static Value text(std::string text);
+  static Value raw(std::string bytes);
+  // The bytes stay the caller's and must outlive the value and what is computed from it: a function may
+  // return a piece of its argument.
+  static Value textView(std::string_view text);
+  static Value rawView(std::string_view bytes);
+
+  Kind kind() const { return kind_; }
+  bool isNull() const { return kind_ == Kind::Null; }
+  bool isNumber() const { return kind_ == Kind::Number; }
+  bool isDate() const { return kind_ == Kind::Date; }
+  bool isText() const { return kind_ == Kind::Text; }
+  bool isRaw() const { return kind_ == Kind::Raw; }
+
+  const Number& number() const { return *std::get_if<Number>(&data_); }  // only of that kind
+  Date date() const { return *std::get_if<Date>(&data_); }               // only of that kind
+  std::string_view bytes() const;                                        // of Text or Raw
+
+ private:
+  Value(std::variant<std::monostate, Number, Date, std::string_view, std::string> data, Kind kind)
+      : data_(std::move(data)), kind_(kind) {}
+
+  std::variant<std::monostate, Number, Date, std::string_view, std::string> data_;
+  Kind kind_ = Kind::Null;
+};
+
+// What an evaluation needs to know of its surroundings.
+struct Context {
+  Date now;  // SYSDATE of the running statement; also the century of RR and the month of a bare TO_DATE
+};
+
+// Oracle's implicit conversions. NULL must be asked for before: these are for values that are there.
+Number toNumber(const Value& value);                      // ORA-01722; ORA-00932 for a DATE
+std::string toText(const Value& value);                   // a DATE as DD-MON-RR, RAW as hexadecimal digits
+Date toDate(const Value& value, const Context& context);  // text as DD-MON-RR; ORA-018xx
+std::string toRaw(const Value& value);                    // text as hexadecimal digits, ORA-01465
+
+// The type that two sides of a comparison are brought to: a number wins over text, a date over text,
+// RAW against text is text; text is Char (blank-padded) only if both sides are.
+SqlType comparisonType(SqlType a, SqlType b);
+// -1, 0, 1 after bringing both to `type`; neither may be NULL. Text compares by its bytes.
+int compareAs(SqlType type, const Value& a, const Value& b, const Context& context);
+int compareText(std::string_view a, std::string_view b);
+int compareBlankPadded(std::string_view a, std::string_view b);
+
+}  // namespace oracle_sql
