@@ -1,6 +1,7 @@
 #include "platform/database.h"
 
 #include "platform/ascii.h"
+#include "platform/numeric_text.h"
 
 namespace kestrelix {
 
@@ -10,6 +11,17 @@ DatabaseError::DatabaseError(std::string sqlState, int nativeCode, const std::st
       sqlState_(std::move(sqlState)),
       nativeCode_(nativeCode),
       statement_(std::move(statement)) {}
+
+void Parameter::value(std::string_view text) {
+  if (type_ == ServerType::String) {
+    value_ = text;
+    return;
+  }
+  const std::string_view trimmed = trimBlanks(text);
+  if (!text.empty() && !isNumericText(trimmed))
+    throw DatabaseError("22018", 1722, "a number bind can't take the text '" + std::string(text) + "'");
+  value_ = trimmed;
+}
 
 void Parameters::Add(std::string_view name, int initialValue, int /*direction*/) {
   Parameter parameter;

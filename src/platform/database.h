@@ -19,7 +19,8 @@ enum class ServerType { Number = 2, String = 5 };
 /// what() goes to standard error and never into a box.
 class DatabaseError : public std::runtime_error {
  public:
-  DatabaseError(std::string sqlState, int nativeCode, const std::string& driverText, std::string statement = {});
+  DatabaseError(std::string sqlState, int nativeCode, const std::string& driverText,
+                std::string statement = {});
 
   const std::string& sqlState() const { return sqlState_; }
   int nativeCode() const { return nativeCode_; }
@@ -35,7 +36,8 @@ class DatabaseError : public std::runtime_error {
 class Parameter {
  public:
   void serverType(ServerType type) { type_ = type; }
-  void value(std::string text) { value_ = std::move(text); }
+  /// Fails when the type is Number and the text, without blanks around it, is neither empty nor a number.
+  void value(std::string_view text);
 
   ServerType serverType() const { return type_; }
   const std::string& value() const { return value_; }
@@ -71,8 +73,8 @@ class Field {
  public:
   Field(std::string_view column, const std::optional<std::string>* value) : column_(column), value_(value) {}
 
-  /// The column's text. A character column as it is; a NUMBER column as plain decimal text with a digit before
-  /// the point ("0.5"). NULL fails, as the conversion of a null does.
+  /// The column's text. A character column as it is; a NUMBER column as plain decimal text with a digit
+  /// before the point ("0.5"). NULL fails, as the conversion of a null does.
   const std::string& value() const;
   bool isNull() const { return !value_->has_value(); }
 
@@ -99,7 +101,8 @@ class Dynaset {
   virtual const std::vector<std::string>& columns() const = 0;
 };
 
-/// Options of DbCreateDynaset: read-only (4), no client-side cache (8), Oracle mode (16). No other value occurs.
+/// Options of DbCreateDynaset: read-only (4), no client-side cache (8), Oracle mode (16). No other value
+/// occurs.
 inline constexpr long kDynasetOptions = 28;
 /// Option of OpenDatabase: Oracle mode.
 inline constexpr long kDatabaseOptions = 1;

@@ -4,8 +4,8 @@
 
 namespace kestrelix {
 
-/// The help viewer. `command` 1 shows the table of contents of the help file at `path` (a file that is missing
-/// shows nothing); 18 closes every help window.
+/// The help viewer. `command` 1 shows the table of contents of the help file at `path` (a file that is
+/// missing shows nothing); 18 closes every help window.
 class HelpViewer {
  public:
   static constexpr int kDisplayContents = 1;

@@ -11,8 +11,8 @@ class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
 
-  /// Shows one box, titled "Kestrelix", and returns when it has been confirmed. `underlying` is the text of the
-  /// error behind it, if any: it goes to standard error, never into the box.
+  /// Shows one box, titled "Kestrelix", and returns when it has been confirmed. `underlying` is the text of
+  /// the error behind it, if any: it goes to standard error, never into the box.
   virtual void show(BoxIcon icon, const std::string& text, const std::string& underlying = {}) = 0;
 };
 

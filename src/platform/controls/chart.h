@@ -7,8 +7,8 @@
 
 namespace kestrelix {
 
-/// A two-dimensional chart with one data column; its rows are the points of the page on show. Row and the row of
-/// a label count from 1.
+/// A two-dimensional chart with one data column; its rows are the points of the page on show. Row and the row
+/// of a label count from 1.
 class Chart : public Control {
  public:
   /// The value axis. Values are exact decimal texts, so that 0.07 stays 0.07.

@@ -17,7 +17,11 @@ std::size_t index(int i) { return static_cast<std::size_t>(i); }
 }  // namespace
 
 Grid::Grid(std::string name, int width)
-    : Control(std::move(name)), cells_(2, std::vector<std::string>(2)), widths_(2, kDefaultColWidth), cols_(2), width_(width) {}
+    : Control(std::move(name)),
+      cells_(2, std::vector<std::string>(2)),
+      widths_(2, kDefaultColWidth),
+      cols_(2),
+      width_(width) {}
 
 void Grid::Rows(int rows) {
   if (rows < 0 || rows < fixedRows_) refuse(*this, "Rows", rows);
@@ -49,7 +53,8 @@ void Grid::FixedCols(int cols) {
   changed();
 }
 
-/// A new shape brings the current cell back to the first one that is no heading; with headings alone it is row 0.
+/// A new shape brings the current cell back to the first one that is no heading; with headings alone it is
+/// row 0.
 void Grid::clampCurrent() {
   const auto first = [](int fixed, int count) { return fixed < count ? fixed : std::max(0, count - 1); };
   const auto clamp = [&](int value, int fixed, int count) {

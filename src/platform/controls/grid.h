@@ -17,7 +17,8 @@ class Grid : public Control {
   int Cols() const { return cols_; }
   int FixedRows() const { return fixedRows_; }
   int FixedCols() const { return fixedCols_; }
-  /// New cells are empty. Each fails with std::out_of_range when negative, or below the fixed rows or columns.
+  /// New cells are empty. Each fails with std::out_of_range when negative, or below the fixed rows or
+  /// columns.
   void Rows(int rows);
   void Cols(int cols);
   /// Fails with std::out_of_range when it does not leave one row (column) that moves.
@@ -58,8 +59,8 @@ class Grid : public Control {
   /// Shows what has been written since the grid was hidden.
   void Refresh();
 
-  /// The user's clicks on a cell. A click on a heading row moves nothing and raises nothing, so that the current
-  /// row is always one with data when there is any.
+  /// The user's clicks on a cell. A click on a heading row moves nothing and raises nothing, so that the
+  /// current row is always one with data when there is any.
   void userClick(int row, int col);
   void userDoubleClick(int row, int col);
   Signal<> Click;

@@ -7,8 +7,8 @@
 
 namespace kestrelix {
 
-/// A list of texts with one selected entry. Setting ListIndex, from code or by the user, raises Click, also for
-/// the entry that is selected already: that is how a report is asked for again.
+/// A list of texts with one selected entry. Setting ListIndex, from code or by the user, raises Click, also
+/// for the entry that is selected already: that is how a report is asked for again.
 class ListBox : public Control {
  public:
   using Control::Control;
@@ -20,8 +20,8 @@ class ListBox : public Control {
   int ListCount() const { return static_cast<int>(items_.size()); }
   /// The selected entry from 0, or -1.
   int ListIndex() const { return index_; }
-  /// Selects an entry and raises Click. Fails with std::out_of_range outside of -1 .. ListCount() - 1; -1 clears
-  /// the selection without a click.
+  /// Selects an entry and raises Click. Fails with std::out_of_range outside of -1 .. ListCount() - 1; -1
+  /// clears the selection without a click.
   void ListIndex(int index);
   const std::string& List(int index) const { return items_.at(static_cast<std::size_t>(index)).text; }
   long ItemData(int index) const { return items_.at(static_cast<std::size_t>(index)).data; }

@@ -1,0 +1,32 @@
+#include "navigation/clsDbInstance.h"
+
+#include "platform/guarded.h"
+
+namespace kestrelix {
+namespace {
+
+const std::string kStatement =
+    "SELECT DISTINCT di.DBID, di.DB_NAME, di.VERSION, di.INSTANCE_NUMBER, di.INSTANCE_NAME, di.HOST_NAME, "
+    "di.PARALLEL from stats$database_instance di order by di.DBID, di.INSTANCE_NUMBER ";
+
+}  // namespace
+
+void clsDbInstance::Initialize(Database& database, MessageBoxes& boxes) {
+  database_ = &database;
+  boxes_ = &boxes;
+  rows_.clear();
+}
+
+bool clsDbInstance::getDB_INSTANCE() {
+  return guarded(*boxes_, "clsDbInstance", "getDB_INSTANCE", [this] {
+    const auto dynaset = database_->DbCreateDynaset(kStatement, kDynasetOptions);
+    for (; !dynaset->Eof(); dynaset->MoveNext())
+      rows_.push_back({dynaset->Fields("DBID").value(), dynaset->Fields("DB_NAME").value(),
+                       dynaset->Fields("VERSION").value(), dynaset->Fields("INSTANCE_NUMBER").value(),
+                       dynaset->Fields("INSTANCE_NAME").value(), dynaset->Fields("HOST_NAME").value(),
+                       dynaset->Fields("PARALLEL").value()});
+    dynaset->Close();
+  });
+}
+
+}  // namespace kestrelix

@@ -1,0 +1,121 @@
+#include "sections/SectionList.h"
+
+#include "sections/summary/ModuleDispCacheSize.h"
+#include "sections/summary/ModuleDispSnapshot.h"
+#include "sections/summary/clsCacheSize.h"
+#include "sections/summary/clsSnapshot.h"
+
+namespace kestrelix {
+namespace {
+
+/// A Section that is listed and shows nothing yet.
+SectionEntry pending(std::string_view text, int code, Versions versions, bool needsRac) {
+  return {text, code, versions, needsRac, false, nullptr, nullptr, refused()};
+}
+
+}  // namespace
+
+/// {text, code, versions, needs RAC, SQL buttons, section object, All view, Col view}
+SectionList sectionList() {
+  // clang-format off
+  static const std::vector<SectionEntry> sections = {
+      {"Snapshot", 0, kAllVersions, false, false, make<clsSnapshot>, gDispSnapshot_All, byRow(gDispSnapshot_Col)},
+      {"Cache Sizes", 1, kAllVersions, false, false, make<clsCacheSize>, gDispCacheSize_All, byRow(gDispCacheSize_Col)},
+      pending("Load Profile", 2, kAllVersions, false),
+      pending("Instance Efficiency", 3, kAllVersions, false),
+      pending("Top 5 Timed Events", 4, kAllVersions, false),
+      pending("Host CPU", 5, V10_11, false),
+      pending("Instance CPU", 6, V10_11, false),
+      pending("Virtual Memory Paging", 7, V10_11, false),
+      pending("Memory Statistics", 8, V10_11, false),
+      pending("Time Model System Stats", 9, V10_11, false),
+      pending("RAC Statistics", 10, V10_11, true),
+      pending("Global Cache Load Profile", 11, V10_11, true),
+      pending("Global Cache Efficiency", 12, V10_11, true),
+      pending("GCS/GES Workload Characteristics", 13, V10_11, true),
+      pending("GCS/GES Messaging Statistics", 14, V10_11, true),
+      pending("Wait Events", 20, kAllVersions, false),
+      pending("Background Wait Events", 21, kAllVersions, false),
+      pending("Foreground Wait Events", 22, V11, false),
+      pending("Wait Event Histogram", 23, V10_11, false),
+      pending("SQL ordered by CPU TOTAL", 30, V10_11, false),
+      pending("SQL ordered by CPU EXEC", 31, V10_11, false),
+      pending("SQL ordered by Elapsed TOTAL", 32, V10_11, false),
+      pending("SQL ordered by Elapsed EXEC", 33, V10_11, false),
+      pending("SQL ordered by Gets TOTAL", 34, kAllVersions, false),
+      pending("SQL ordered by Gets EXEC", 35, kAllVersions, false),
+      pending("SQL ordered by Reads TOTAL", 36, kAllVersions, false),
+      pending("SQL ordered by Reads EXEC", 37, kAllVersions, false),
+      pending("SQL ordered by I/O Wait TOTAL", 38, V10_11, false),
+      pending("SQL ordered by I/O Wait EXEC", 39, V10_11, false),
+      pending("SQL ordered by Cluster TOTAL", 40, V10_11, true),
+      pending("SQL ordered by Cluster EXEC", 41, V10_11, true),
+      pending("SQL ordered by Executions", 42, kAllVersions, false),
+      pending("SQL ordered by Parse Calls", 43, kAllVersions, false),
+      pending("SQL ordered by Sharable Memory", 44, kAllVersions, false),
+      pending("SQL ordered by Version Count", 45, kAllVersions, false),
+      pending("Instance Activity Stats[1]", 50, kAllVersions, false),
+      pending("Instance Activity Stats[2]", 51, V10_11, false),
+      pending("Instance Activity Stats[3]", 52, V10_11, false),
+      pending("OS Statistics", 60, V10_11, false),
+      pending("OS Statistics - detail", 61, V11, false),
+      pending("IO Stat by Function - summary", 62, V11, false),
+      pending("IO Stat by Function - detail", 63, V11, false),
+      pending("Tablespace IO Stats", 64, kAllVersions, false),
+      pending("File IO Stats", 65, kAllVersions, false),
+      pending("File Read Histogram Stats", 66, V10_11, false),
+      pending("Buffer Pool Statistics", 70, kAllVersions, false),
+      pending("Instance Recovery Stats", 71, kAllVersions, false),
+      pending("Memory Target Advice", 72, V11, false),
+      pending("Memory Dynamic Components", 73, V11, false),
+      pending("Memory Resize Operations", 74, V11, false),
+      pending("Buffer Pool Advisory", 75, kAllVersions, false),
+      pending("Buffer wait Statistics", 76, kAllVersions, false),
+      pending("PGA Aggr Target Stats[1]", 80, kAllVersions, false),
+      pending("PGA Aggr Target Stats[2]", 81, kAllVersions, false),
+      pending("PGA Aggr Target Histogram", 82, kAllVersions, false),
+      pending("PGA Memory Advisory", 83, kAllVersions, false),
+      pending("Process Memory Summary Stats", 84, V10_11, false),
+      pending("Top Process Memory (by component)", 85, V10_11, false),
+      pending("Enqueue Activity", 90, kAllVersions, false),
+      pending("Rollback Segment Stats", 100, kAllVersions, false),
+      pending("Rollback Segment Storage", 101, kAllVersions, false),
+      pending("Undo Segment Summary", 102, kAllVersions, false),
+      pending("Undo Segment Stats", 103, kAllVersions, false),
+      pending("Latch Activity", 111, kAllVersions, false),
+      pending("Latch Sleep Breakdown", 112, kAllVersions, false),
+      pending("Latch Miss Sources", 113, kAllVersions, false),
+      pending("Mutex Sleep", 114, V10_11, false),
+      pending("Segments by Logical Reads", 120, kAllVersions, false),
+      pending("Segments by Physical Reads", 121, kAllVersions, false),
+      pending("Segments by Row Lock Waits", 122, kAllVersions, false),
+      pending("Segments by ITL Waits", 123, kAllVersions, false),
+      pending("Segments by Buffer Busy Waits", 124, kAllVersions, false),
+      pending("Segments by GC Buffer Busy Waits", 130, V10_11, true),
+      pending("Segments by CR Blocks Received", 131, V10_11, true),
+      pending("Segments By CU Blocks Received", 132, V10_11, true),
+      pending("Dictionary Cache Stats[1]", 140, kAllVersions, false),
+      pending("Dictionary Cache Stats[2]", 141, V10_11, true),
+      pending("Library Cache Activity[1]", 142, kAllVersions, false),
+      pending("Library Cache Activity[2]", 143, V10_11, true),
+      pending("Global Enqueue Stats", 150, V10_11, true),
+      pending("Global CR Served Stats", 151, V10_11, true),
+      pending("Global CURRENT Served Stats", 152, V10_11, true),
+      pending("Global Cache Transfer Stats", 153, V10_11, true),
+      pending("Interconnect Ping Stats", 154, V11, true),
+      pending("Dynamic Remastering Stats", 155, V10_11, true),
+      pending("Shared Pool Advisory", 160, kAllVersions, false),
+      pending("Java Pool Advisory", 161, V10_11, false),
+      pending("Cache Size Changes", 162, V10_11, false),
+      pending("SGA Target Advisory", 163, V10_11, false),
+      pending("SGA Memory Summary", 164, kAllVersions, false),
+      pending("SGA breakdown difference", 165, kAllVersions, false),
+      pending("SQL Memory Statistics", 166, V10_11, false),
+      pending("Resource Limit Stats", 170, kAllVersions, false),
+      pending("init.ora Parameters", 180, kAllVersions, false),
+  };
+  // clang-format on
+  return sections;
+}
+
+}  // namespace kestrelix

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "report/SectionEntry.h"
+
+namespace kestrelix {
+
+void gDispCacheSize_All(Workspace& workspace, const std::string& version);
+void gDispCacheSize_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+
+}  // namespace kestrelix
