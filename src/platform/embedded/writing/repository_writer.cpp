@@ -1,0 +1,190 @@
+#include "platform/embedded/writing/repository_writer.h"
+
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "platform/ascii.h"
+#include "platform/embedded/writing/indexes.h"
+#include "platform/embedded/writing/password_hash.h"
+
+namespace kestrelix::embedded {
+
+namespace {
+
+constexpr int kApplicationId = 0x4B535458;
+constexpr int kLayoutVersion = 1;
+
+std::string identifier(std::string_view name) {
+  std::string result = "\"";
+  for (const char c : name) result += c == '"' ? std::string("\"\"") : std::string(1, c);
+  return result + "\"";
+}
+
+std::string listed(const std::vector<std::string>& names) {
+  std::string result;
+  for (const std::string& name : names) result += (result.empty() ? "" : ", ") + identifier(name);
+  return result;
+}
+
+std::string failure(sqlite3* connection) { return sqlite3_errmsg(connection); }
+
+// On disk before the rename, so that a power cut cannot leave a named file with holes.
+void flush(const std::filesystem::path& path) {
+  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  const bool flushed = file >= 0 && ::fsync(file) == 0;
+  const int reason = errno;
+  if (file >= 0) ::close(file);
+  if (!flushed) throw RepositoryError(path.string() + ": cannot be written: " + std::strerror(reason));
+}
+
+}  // namespace
+
+TableWriter::TableWriter(sqlite3* connection, std::string name, std::vector<NewColumn> columns)
+    : connection_(connection), name_(std::move(name)), columns_(std::move(columns)) {
+  std::vector<std::string> names;
+  std::string marks;
+  for (NewColumn& column : columns_) {
+    column.name = asciiLower(column.name);
+    names.push_back(column.name);
+    marks += marks.empty() ? "?" : ",?";
+  }
+  const std::string create = "CREATE TABLE " + identifier(name_) + " (" + listed(names) + ")";
+  const std::string insert = "INSERT INTO " + identifier(name_) + " VALUES (" + marks + ")";
+  if (sqlite3_exec(connection_, create.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK ||
+      sqlite3_prepare_v3(connection_, insert.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &statement_, nullptr) !=
+          SQLITE_OK)
+    throw RepositoryError("table " + name_ + ": " + failure(connection_));
+  integral_.assign(columns_.size(), true);
+}
+
+TableWriter::~TableWriter() { sqlite3_finalize(statement_); }
+
+void TableWriter::insert(std::span<const Cell> cells) {
+  if (cells.size() > columns_.size()) throw RepositoryError("table " + name_ + ": a row of too many values");
+  const int count = static_cast<int>(cells.size());
+  for (int i = 0; i < count; ++i) {
+    const Cell& cell = cells[static_cast<std::size_t>(i)];
+    const std::string_view view = cell.view();
+    const int size = static_cast<int>(view.size());
+    switch (cell.kind()) {
+      case Cell::Kind::Null:
+        sqlite3_bind_null(statement_, i + 1);
+        break;
+      case Cell::Kind::Integer:
+        sqlite3_bind_int64(statement_, i + 1, cell.integer());
+        break;
+      case Cell::Kind::Text:
+        sqlite3_bind_text(statement_, i + 1, view.data(), size, SQLITE_STATIC);
+        break;
+      case Cell::Kind::Number:
+        integral_[static_cast<std::size_t>(i)] = false;
+        [[fallthrough]];
+      case Cell::Kind::Raw:
+        sqlite3_bind_blob(statement_, i + 1, view.data(), size, SQLITE_STATIC);
+        break;
+    }
+  }
+  for (int i = count; i < static_cast<int>(columns_.size()); ++i) sqlite3_bind_null(statement_, i + 1);
+  const int result = sqlite3_step(statement_);
+  sqlite3_reset(statement_);
+  if (result != SQLITE_DONE) throw RepositoryError("table " + name_ + ": " + failure(connection_));
+}
+
+RepositoryWriter::RepositoryWriter(std::filesystem::path path, const NewAccount& account,
+                                   std::string_view createdBy)
+    : path_(std::move(path)), unfinished_(path_.string() + ".unfinished-" + std::to_string(::getpid())) {
+  std::error_code ignored;
+  std::filesystem::remove(unfinished_, ignored);
+  const int result =
+      sqlite3_open_v2(unfinished_.c_str(), &connection_,
+                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+  try {
+    if (result != SQLITE_OK) throw RepositoryError(sqlite3_errstr(result));
+    // A failure drops the whole file, so nothing need be undone and no journal is kept.
+    execute("PRAGMA journal_mode = OFF");
+    execute("PRAGMA synchronous = OFF");
+    execute("PRAGMA locking_mode = EXCLUSIVE");
+    execute("PRAGMA cache_size = -65536");
+    execute("PRAGMA temp_store = MEMORY");
+    execute("PRAGMA application_id = " + std::to_string(kApplicationId));
+    execute("PRAGMA user_version = " + std::to_string(kLayoutVersion));
+    execute("BEGIN");
+    writeSettings(account, createdBy);
+  } catch (const std::exception& error) {
+    sqlite3_close(connection_);
+    std::filesystem::remove(unfinished_, ignored);
+    throw RepositoryError(path_.string() + ": cannot be written: " + error.what());
+  }
+}
+
+RepositoryWriter::~RepositoryWriter() {
+  tables_.clear();
+  if (connection_ != nullptr) sqlite3_close(connection_);
+  std::error_code ignored;
+  std::filesystem::remove(unfinished_, ignored);
+}
+
+void RepositoryWriter::execute(const std::string& sql) {
+  if (sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+    throw RepositoryError(path_.string() + ": cannot be written: " + failure(connection_));
+}
+
+void RepositoryWriter::writeSettings(const NewAccount& account, std::string_view createdBy) {
+  TableWriter settings(connection_, "kestrelix$setting", {{"name"}, {"value"}});
+  const std::string user = asciiUpper(account.user);
+  const std::string hash = saltedHash(account.password, account.salt);
+  settings.insert(std::array<Cell, 2>{"user_name", user});
+  settings.insert(std::array<Cell, 2>{"password_hash", hash});
+  settings.insert(std::array<Cell, 2>{"created_by", createdBy});
+}
+
+TableWriter& RepositoryWriter::addTable(std::string_view name, std::vector<NewColumn> columns) {
+  const std::string lower = asciiLower(name);
+  auto writer = std::make_unique<TableWriter>(connection_, lower, std::move(columns));
+  return *tables_.emplace(lower, std::move(writer)).first->second;
+}
+
+TableWriter* RepositoryWriter::table(std::string_view name) {
+  const auto found = tables_.find(name);
+  return found == tables_.end() ? nullptr : found->second.get();
+}
+
+void RepositoryWriter::writeColumns() {
+  TableWriter catalogue(connection_, "kestrelix$column",
+                        {{"table_name"}, {"column_name"}, {"position"}, {"oracle_type"}, {"integral"}});
+  for (const auto& [name, table] : tables_) {
+    for (std::size_t i = 0; i < table->columns_.size(); ++i) {
+      const NewColumn& column = table->columns_[i];
+      const bool integral = column.type == statspack::Type::Number && table->integral_[i];
+      catalogue.insert(
+          std::array<Cell, 5>{name, column.name, i + 1, statspack::typeName(column.type), integral ? 1 : 0});
+    }
+  }
+}
+
+void RepositoryWriter::finish() {
+  for (const auto& [name, table] : tables_) {
+    std::vector<std::string> columns;
+    for (const NewColumn& column : table->columns_) columns.push_back(column.name);
+    int number = 0;
+    for (const auto& index : indexesOf(name, columns))
+      execute("CREATE INDEX " + identifier(name + "_" + std::to_string(++number)) + " ON " +
+              identifier(name) + " (" + listed(index) + ")");
+  }
+  writeColumns();
+  execute("ANALYZE");
+  execute("COMMIT");
+  tables_.clear();
+  sqlite3_close(connection_);
+  connection_ = nullptr;
+  flush(unfinished_);
+  std::error_code error;
+  std::filesystem::rename(unfinished_, path_, error);
+  if (error) throw RepositoryError(path_.string() + ": cannot be written: " + error.message());
+}
+
+}  // namespace kestrelix::embedded
