@@ -2,8 +2,8 @@
 
 #include "sections/summary/ModuleDispCacheSize.h"
 #include "sections/summary/ModuleDispSnapshot.h"
-#include "sections/summary/clsCacheSize.h"
-#include "sections/summary/clsSnapshot.h"
+#include "sections/waits/ModuleDispBackgroundWaitEvents.h"
+#include "sections/waits/ModuleDispWaitEvents.h"
 
 namespace kestrelix {
 namespace {
@@ -34,8 +34,8 @@ SectionList sectionList() {
       pending("Global Cache Efficiency", 12, V10_11, true),
       pending("GCS/GES Workload Characteristics", 13, V10_11, true),
       pending("GCS/GES Messaging Statistics", 14, V10_11, true),
-      pending("Wait Events", 20, kAllVersions, false),
-      pending("Background Wait Events", 21, kAllVersions, false),
+      {"Wait Events", 20, kAllVersions, false, false, make<clsWaitEvents>, gDispWaitEvents_All, byKeys({1}, gDispWaitEvents_Col)},
+      {"Background Wait Events", 21, kAllVersions, false, false, make<clsBackgroundWaitEvents>, gDispBackgroundWaitEvents_All, byKeys({1}, gDispBackgroundWaitEvents_Col)},
       pending("Foreground Wait Events", 22, V11, false),
       pending("Wait Event Histogram", 23, V10_11, false),
       pending("SQL ordered by CPU TOTAL", 30, V10_11, false),

@@ -1,7 +1,6 @@
 #include "sections/summary/ModuleDispCacheSize.h"
 
 #include "report/GridRendering.h"
-#include "sections/summary/clsCacheSize.h"
 
 namespace kestrelix {
 namespace {

@@ -1,7 +1,6 @@
 #include "sections/summary/ModuleDispSnapshot.h"
 
 #include "report/GridRendering.h"
-#include "sections/summary/clsSnapshot.h"
 
 namespace kestrelix {
 namespace {

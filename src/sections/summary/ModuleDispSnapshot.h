@@ -1,6 +1,7 @@
 #pragma once
 
 #include "report/SectionEntry.h"
+#include "sections/summary/clsSnapshot.h"
 
 namespace kestrelix {
 

@@ -1,0 +1,77 @@
+#include "sections/shared/totals.h"
+
+namespace kestrelix {
+
+Bind totalWaitTime() {
+  const auto waited = [](const std::string& snapshot) {
+    return R"sql(
+      (select sum(se.time_waited_micro) AS TWT
+         from stats$system_event se
+        where se.dbid = :B1
+          and se.instance_number = :B2
+          and se.snap_id = )sql" +
+           snapshot + R"sql(
+          and se.event not in (select event from stats$idle_event)))sql";
+  };
+  return {"TWT", ServerType::Number, "getTWT",
+          fold("select e.TWT - b.TWT AS TWT from " + waited(":B3") + " b," + waited(":B4") + " e")};
+}
+
+Bind totalCpu() {
+  const auto used = [](const std::string& snapshot) {
+    return R"sql(
+      (select ss.value AS TCPU
+         from stats$snapshot st, stats$sysstat ss
+        where st.dbid = :B1
+          and st.instance_number = :B2
+          and st.snap_id = )sql" +
+           snapshot + R"sql(
+          and ss.dbid(+) = st.dbid
+          and ss.instance_number(+) = st.instance_number
+          and ss.snap_id(+) = st.snap_id
+          and ss.name = 'CPU used by this session'))sql";
+  };
+  return {"TCPU", ServerType::Number, "getTCPU",
+          fold("select e.TCPU - b.TCPU AS TCPU from " + used(":B3") + " b," + used(":B4") + " e")};
+}
+
+Bind timedStatistics() {
+  const auto parameter = [](const std::string& value, const std::string& snapshot) {
+    return "(select " + value + R"sql( AS VALUE
+         from stats$parameter pa
+        where pa.dbid = :B1
+          and pa.instance_number = :B2
+          and pa.snap_id = )sql" +
+           snapshot + R"sql(
+          and pa.name in ('__' || 'timed_statistics', 'timed_statistics')))sql";
+  };
+  // A missing parameter is null at the start and a word at the end, so that it equals nothing.
+  return {"TIMSTAT", ServerType::String, "getTIMSTAT",
+          fold("select decode(a.VALUE,b.VALUE,'TRUE','FALSE') AS TIMSTAT from " +
+               parameter("max(pa.value)", ":B3") + " a," + parameter("nvl(max(pa.value),'MISSING')", ":B4") +
+               " b")};
+}
+
+Bind transactions() {
+  const auto ended = [](const std::string& snapshot) {
+    return R"sql(
+      (select syc.VALUE + syr.VALUE AS TRAN
+         from stats$snapshot st, stats$sysstat syc, stats$sysstat syr
+        where st.dbid = :B1
+          and st.instance_number = :B2
+          and st.snap_id = )sql" +
+           snapshot + R"sql(
+          and syc.dbid = st.dbid
+          and syc.instance_number = st.instance_number
+          and syc.snap_id = st.snap_id
+          and syr.dbid = st.dbid
+          and syr.instance_number = st.instance_number
+          and syr.snap_id = st.snap_id
+          and syc.NAME = 'user commits'
+          and syr.NAME = 'user rollbacks'))sql";
+  };
+  return {"TRAN", ServerType::Number, "getTRAN",
+          fold("select e.TRAN - b.TRAN AS TRAN from " + ended(":B3") + " b," + ended(":B4") + " e")};
+}
+
+}  // namespace kestrelix
