@@ -7,7 +7,7 @@
 
 #include "oracle_sql/types.h"
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 struct CatalogueColumn {
   std::string name;  ///< as Oracle stores it: upper case
@@ -34,4 +34,4 @@ class Catalogue {
   }
 };
 
-}  // namespace kestrelix::oracle_sql
+}  // namespace oracle_sql

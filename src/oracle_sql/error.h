@@ -7,7 +7,7 @@
 
 #include "oracle_sql/place.h"
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 /// Whose fault a failure is.
 enum class ErrorKind {
@@ -51,4 +51,4 @@ class SqlError : public std::runtime_error {
   Place place_;
 };
 
-}  // namespace kestrelix::oracle_sql
+}  // namespace oracle_sql

@@ -9,11 +9,11 @@
 #include "oracle_sql/place.h"
 #include "oracle_sql/types.h"
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 struct Query;
 struct FromItem;
-struct FunctionInfo;
+struct Function;
 
 template <class T>
 using List = std::pmr::vector<T>;
@@ -221,8 +221,8 @@ struct Call : Expr {
   Keep* keep = nullptr;
   Window* over = nullptr;
 
-  CallRole role = CallRole::Unresolved;    ///< resolved
-  const FunctionInfo* function = nullptr;  ///< resolved: the entry of the function table
+  CallRole role = CallRole::Unresolved;  ///< resolved
+  const Function* function = nullptr;    ///< resolved: the entry of the function table
 };
 
 /// CAST(x AS type).
@@ -336,4 +336,4 @@ const T* as(const Expr* e) {
   return e && e->kind == T::kKind ? static_cast<const T*>(e) : nullptr;
 }
 
-}  // namespace kestrelix::oracle_sql
+}  // namespace oracle_sql

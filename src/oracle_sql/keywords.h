@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 /// Words that the grammar asks for. Words that Oracle reserves and the grammar never asks for are Other.
 // clang-format off
@@ -31,4 +31,4 @@ Word wordOf(std::string_view text);
 /// The words that start a statement which is no query (INSERT, CREATE, BEGIN, ...).
 bool startsOtherStatement(std::string_view word);
 
-}  // namespace kestrelix::oracle_sql
+}  // namespace oracle_sql

@@ -6,10 +6,10 @@
 #include "oracle_sql/error.h"
 #include "oracle_sql/tree.h"
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 /// The tree of one query, names as written and nothing resolved. Anything but a query is refused. Throws
 /// SqlError.
 Tree parse(std::string_view statement);
 
-}  // namespace kestrelix::oracle_sql
+}  // namespace oracle_sql

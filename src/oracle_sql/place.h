@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 /// A place in the text of a statement: byte offset from 0, line and column from 1 (columns count characters).
 struct Place {
@@ -12,4 +12,8 @@ struct Place {
   std::uint32_t column = 1;
 };
 
+}  // namespace oracle_sql
+
+namespace kestrelix::oracle_sql {
+using namespace ::oracle_sql;
 }  // namespace kestrelix::oracle_sql

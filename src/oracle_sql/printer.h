@@ -5,7 +5,7 @@
 
 #include "oracle_sql/tree.h"
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 /// Oracle text of the tree on one line. Parsing it again gives an equal tree.
 std::string print(const Query& query);
@@ -18,4 +18,4 @@ std::string dump(const Query& query);
 bool equal(const Query& a, const Query& b);
 bool equal(const Expr& a, const Expr& b);
 
-}  // namespace kestrelix::oracle_sql
+}  // namespace oracle_sql

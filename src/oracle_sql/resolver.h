@@ -9,7 +9,7 @@
 #include "oracle_sql/error.h"
 #include "oracle_sql/tree.h"
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 /// The type of the bind of that name (upper case), or nothing where there is none (ORA-01008).
 using BindTypes = std::function<std::optional<TypeKind>(std::string_view name)>;
@@ -22,4 +22,4 @@ inline std::optional<TypeKind> allNumbers(std::string_view) { return TypeKind::N
 /// needed. The catalogue must outlive the tree. Throws SqlError.
 void resolve(Tree& tree, const Catalogue& catalogue, const BindTypes& binds);
 
-}  // namespace kestrelix::oracle_sql
+}  // namespace oracle_sql

@@ -9,7 +9,7 @@
 #include "oracle_sql/keywords.h"
 #include "oracle_sql/place.h"
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 enum class TokenKind : std::uint8_t {
   Name,        ///< unquoted identifier or keyword
@@ -39,7 +39,6 @@ enum class Symbol : std::uint8_t {
   LessEqual,
   Greater,
   GreaterEqual,
-  Semicolon,
   At,
   Arrow,
 };
@@ -73,4 +72,4 @@ struct BindUse {
 /// comment is none. Throws SqlError where the statement has no tokens.
 std::vector<BindUse> bindUses(std::string_view statement);
 
-}  // namespace kestrelix::oracle_sql
+}  // namespace oracle_sql

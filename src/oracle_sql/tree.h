@@ -7,7 +7,7 @@
 
 #include "oracle_sql/expression.h"
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 struct CatalogueTable;
 
@@ -211,4 +211,4 @@ class Tree {
   Query* query_ = nullptr;
 };
 
-}  // namespace kestrelix::oracle_sql
+}  // namespace oracle_sql

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace kestrelix::oracle_sql {
+namespace oracle_sql {
 
 enum class TypeKind : std::uint8_t {
   Unresolved,  ///< before names and types are known
@@ -49,4 +49,4 @@ Type commonType(Type a, Type b);
 /// NUMBER, VARCHAR2, CHAR, DATE, RAW, NULL, CONDITION.
 const char* typeName(TypeKind kind);
 
-}  // namespace kestrelix::oracle_sql
+}  // namespace oracle_sql

@@ -1,0 +1,407 @@
+// Values and conditions. A value is never taken for a condition or the other way round; only inside brackets
+// the two are told apart after they were read.
+#include "oracle_sql/parser_state.h"
+
+namespace oracle_sql {
+
+Expr* Parser::value() { return additive(false); }
+
+Expr* Parser::condition() {
+  Expr* e = orTerms();
+  requireCondition(*e);
+  return e;
+}
+
+// The token behind a value that should have been compared with something.
+void Parser::requireCondition(const Expr& e) {
+  if (!isCondition(e)) fail(920, "invalid relational operator");
+}
+
+void Parser::requireValue(const Expr& e, Place operatorPlace) {
+  if (isCondition(e)) fail(933, "SQL command not properly ended", operatorPlace);
+  if (e.kind == ExprKind::Row) fail(907, "missing right parenthesis", operatorPlace);
+}
+
+Expr* Parser::orTerms() {
+  Expr* first = andTerms();
+  if (!is(Keyword::Or)) return first;
+  requireCondition(*first);
+  auto* node = this->node<OrExpr>(first->place);
+  node->terms.push_back(first);
+  above(*node, first);
+  while (accept(Keyword::Or)) {
+    Expr* next = andTerms();
+    requireCondition(*next);
+    node->terms.push_back(next);
+    above(*node, next);
+  }
+  return node;
+}
+
+Expr* Parser::andTerms() {
+  Expr* first = notTerm();
+  if (!is(Keyword::And)) return first;
+  requireCondition(*first);
+  auto* node = this->node<AndExpr>(first->place);
+  node->terms.push_back(first);
+  above(*node, first);
+  while (accept(Keyword::And)) {
+    Expr* next = notTerm();
+    requireCondition(*next);
+    node->terms.push_back(next);
+    above(*node, next);
+  }
+  return node;
+}
+
+Expr* Parser::notTerm() {
+  if (!is(Keyword::Not)) return predicate();
+  const Deeper deeper(*this);
+  auto* node = this->node<NotExpr>(take().place);
+  node->operand = notTerm();
+  requireCondition(*node->operand);
+  above(*node, node->operand);
+  return node;
+}
+
+Expr* Parser::comparison(Expr* left, CompareOp op) {
+  const Place place = take().place;
+  auto* node = this->node<Compare>(place);
+  node->op = op;
+  node->left = left;
+  above(*node, left);
+  const bool any = is(Keyword::Any) || is(Keyword::Some);
+  if ((any || is(Keyword::All)) && is(Symbol::LeftParen, 1)) {
+    node->quantifier = any ? Quantifier::Any : Quantifier::All;
+    take();
+    take();
+    if (isQueryAt(at_)) {
+      node->query = query();
+      heighten(*node, queryHeight_ + 1);
+    } else {
+      do {
+        node->list.push_back(value());
+        above(*node, node->list.back());
+      } while (accept(Symbol::Comma));
+    }
+    expectRightParen();
+    return node;
+  }
+  node->right = additive(left->kind == ExprKind::Row);
+  if (left->kind == ExprKind::Row) {
+    if (op != CompareOp::Equal && op != CompareOp::NotEqual)
+      fail(1796, "this operator cannot be used with lists", place);
+    // (a, b) = ((1, 2)) comes as a row already; (a, b) = (select ..) as a subquery.
+    if (node->right->kind != ExprKind::Row && node->right->kind != ExprKind::Subquery)
+      fail(920, "invalid relational operator", node->right->place);
+  } else {
+    requireValue(*node->right, node->right->place);
+  }
+  above(*node, node->right);
+  return node;
+}
+
+Expr* Parser::predicate() {
+  if (is(Keyword::Exists)) {
+    const Deeper deeper(*this);
+    auto* node = this->node<Exists>(take().place);
+    expectLeftParen();
+    if (!isQueryAt(at_)) fail(936, "missing expression");
+    node->query = bracketedQuery();
+    heighten(*node, queryHeight_ + 1);
+    return node;
+  }
+  Expr* left = additive(true);
+  if (isCondition(*left)) return left;
+
+  switch (now().symbol) {
+    case Symbol::Equal:
+      return comparison(left, CompareOp::Equal);
+    case Symbol::NotEqual:
+      return comparison(left, CompareOp::NotEqual);
+    case Symbol::Less:
+      return comparison(left, CompareOp::Less);
+    case Symbol::LessEqual:
+      return comparison(left, CompareOp::LessEqual);
+    case Symbol::Greater:
+      return comparison(left, CompareOp::Greater);
+    case Symbol::GreaterEqual:
+      return comparison(left, CompareOp::GreaterEqual);
+    default:
+      break;
+  }
+
+  if (is(Keyword::Is)) {
+    auto* node = this->node<IsNull>(take().place);
+    requireValue(*left, node->place);
+    node->negated = accept(Keyword::Not);
+    if (isWord("NAN") || isWord("INFINITE")) unsupported("IS NAN and IS INFINITE");
+    if (is(Keyword::Of) || isWord("EMPTY") || isWord("DANGLING")) unsupported("IS with anything but NULL");
+    if (!accept(Keyword::Null)) fail(908, "missing NULL keyword");
+    node->operand = left;
+    above(*node, left);
+    return node;
+  }
+
+  bool negated = false;
+  if (is(Keyword::Not)) {
+    if (!is(Keyword::In, 1) && !is(Keyword::Like, 1) && !is(Keyword::Between, 1))
+      fail(920, "invalid relational operator");
+    take();
+    negated = true;
+  }
+  if (is(Keyword::In)) {
+    auto* node = this->node<InExpr>(take().place);
+    node->negated = negated;
+    node->operand = left;
+    above(*node, left);
+    const Deeper deeper(*this);
+    expectLeftParen();
+    if (isQueryAt(at_)) {
+      node->query = query();
+      heighten(*node, queryHeight_ + 1);
+    } else {
+      do {
+        Expr* item = additive(left->kind == ExprKind::Row);
+        if (isCondition(*item)) fail(907, "missing right parenthesis", item->place);
+        if ((left->kind == ExprKind::Row) != (item->kind == ExprKind::Row))
+          fail(920, "invalid relational operator", item->place);
+        node->list.push_back(item);
+        above(*node, item);
+      } while (accept(Symbol::Comma));
+    }
+    expectRightParen();
+    return node;
+  }
+  if (is(Keyword::Like2) || is(Keyword::Like4) || is(Keyword::Likec)) unsupported("LIKE2, LIKE4 and LIKEC");
+  if (is(Keyword::Like)) {
+    auto* node = this->node<LikeExpr>(take().place);
+    requireValue(*left, node->place);
+    node->negated = negated;
+    node->operand = left;
+    node->pattern = value();
+    if (accept(Keyword::Escape)) node->escape = value();
+    above(*node, left);
+    above(*node, node->pattern);
+    above(*node, node->escape);
+    return node;
+  }
+  if (is(Keyword::Between)) {
+    auto* node = this->node<Between>(take().place);
+    requireValue(*left, node->place);
+    node->negated = negated;
+    node->operand = left;
+    node->low = value();
+    expect(Keyword::And, 905, "missing keyword");
+    node->high = value();
+    above(*node, left);
+    above(*node, node->low);
+    above(*node, node->high);
+    return node;
+  }
+  return left;
+}
+
+// Left to right; || binds as + and - do.
+Expr* Parser::additive(bool conditionAllowed) {
+  Expr* left = multiplicative(conditionAllowed);
+  while (is(Symbol::Plus) || is(Symbol::Minus) || is(Symbol::Concat)) {
+    if (isCondition(*left)) return left;
+    const Token& op = take();
+    requireValue(*left, op.place);
+    Expr* right = multiplicative(false);
+    Expr* made = nullptr;
+    if (op.symbol == Symbol::Concat) {
+      auto* node = this->node<Concat>(op.place);
+      node->left = left;
+      node->right = right;
+      made = node;
+    } else {
+      auto* node = this->node<Arithmetic>(op.place);
+      node->op = op.symbol == Symbol::Plus ? ArithmeticOp::Add : ArithmeticOp::Subtract;
+      node->left = left;
+      node->right = right;
+      made = node;
+    }
+    above(*made, left);
+    above(*made, right);
+    left = made;
+  }
+  return left;
+}
+
+Expr* Parser::multiplicative(bool conditionAllowed) {
+  Expr* left = factor(conditionAllowed);
+  while (is(Symbol::Star) || is(Symbol::Slash)) {
+    if (isCondition(*left)) return left;
+    const Token& op = take();
+    requireValue(*left, op.place);
+    auto* node = this->node<Arithmetic>(op.place);
+    node->op = op.symbol == Symbol::Star ? ArithmeticOp::Multiply : ArithmeticOp::Divide;
+    node->left = left;
+    node->right = factor(false);
+    above(*node, left);
+    above(*node, node->right);
+    left = node;
+  }
+  return left;
+}
+
+Expr* Parser::factor(bool conditionAllowed) {
+  if (is(Keyword::Prior)) unsupported("PRIOR");
+  if (!is(Symbol::Plus) && !is(Symbol::Minus)) return primary(conditionAllowed);
+  const Deeper deeper(*this);
+  auto* node = this->node<Negate>(now().place);
+  node->plus = take().symbol == Symbol::Plus;
+  node->operand = factor(false);
+  above(*node, node->operand);
+  return node;
+}
+
+Expr* Parser::primary(bool conditionAllowed) {
+  const Deeper deeper(*this);
+  const Token& token = now();
+  switch (token.kind) {
+    case TokenKind::Number: {
+      auto* node = this->node<NumberLiteral>(take().place);
+      node->text = token.text;
+      return node;
+    }
+    case TokenKind::String: {
+      auto* node = this->node<StringLiteral>(take().place);
+      node->value = tree_.copy(stringValue(token));
+      return node;
+    }
+    case TokenKind::Bind: {
+      auto* node = this->node<BindExpr>(take().place);
+      node->name = nameOf(token);
+      if (now().kind == TokenKind::Bind) unsupported("an indicator variable");
+      return node;
+    }
+    case TokenKind::Symbol:
+      if (is(Symbol::LeftParen)) return bracketed(conditionAllowed);
+      break;
+    case TokenKind::QuotedName:
+      return nameOrCall();
+    case TokenKind::Name: {
+      bool taken = false;
+      Expr* e = keywordPrimary(taken);
+      if (taken) return e;
+      if (!token.reserved) return nameOrCall();
+      break;
+    }
+    case TokenKind::Hint:
+    case TokenKind::End:
+      break;
+  }
+  fail(936, "missing expression");
+}
+
+// Expressions that start with a keyword.
+Expr* Parser::keywordPrimary(bool& taken) {
+  taken = true;
+  const Place place = now().place;
+  const bool opens = is(Symbol::LeftParen, 1);
+  switch (now().keyword) {
+    case Keyword::Null:
+      take();
+      return node<NullLiteral>(place);
+    case Keyword::Case:
+      return caseExpression();
+    case Keyword::When:
+    case Keyword::End:
+      fail(936, "missing expression");
+    case Keyword::Rownum:
+      take();
+      return node<RownumExpr>(place);
+    case Keyword::Level:
+      fail(1788, "CONNECT BY clause required in this query block");
+    case Keyword::Sysdate:
+    case Keyword::User:
+    case Keyword::Uid: {
+      auto* c = node<Call>(place);
+      c->name = nameOf(take());
+      c->bare = true;
+      return c;
+    }
+    case Keyword::Date: {
+      if (now(1).kind != TokenKind::String) break;
+      take();
+      auto* d = node<DateLiteral>(place);
+      d->value = tree_.copy(stringValue(take()));
+      return d;
+    }
+    case Keyword::Timestamp:
+      if (now(1).kind == TokenKind::String) unsupported("a TIMESTAMP literal");
+      break;
+    case Keyword::Interval:
+      if (now(1).kind == TokenKind::String) unsupported("an INTERVAL literal");
+      break;
+    case Keyword::Cast:
+      if (opens) return cast();
+      break;
+    case Keyword::Trim:
+      if (opens) return trim();
+      break;
+    case Keyword::Extract:
+      if (opens) return extract();
+      break;
+    default:
+      if (isWord("ROWID")) unsupported("ROWID");
+      if (isWord("CURSOR") && opens && isQueryAt(at_ + 2)) unsupported("CURSOR(...)");
+      if (isWord("MULTISET") && opens) unsupported("MULTISET");
+      break;
+  }
+  taken = false;
+  return nullptr;
+}
+
+// A subquery, a value, and where a condition may stand a condition or a row.
+Expr* Parser::bracketed(bool conditionAllowed) {
+  const Place place = take().place;
+  if (isQueryAt(at_)) {
+    auto* node = this->node<SubqueryExpr>(place);
+    node->query = bracketedQuery();
+    heighten(*node, queryHeight_ + 1);
+    return node;
+  }
+  Expr* e = conditionAllowed ? orTerms() : value();
+  if (conditionAllowed && !isCondition(*e) && is(Symbol::Comma)) {
+    auto* row = node<RowExpr>(place);
+    row->items.push_back(e);
+    above(*row, e);
+    while (accept(Symbol::Comma)) {
+      row->items.push_back(value());
+      above(*row, row->items.back());
+    }
+    e = row;
+  }
+  expectRightParen();
+  return e;
+}
+
+Expr* Parser::caseExpression() {
+  auto* c = node<CaseExpr>(take().place);
+  if (!is(Keyword::When)) {
+    c->operand = value();
+    above(*c, c->operand);
+  }
+  while (accept(Keyword::When)) {
+    CaseWhen w;
+    w.when = c->operand ? value() : condition();
+    expect(Keyword::Then, 905, "missing keyword");
+    w.then = value();
+    above(*c, w.when);
+    above(*c, w.then);
+    c->whens.push_back(w);
+  }
+  if (c->whens.empty()) fail(905, "missing keyword");
+  if (accept(Keyword::Else)) {
+    c->otherwise = value();
+    above(*c, c->otherwise);
+  }
+  expect(Keyword::End, 905, "missing keyword");
+  return c;
+}
+
+}  // namespace oracle_sql
