@@ -1,0 +1,75 @@
+#!/usr/bin/env python3
+"""Checks that no room includes one that stands above it, and that foreign headers stay in their rooms."""
+
+import pathlib
+import re
+import sys
+
+# From the ground up: a room may include itself and those that its entry names.
+ROOMS = {
+    "oracle_sql": set(),
+    "statspack": {"oracle_sql"},
+    "platform": set(),
+    "platform/embedded": {"platform", "statspack", "oracle_sql"},
+    "platform/odbc": {"platform", "oracle_sql"},
+    "navigation": {"platform"},
+    "report": {"navigation", "platform"},
+    "sections": {"report", "navigation", "platform"},
+    "shell": {"sections", "report", "navigation", "platform"},
+    "platform/qt": {"shell", "sections", "report", "navigation", "platform"},
+    "app": {"platform/qt", "platform/embedded", "platform/odbc", "shell", "sections", "report", "navigation",
+            "platform"},
+}
+
+# Headers of libraries, and the only rooms that may see them.
+FOREIGN = [
+    (re.compile(r"^Q[A-Z]|^Qt"), {"platform/qt", "app"}),
+    (re.compile(r"^sql(ext|types|ucode)?\.h$|^odbcinst\.h$"), {"platform/odbc"}),
+    (re.compile(r"^sqlite3\.h$"), {"platform/embedded"}),
+]
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
+
+
+def room_of(path):
+    """The room that a path below src/ lies in: the longest name that fits."""
+    fits = [room for room in ROOMS if path == room or path.startswith(room + "/")]
+    return max(fits, key=len) if fits else None
+
+
+def check(source_root):
+    faults = []
+    for file in sorted(source_root.rglob("*")):
+        if file.suffix not in (".h", ".cpp"):
+            continue
+        relative = file.relative_to(source_root).as_posix()
+        room = room_of(relative)
+        if room is None:
+            faults.append(f"{relative}: lies in no room")
+            continue
+        for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
+            match = INCLUDE.match(line)
+            if not match:
+                continue
+            quote, name = match.groups()
+            target = room_of(name) if quote == '"' else None
+            if target and target != room and target not in ROOMS[room]:
+                faults.append(f"{relative}:{number}: {room} must not include {name}")
+            for pattern, allowed in FOREIGN:
+                if pattern.match(name) and room not in allowed:
+                    faults.append(f"{relative}:{number}: <{name}> belongs in {', '.join(sorted(allowed))}")
+    return faults
+
+
+def main():
+    root = pathlib.Path(sys.argv[1]) / "src"
+    files = list(root.rglob("*.h"))
+    if not files:
+        sys.exit(f"no headers under {root}: nothing was checked")
+    faults = check(root)
+    print("\n".join(faults) or f"the includes of {len(files)} headers and their sources keep to the arrows")
+    sys.exit(1 if faults else 0)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,34 @@
+#!/usr/bin/env python3
+"""The lints have to fail on a tree with faults: each is run on one planted fault at a time."""
+
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+PLANTED = [
+    ("arrows.py", "report/a.h", '#include "sections/b.h"\n'),
+    ("arrows.py", "report/a.h", "#include <QWidget>\n"),
+    ("arrows.py", "shell/a.h", "#include <sqlite3.h>\n"),
+    ("arrows.py", "platform/embedded/a.h", "#include <sqlext.h>\n"),
+    ("arrows.py", "elsewhere/a.h", "int a;\n"),
+    ("locale.py", "report/a.h", "double a = std::stod(text);\n"),
+    ("locale.py", "report/a.h", 'snprintf(text, 9, "%5.1f", a);\n'),
+]
+
+
+def main():
+    here = pathlib.Path(__file__).parent
+    for lint, file, text in PLANTED:
+        with tempfile.TemporaryDirectory() as folder:
+            path = pathlib.Path(folder) / "src" / file
+            path.parent.mkdir(parents=True)
+            path.write_text(text, encoding="utf-8")
+            result = subprocess.run([sys.executable, here / lint, folder], capture_output=True, text=True)
+            if result.returncode != 1:
+                sys.exit(f"{lint} let pass in {file}: {text}")
+    print(f"{len(PLANTED)} planted faults were found")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,12 @@
+// One function a command of kestrelix-report; each prints to standard output.
+#pragma once
+
+#include "options.h"
+#include "output.h"
+
+namespace kestrelix::report_tool {
+
+/// Runs the command that the options name. Fails with UsageError for a command that there isn't.
+void runCommand(const Options& options, StderrBoxes& boxes);
+
+}  // namespace kestrelix::report_tool

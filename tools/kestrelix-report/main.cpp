@@ -1,0 +1,27 @@
+#include <iostream>
+
+#include "commands.h"
+#include "report_run.h"
+
+namespace tool = kestrelix::report_tool;
+
+int main(int count, char** values) {
+  tool::StderrBoxes boxes;
+  try {
+    const tool::Options options = tool::parseOptions({values + 1, values + count});
+    if (options.help) {
+      std::cout << tool::kUsage;
+      return 0;
+    }
+    tool::runCommand(options, boxes);
+  } catch (const tool::UsageError& error) {
+    std::cerr << "kestrelix-report: " << error.what() << "; --help tells the usage\n";
+    return 2;
+  } catch (const tool::ReportRun::Stopped&) {
+    // The box has said it.
+  } catch (const std::exception& error) {
+    std::cerr << "kestrelix-report: " << error.what() << '\n';
+    return 1;
+  }
+  return boxes.critical() ? 1 : 0;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "platform/controls/grid.h"
+#include "platform/message_box.h"
+
+namespace kestrelix::report_tool {
+
+using Table = std::vector<std::vector<std::string>>;
+
+/// A grid's cells, heading row and column "NO" included.
+Table cells(const Grid& grid);
+
+/// As RFC 4180 tells, lines ending in CRLF; or in columns, two blanks apart, a Japanese character two wide.
+void print(std::ostream& out, const Table& table, bool csv);
+
+/// Boxes as lines of standard error: the icon's name in brackets and the text, then the error behind it.
+class StderrBoxes : public MessageBoxes {
+ public:
+  void show(BoxIcon icon, const std::string& text, const std::string& underlying) override;
+  bool critical() const { return critical_; }
+  /// Any box at all, a refusal included.
+  bool any() const { return any_; }
+
+ private:
+  bool critical_ = false;
+  bool any_ = false;
+};
+
+}  // namespace kestrelix::report_tool
