@@ -12,8 +12,8 @@ PLANTED = [
     ("arrows.py", "shell/a.h", "#include <sqlite3.h>\n"),
     ("arrows.py", "platform/embedded/a.h", "#include <sqlext.h>\n"),
     ("arrows.py", "elsewhere/a.h", "int a;\n"),
-    ("locale.py", "report/a.h", "double a = std::stod(text);\n"),
-    ("locale.py", "report/a.h", 'snprintf(text, 9, "%5.1f", a);\n'),
+    ("locale_dependence.py", "report/a.h", "double a = std::stod(text);\n"),
+    ("locale_dependence.py", "report/a.h", 'snprintf(text, 9, "%5.1f", a);\n'),
 ]
 
 
