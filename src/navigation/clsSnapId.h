@@ -14,6 +14,8 @@ struct PairKeys {
   std::string instanceNumber;
   std::string startSnapId;
   std::string endSnapId;
+  std::string startTime = {};  ///< YYYY-MM-DD HH24:MI:SS
+  std::string endTime = {};
 };
 
 /// The figures of the pair can be reported.
@@ -52,7 +54,8 @@ class clsSnapId {
   const std::string& END_SNAP_LEVEL(int i) const { return pair(i).end.snapLevel; }
 
   PairKeys keys(int i) const {
-    return {START_DBID(i), START_INSTANCE_NUMBER(i), START_SNAP_ID(i), END_SNAP_ID(i)};
+    return {START_DBID(i),  START_INSTANCE_NUMBER(i), START_SNAP_ID(i),
+            END_SNAP_ID(i), START_SNAP_TIME(i),       END_SNAP_TIME(i)};
   }
   bool restarted(int i) const { return REPORT_STATUS(i) == kStatusRestart; }
 

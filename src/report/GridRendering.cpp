@@ -23,7 +23,7 @@ void writeNumbers(Grid& grid) {
 struct Text {
   std::string text;
 };
-enum class OfPair { EndTime, Status };
+enum class OfPair { StartTime, EndTime, Status };
 
 struct ColColumn {
   std::string heading;
@@ -32,10 +32,19 @@ struct ColColumn {
   std::string cell(const SectionObject& object, const clsSnapId& pairs, int i) const {
     if (const auto* accessor = std::get_if<Accessor>(&source)) return (*accessor)(object, i, i);
     if (const auto* text = std::get_if<Text>(&source)) return text->text;
-    return std::get<OfPair>(source) == OfPair::EndTime ? pairs.END_SNAP_TIME(i) : pairs.REPORT_STATUS(i);
+    switch (std::get<OfPair>(source)) {
+      case OfPair::StartTime:
+        return pairs.START_SNAP_TIME(i);
+      case OfPair::EndTime:
+        return pairs.END_SNAP_TIME(i);
+      case OfPair::Status:
+        break;
+    }
+    return pairs.REPORT_STATUS(i);
   }
 };
 
+const ColColumn kStartTime{"START TIME", OfPair::StartTime};
 const ColColumn kEndTime{"END TIME", OfPair::EndTime};
 const ColColumn kStatus{"STATUS", OfPair::Status};
 
@@ -124,13 +133,14 @@ void renderListCol(Workspace& workspace, SectionObject& object, std::string_view
                    const std::string& version, const std::vector<std::string>& arguments) {
   object.Initialize(*workspace.gOraDatabase, *workspace.gSnapId, workspace.boxes, version);
   if (!fetchEveryPair(workspace, object, member, arguments)) return;
+  const ColColumn& time = view.ofPairs == OfPairs::StartTime ? kStartTime : kEndTime;
   std::vector<ColColumn> columns;
   for (const ViewColumn& column : view.colColumns.value_or(view.columns)) {
-    if (columns.size() == view.keys) columns.push_back(kEndTime);
+    if (columns.size() == view.keys) columns.push_back(time);
     columns.push_back({column.heading, column.accessor});
   }
-  if (columns.size() == view.keys) columns.push_back(kEndTime);
-  columns.push_back(kStatus);
+  if (columns.size() == view.keys) columns.push_back(time);
+  if (view.ofPairs == OfPairs::EndTimeAndStatus) columns.push_back(kStatus);
   showEveryPair(workspace, object, columns);
 }
 
@@ -141,12 +151,14 @@ void renderMetricAll(Workspace& workspace, MetricSectionObject& object, const Me
   object.unsetBAIND_VALUE();
 
   Grid& grid = workspace.controls.MSFlexGridMain;
-  gridSetUp(grid, static_cast<int>(view.headings.size()) + 2, static_cast<int>(view.rows.size()));
+  const bool headingsAlone = view.headingsAloneOnRestart && workspace.gSnapId->restarted(pair);
+  const std::size_t rows = headingsAlone ? 0 : view.rows.size();
+  gridSetUp(grid, static_cast<int>(view.headings.size()) + 2, static_cast<int>(rows));
   std::vector<std::string> headings{"NO", "NAME"};
   headings.insert(headings.end(), view.headings.begin(), view.headings.end());
   writeHeadings(grid, headings);
   writeNumbers(grid);
-  for (std::size_t r = 0; r < view.rows.size(); ++r) {
+  for (std::size_t r = 0; r < rows; ++r) {
     const int row = static_cast<int>(r) + 1;
     grid.TextMatrix(row, 1, view.rows[r].label);
     for (const ViewColumn& cell : view.rows[r].cells) {

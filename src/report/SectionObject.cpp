@@ -38,22 +38,42 @@ bool SectionObject::setBAIND_VALUE(const PairKeys& pair, const std::vector<std::
     for (const auto& [name, value] : keys) parameters(name).value(value);
     std::size_t next = 0;
     for (const Bind& bind : binds_) {
-      if (!bind.member.empty()) continue;
-      parameters(bind.name).value(next < arguments.size() ? arguments[next] : std::string());
+      if (bind.ofPair != nullptr) parameters(bind.name).value(pair.*bind.ofPair);
+      if (bind.ofPair != nullptr || !bind.member.empty()) continue;
+      const std::string argument = next < arguments.size() ? arguments[next] : std::string();
+      parameters(bind.name).value(argument.empty() ? bind.ifEmpty : argument);
       ++next;
     }
   });
   if (!added) return false;
-  for (const Bind& bind : binds_) {
-    if (bind.member.empty()) continue;
-    const bool done = guarded(*boxes_, className_, bind.member, [&] {
-      const auto dynaset = database_->DbCreateDynaset(bind.text, kDynasetOptions);
-      database_->parameters()(bind.name).value(dynaset->Fields(bind.name).value());
-    });
-    if (!done && !bind.goesOn) return false;
+  for (auto first = binds_.begin(); first != binds_.end();) {
+    const auto last =
+        std::find_if(first, binds_.end(), [&](const Bind& bind) { return bind.member != first->member; });
+    if (!first->member.empty() && !fetchBinds({first, last})) return false;
+    first = last;
   }
   bound();
   return true;
+}
+
+bool SectionObject::fetchBinds(std::span<const Bind> binds) {
+  const Bind& first = binds.front();
+  std::vector<std::optional<std::string>> values;
+  const bool done = guarded(*boxes_, className_, first.member, [&] {
+    const std::string& text = first.text.empty() ? find(first.member)->text : first.text;
+    const auto dynaset = database_->DbCreateDynaset(text, kDynasetOptions);
+    for (const Bind& bind : binds)
+      values.push_back(dynaset->Fields(bind.column.empty() ? bind.name : bind.column).value());
+  });
+  if (!done && !first.goesOn) return false;
+  if (!done && first.failureBoxesTwice)
+    boxes_->show(BoxIcon::Critical, failureText(className_, "setBAIND_VALUE"));
+  if (!done) values.assign(binds.size(), first.ifFailed);
+  // A text that is no number fails here, as the binding's own failure.
+  return guarded(*boxes_, className_, "setBAIND_VALUE", [&] {
+    for (std::size_t i = 0; i < binds.size(); ++i)
+      if (values[i]) database_->parameters()(binds[i].name).value(*values[i]);
+  });
 }
 
 bool SectionObject::unsetBAIND_VALUE() {
@@ -107,6 +127,8 @@ void SectionObject::fetch(const Statement& statement, int pairIndex) {
         for (const std::size_t field : statement.fields) rows_.back()[field].clear();
       else
         copy(statement, *dynaset, rows_.back());
+      break;
+    case Fetch::Binds:
       break;
   }
 }

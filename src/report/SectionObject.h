@@ -2,6 +2,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -60,6 +61,9 @@ class SectionObject {
 
   /// Metric objects append the pair's record here.
   virtual void bound() {}
+  /// Runs the one query behind some binds and gives them their values. False after a box that ends the
+  /// binding.
+  bool fetchBinds(std::span<const Bind> binds);
   void fetch(const Statement& statement, int pairIndex);
   void copy(const Statement& statement, const Dynaset& dynaset, Record& record) const;
 

@@ -32,13 +32,25 @@ struct ViewColumn {
   Accessor accessor;
 };
 
-/// The two views of a list Section. The All view has "NO" and the columns; the Col view has "END TIME"
+/// What a Col view shows of the pairs: "END TIME" and "STATUS", or, where a row belongs to one of the two
+/// snapshots, that snapshot's "START TIME" or "END TIME" alone.
+enum class OfPairs { EndTimeAndStatus, StartTime, EndTime };
+
+/// The two views of a list Section. The All view has "NO" and the columns; the Col view has the pair's time
 /// besides, behind the first `keys` columns, and "STATUS" at the end.
 struct ListView {
   std::vector<ViewColumn> columns;
   std::size_t keys = 1;
+  OfPairs ofPairs = OfPairs::EndTimeAndStatus;
   /// The Col view's own columns, where they differ by more than that.
   std::optional<std::vector<ViewColumn>> colColumns;
+
+  /// The same view with other columns of the pair.
+  ListView with(OfPairs shown) const {
+    ListView view = *this;
+    view.ofPairs = shown;
+    return view;
+  }
 };
 
 /// One metric: its row in the All view, and the member and columns of its Col view.
@@ -57,6 +69,8 @@ struct MetricRow {
 struct MetricView {
   std::vector<std::string> headings;
   std::vector<MetricRow> rows;
+  /// The All view of a pair across a restart has no rows; else their cells are empty.
+  bool headingsAloneOnRestart = false;
 };
 
 }  // namespace kestrelix
