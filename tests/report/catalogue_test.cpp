@@ -1,0 +1,105 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "report/ModuleDispCommon.h"
+#include "sections/SectionList.h"
+#include "support/recording_boxes.h"
+
+namespace kestrelix {
+namespace {
+
+class Catalogue : public testing::Test {
+ protected:
+  std::vector<std::string> listed(const std::string& version, const std::string& parallel) {
+    gDispSectionList(workspace, sectionList(), version, parallel);
+    std::vector<std::string> texts;
+    for (int i = 0; i < workspace.controls.ListSection.ListCount(); ++i)
+      texts.push_back(workspace.controls.ListSection.List(i));
+    return texts;
+  }
+  bool has(const std::vector<std::string>& texts, const std::string& text) {
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+  }
+
+  testing_support::RecordingBoxes boxes;
+  Workspace workspace{boxes};
+};
+
+TEST_F(Catalogue, countsByVersionAndCluster) {
+  EXPECT_EQ(sectionList().size(), 94u);
+  EXPECT_EQ(listed("9", "NO").size(), 46u);
+  EXPECT_EQ(listed("9", "YES").size(), 46u);
+  EXPECT_EQ(listed("10", "NO").size(), 69u);
+  EXPECT_EQ(listed("10", "YES").size(), 86u);
+  EXPECT_EQ(listed("11", "NO").size(), 76u);
+  EXPECT_EQ(listed("11", "YES").size(), 94u);
+}
+
+TEST_F(Catalogue, theFirstEntryIsSelected) {
+  listed("10", "NO");
+  EXPECT_EQ(workspace.controls.ListSection.Text(), "Snapshot");
+}
+
+TEST_F(Catalogue, version9HasNoHostCpuNoTimeModelAndNoClusterEntry) {
+  const auto texts = listed("9", "YES");
+  for (const char* text : {"Host CPU", "Time Model System Stats", "RAC Statistics", "Global Enqueue Stats"})
+    EXPECT_FALSE(has(texts, text)) << text;
+}
+
+TEST_F(Catalogue, interconnectPingsNeedVersion11AndACluster) {
+  EXPECT_TRUE(has(listed("11", "YES"), "Interconnect Ping Stats"));
+  EXPECT_FALSE(has(listed("11", "NO"), "Interconnect Ping Stats"));
+  EXPECT_FALSE(has(listed("10", "YES"), "Interconnect Ping Stats"));
+}
+
+TEST_F(Catalogue, someSectionsAreForVersion11Alone) {
+  for (const char* text : {"Foreground Wait Events", "OS Statistics - detail", "IO Stat by Function - summary",
+                           "IO Stat by Function - detail", "Memory Target Advice", "Memory Dynamic Components",
+                           "Memory Resize Operations"}) {
+    EXPECT_TRUE(has(listed("11", "NO"), text)) << text;
+    EXPECT_FALSE(has(listed("10", "NO"), text)) << text;
+    EXPECT_FALSE(has(listed("9", "NO"), text)) << text;
+  }
+}
+
+TEST_F(Catalogue, lettersOfTheNamesAreAsTheyAre) {
+  const auto texts = listed("11", "YES");
+  EXPECT_TRUE(has(texts, "Segments By CU Blocks Received"));
+  EXPECT_TRUE(has(texts, "Buffer wait Statistics"));
+}
+
+TEST_F(Catalogue, onlyYesCountsAsACluster) {
+  for (const char* parallel : {"NO", "yes", "YES ", "", "TRUE"}) EXPECT_EQ(listed("11", parallel).size(), 76u);
+}
+
+TEST_F(Catalogue, theSecondCacheSectionsStandOnAClusterAlone) {
+  const auto single = listed("10", "NO");
+  EXPECT_TRUE(has(single, "Dictionary Cache Stats[1]"));
+  EXPECT_FALSE(has(single, "Dictionary Cache Stats[2]"));
+  EXPECT_TRUE(has(single, "Library Cache Activity[1]"));
+  EXPECT_FALSE(has(single, "Library Cache Activity[2]"));
+}
+
+TEST_F(Catalogue, namesAndCodesAreUniqueAndCodesRise) {
+  std::set<std::string_view> texts;
+  int last = -1;
+  for (const SectionEntry& entry : sectionList()) {
+    EXPECT_TRUE(texts.insert(entry.text).second) << entry.text;
+    if (entry.code != 160) {
+      EXPECT_GT(entry.code, last) << entry.text;
+    }
+    last = entry.code;
+  }
+}
+
+TEST_F(Catalogue, anUnknownTextDoesNothing) {
+  workspace.controls.ListSection.AddItem("ListSection");
+  workspace.controls.ListSection.ListIndex(0);
+  gDispSectionAll(workspace, sectionList(), "");
+  gDispSectionCol(workspace, sectionList(), "");
+  EXPECT_TRUE(boxes.shown.empty());
+}
+
+}  // namespace
+}  // namespace kestrelix
