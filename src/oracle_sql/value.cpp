@@ -125,6 +125,23 @@ std::string toRaw(const Value& value) {
   return bytes;
 }
 
+SqlType comparisonType(SqlType a, SqlType b) {
+  if (a == b) {
+    return a;
+  }
+  if (a == SqlType::Null || b == SqlType::Null) {
+    return a == SqlType::Null ? b : a;
+  }
+  if (isText(a) && isText(b)) {
+    return SqlType::Varchar;
+  }
+  const SqlType other = isText(a) ? b : a;
+  if (!isText(a) && !isText(b)) {
+    raiseInconsistentTypes();
+  }
+  return other == SqlType::Raw ? SqlType::Varchar : other;
+}
+
 int compareText(std::string_view a, std::string_view b) { return order(a.compare(b)); }
 
 int compareBlankPadded(std::string_view a, std::string_view b) {
@@ -143,23 +160,23 @@ int compareBlankPadded(std::string_view a, std::string_view b) {
   return 0;
 }
 
-int compareAs(Comparison comparison, const Value& a, const Value& b, const Context& context) {
+int compareAs(SqlType type, const Value& a, const Value& b, const Context& context) {
   std::string roomA;
   std::string roomB;
-  switch (comparison) {
-    case Comparison::Number:
+  switch (type) {
+    case SqlType::Number:
       return compare(toNumber(a), toNumber(b));
-    case Comparison::Date: {
+    case SqlType::Date: {
       const Date x = toDate(a, context);
       const Date y = toDate(b, context);
       return x < y ? -1 : x > y ? 1 : 0;
     }
-    case Comparison::Raw:
+    case SqlType::Raw:
       return compareText(toRaw(a), toRaw(b));
-    case Comparison::PaddedText:
+    case SqlType::Char:
       return compareBlankPadded(viewText(a, roomA), viewText(b, roomB));
-    case Comparison::Text:
-    case Comparison::Invalid:
+    case SqlType::Null:
+    case SqlType::Varchar:
       break;
   }
   return compareText(viewText(a, roomA), viewText(b, roomB));
