@@ -1,5 +1,13 @@
 #include "sections/SectionList.h"
 
+#include "sections/activity_io/ModuleDispFileIOStats.h"
+#include "sections/activity_io/ModuleDispFileReadHistogramStats.h"
+#include "sections/activity_io/ModuleDispIOStatbyFunctiondetail.h"
+#include "sections/activity_io/ModuleDispIOStatbyFunctionsummary.h"
+#include "sections/activity_io/ModuleDispInstanceActivityStats.h"
+#include "sections/activity_io/ModuleDispOSStatistics.h"
+#include "sections/activity_io/ModuleDispOSStatisticsdetail.h"
+#include "sections/activity_io/ModuleDispTablespaceIOStats.h"
 #include "sections/summary/ModuleDispCacheSize.h"
 #include "sections/summary/ModuleDispSnapshot.h"
 #include "sections/waits/ModuleDispBackgroundWaitEvents.h"
@@ -54,16 +62,16 @@ SectionList sectionList() {
       pending("SQL ordered by Parse Calls", 43, kAllVersions, false),
       pending("SQL ordered by Sharable Memory", 44, kAllVersions, false),
       pending("SQL ordered by Version Count", 45, kAllVersions, false),
-      pending("Instance Activity Stats[1]", 50, kAllVersions, false),
-      pending("Instance Activity Stats[2]", 51, V10_11, false),
-      pending("Instance Activity Stats[3]", 52, V10_11, false),
-      pending("OS Statistics", 60, V10_11, false),
-      pending("OS Statistics - detail", 61, V11, false),
-      pending("IO Stat by Function - summary", 62, V11, false),
-      pending("IO Stat by Function - detail", 63, V11, false),
-      pending("Tablespace IO Stats", 64, kAllVersions, false),
-      pending("File IO Stats", 65, kAllVersions, false),
-      pending("File Read Histogram Stats", 66, V10_11, false),
+      {"Instance Activity Stats[1]", 50, kAllVersions, false, false, make<clsInstanceActivityStats>, gDispInstanceActivityStats1_All, byKeys({1}, gDispInstanceActivityStats1_Col)},
+      {"Instance Activity Stats[2]", 51, V10_11, false, false, make<clsInstanceActivityStats>, gDispInstanceActivityStats2_All, byKeys({1}, gDispInstanceActivityStats2_Col)},
+      {"Instance Activity Stats[3]", 52, V10_11, false, false, make<clsInstanceActivityStats>, gDispInstanceActivityStats3_All, byKeys({1}, gDispInstanceActivityStats3_Col)},
+      {"OS Statistics", 60, V10_11, false, false, make<clsOSStatistics>, gDispOSStatistics_All, byKeys({1}, gDispOSStatistics_Col)},
+      {"OS Statistics - detail", 61, V11, false, false, make<clsOSStatisticsdetail>, gDispOSStatisticsdetail_All, anyRow(gDispOSStatisticsdetail_Col)},
+      {"IO Stat by Function - summary", 62, V11, false, false, make<clsIOStatbyFunctionsummary>, gDispIOStatbyFunctionsummary_All, byKeys({1}, gDispIOStatbyFunctionsummary_Col)},
+      {"IO Stat by Function - detail", 63, V11, false, false, make<clsIOStatbyFunctiondetail>, gDispIOStatbyFunctiondetail_All, byKeys({1}, gDispIOStatbyFunctiondetail_Col)},
+      {"Tablespace IO Stats", 64, kAllVersions, false, false, make<clsTablespaceIOStats>, gDispTablespaceIOStats_All, byKeys({1}, gDispTablespaceIOStats_Col)},
+      {"File IO Stats", 65, kAllVersions, false, false, make<clsFileIOStats>, gDispFileIOStats_All, byKeys({2}, gDispFileIOStats_Col)},
+      {"File Read Histogram Stats", 66, V10_11, false, false, make<clsFileReadHistogramStats>, gDispFileReadHistogramStats_All, byKeys({2}, gDispFileReadHistogramStats_Col)},
       pending("Buffer Pool Statistics", 70, kAllVersions, false),
       pending("Instance Recovery Stats", 71, kAllVersions, false),
       pending("Memory Target Advice", 72, V11, false),
