@@ -10,15 +10,6 @@ namespace {
 constexpr int kTwipsPerByte = 108;
 constexpr int kLeastWidth = 500;
 
-void writeHeadings(Grid& grid, const std::vector<std::string>& headings) {
-  for (std::size_t c = 0; c < headings.size(); ++c) grid.TextArray(static_cast<int>(c), headings[c]);
-}
-
-void writeNumbers(Grid& grid) {
-  for (int r = grid.FixedRows(); r <= grid.Rows() - grid.FixedRows(); ++r)
-    grid.TextMatrix(r, 0, std::to_string(r - grid.FixedRows() + 1));
-}
-
 /// What a column of a Col view shows beside a section object's fields.
 struct Text {
   std::string text;
@@ -66,8 +57,8 @@ void showEveryPair(Workspace& workspace, const SectionObject& object, const std:
   gridSetUp(grid, static_cast<int>(columns.size()) + 1, count);
   std::vector<std::string> headings{"NO"};
   for (const ColColumn& column : columns) headings.push_back(column.heading);
-  writeHeadings(grid, headings);
-  writeNumbers(grid);
+  gridHeadings(grid, headings);
+  gridNumbers(grid);
   for (int i = 0; i < count; ++i)
     for (std::size_t c = 0; c < columns.size(); ++c)
       grid.TextMatrix(i + 1, static_cast<int>(c) + 1, columns[c].cell(object, pairs, i));
@@ -103,6 +94,15 @@ void gridSetUp(Grid& grid, int cols, int rows) {
   grid.Rows(grid.FixedRows() + rows);
 }
 
+void gridHeadings(Grid& grid, const std::vector<std::string>& headings) {
+  for (std::size_t c = 0; c < headings.size(); ++c) grid.TextArray(static_cast<int>(c), headings[c]);
+}
+
+void gridNumbers(Grid& grid) {
+  for (int r = grid.FixedRows(); r <= grid.Rows() - grid.FixedRows(); ++r)
+    grid.TextMatrix(r, 0, std::to_string(r - grid.FixedRows() + 1));
+}
+
 void gridShow(Grid& grid) {
   gGridColumnFit(grid);
   grid.Visible(true);
@@ -121,8 +121,8 @@ void renderListAll(Workspace& workspace, SectionObject& object, std::string_view
   gridSetUp(grid, static_cast<int>(view.columns.size()) + 1, rows);
   std::vector<std::string> headings{"NO"};
   for (const ViewColumn& column : view.columns) headings.push_back(column.heading);
-  writeHeadings(grid, headings);
-  writeNumbers(grid);
+  gridHeadings(grid, headings);
+  gridNumbers(grid);
   for (int i = 0; i < rows; ++i)
     for (std::size_t c = 0; c < view.columns.size(); ++c)
       grid.TextMatrix(i + 1, static_cast<int>(c) + 1, view.columns[c].accessor(object, i, pair));
@@ -156,8 +156,8 @@ void renderMetricAll(Workspace& workspace, MetricSectionObject& object, const Me
   gridSetUp(grid, static_cast<int>(view.headings.size()) + 2, static_cast<int>(rows));
   std::vector<std::string> headings{"NO", "NAME"};
   headings.insert(headings.end(), view.headings.begin(), view.headings.end());
-  writeHeadings(grid, headings);
-  writeNumbers(grid);
+  gridHeadings(grid, headings);
+  gridNumbers(grid);
   for (std::size_t r = 0; r < rows; ++r) {
     const int row = static_cast<int>(r) + 1;
     grid.TextMatrix(row, 1, view.rows[r].label);

@@ -15,6 +15,10 @@ void gGridColumnFit(Grid& grid);
 /// Hides and empties the grid and gives it one heading row, one heading column, `cols` columns and `rows`
 /// rows below the heading.
 void gridSetUp(Grid& grid, int cols, int rows);
+/// Writes the heading row.
+void gridHeadings(Grid& grid, const std::vector<std::string>& headings);
+/// Numbers the rows below it from 1, in column 0.
+void gridNumbers(Grid& grid);
 /// Fits, shows and refreshes.
 void gridShow(Grid& grid);
 

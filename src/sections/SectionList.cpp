@@ -8,6 +8,7 @@
 #include "sections/activity_io/ModuleDispOSStatistics.h"
 #include "sections/activity_io/ModuleDispOSStatisticsdetail.h"
 #include "sections/activity_io/ModuleDispTablespaceIOStats.h"
+#include "sections/sql/ModuleDispSQLorderedby.h"
 #include "sections/summary/ModuleDispCacheSize.h"
 #include "sections/summary/ModuleDispSnapshot.h"
 #include "sections/waits/ModuleDispBackgroundWaitEvents.h"
@@ -46,22 +47,22 @@ SectionList sectionList() {
       {"Background Wait Events", 21, kAllVersions, false, false, make<clsBackgroundWaitEvents>, gDispBackgroundWaitEvents_All, byKeys({1}, gDispBackgroundWaitEvents_Col)},
       pending("Foreground Wait Events", 22, V11, false),
       pending("Wait Event Histogram", 23, V10_11, false),
-      pending("SQL ordered by CPU TOTAL", 30, V10_11, false),
-      pending("SQL ordered by CPU EXEC", 31, V10_11, false),
-      pending("SQL ordered by Elapsed TOTAL", 32, V10_11, false),
-      pending("SQL ordered by Elapsed EXEC", 33, V10_11, false),
-      pending("SQL ordered by Gets TOTAL", 34, kAllVersions, false),
-      pending("SQL ordered by Gets EXEC", 35, kAllVersions, false),
-      pending("SQL ordered by Reads TOTAL", 36, kAllVersions, false),
-      pending("SQL ordered by Reads EXEC", 37, kAllVersions, false),
-      pending("SQL ordered by I/O Wait TOTAL", 38, V10_11, false),
-      pending("SQL ordered by I/O Wait EXEC", 39, V10_11, false),
-      pending("SQL ordered by Cluster TOTAL", 40, V10_11, true),
-      pending("SQL ordered by Cluster EXEC", 41, V10_11, true),
-      pending("SQL ordered by Executions", 42, kAllVersions, false),
-      pending("SQL ordered by Parse Calls", 43, kAllVersions, false),
-      pending("SQL ordered by Sharable Memory", 44, kAllVersions, false),
-      pending("SQL ordered by Version Count", 45, kAllVersions, false),
+      {"SQL ordered by CPU TOTAL", 30, V10_11, false, true, make<clsSQLorderedby>, sqlTotal<gDispSQLorderedbyCPU_All>, byKeys({1}, gDispSQLorderedbyCPU_Col)},
+      {"SQL ordered by CPU EXEC", 31, V10_11, false, true, make<clsSQLorderedby>, sqlExec<gDispSQLorderedbyCPU_All>, byKeys({1}, gDispSQLorderedbyCPU_Col)},
+      {"SQL ordered by Elapsed TOTAL", 32, V10_11, false, true, make<clsSQLorderedby>, sqlTotal<gDispSQLorderedbyElapsed_All>, byKeys({1}, gDispSQLorderedbyElapsed_Col)},
+      {"SQL ordered by Elapsed EXEC", 33, V10_11, false, true, make<clsSQLorderedby>, sqlExec<gDispSQLorderedbyElapsed_All>, byKeys({1}, gDispSQLorderedbyElapsed_Col)},
+      {"SQL ordered by Gets TOTAL", 34, kAllVersions, false, true, make<clsSQLorderedby>, sqlTotal<gDispSQLorderedbyGets_All>, byKeys({1}, gDispSQLorderedbyGets_Col)},
+      {"SQL ordered by Gets EXEC", 35, kAllVersions, false, true, make<clsSQLorderedby>, sqlExec<gDispSQLorderedbyGets_All>, byKeys({1}, gDispSQLorderedbyGets_Col)},
+      {"SQL ordered by Reads TOTAL", 36, kAllVersions, false, true, make<clsSQLorderedby>, sqlTotal<gDispSQLorderedbyReads_All>, byKeys({1}, gDispSQLorderedbyReads_Col)},
+      {"SQL ordered by Reads EXEC", 37, kAllVersions, false, true, make<clsSQLorderedby>, sqlExec<gDispSQLorderedbyReads_All>, byKeys({1}, gDispSQLorderedbyReads_Col)},
+      {"SQL ordered by I/O Wait TOTAL", 38, V10_11, false, true, make<clsSQLorderedby>, sqlTotal<gDispSQLorderedbyIOWait_All>, byKeys({1}, gDispSQLorderedbyIOWait_Col)},
+      {"SQL ordered by I/O Wait EXEC", 39, V10_11, false, true, make<clsSQLorderedby>, sqlExec<gDispSQLorderedbyIOWait_All>, byKeys({1}, gDispSQLorderedbyIOWait_Col)},
+      {"SQL ordered by Cluster TOTAL", 40, V10_11, true, true, make<clsSQLorderedby>, sqlTotal<gDispSQLorderedbyCluster_All>, byKeys({1}, gDispSQLorderedbyCluster_Col)},
+      {"SQL ordered by Cluster EXEC", 41, V10_11, true, true, make<clsSQLorderedby>, sqlExec<gDispSQLorderedbyCluster_All>, byKeys({1}, gDispSQLorderedbyCluster_Col)},
+      {"SQL ordered by Executions", 42, kAllVersions, false, true, make<clsSQLorderedby>, gDispSQLorderedbyExecutions_All, byKeys({1}, gDispSQLorderedbyExecutions_Col)},
+      {"SQL ordered by Parse Calls", 43, kAllVersions, false, true, make<clsSQLorderedby>, gDispSQLorderedbyParseCalls_All, byKeys({1}, gDispSQLorderedbyParseCalls_Col)},
+      {"SQL ordered by Sharable Memory", 44, kAllVersions, false, true, make<clsSQLorderedby>, gDispSQLorderedbySharableMemory_All, byKeys({1}, gDispSQLorderedbySharableMemory_Col)},
+      {"SQL ordered by Version Count", 45, kAllVersions, false, true, make<clsSQLorderedby>, gDispSQLorderedbyVersionCount_All, byKeys({1}, gDispSQLorderedbyVersionCount_Col)},
       {"Instance Activity Stats[1]", 50, kAllVersions, false, false, make<clsInstanceActivityStats>, gDispInstanceActivityStats1_All, byKeys({1}, gDispInstanceActivityStats1_Col)},
       {"Instance Activity Stats[2]", 51, V10_11, false, false, make<clsInstanceActivityStats>, gDispInstanceActivityStats2_All, byKeys({1}, gDispInstanceActivityStats2_Col)},
       {"Instance Activity Stats[3]", 52, V10_11, false, false, make<clsInstanceActivityStats>, gDispInstanceActivityStats3_All, byKeys({1}, gDispInstanceActivityStats3_Col)},

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/controls/grid.h"
+#include "platform/message_box.h"
+
+namespace kestrelix {
+
+/// Makes a statement readable again from its stored pieces: joins them, reduces runs of blanks to one and
+/// splits at the line breaks that its author put in. It knows no SQL: literals are treated like the rest.
+class clsSQLShaping {
+ public:
+  explicit clsSQLShaping(MessageBoxes& boxes) : boxes_(boxes) {}
+
+  /// Reads the pieces, the headings and the first row's keys from a grid of pieces. False after a box.
+  bool Initialize(const Grid& grid);
+  /// Makes the lines. False after the boxes of the step that failed and of this member.
+  bool ExecShaping();
+
+  int org_rownum() const { return static_cast<int>(pieces_.size()); }
+  const std::string& org_sql_text(int i) const { return pieces_.at(static_cast<std::size_t>(i)); }
+  int shp_rownum() const { return static_cast<int>(lines_.size()); }
+  const std::string& shp_sql_text(int i) const { return lines_.at(static_cast<std::size_t>(i)); }
+  const std::string& Col1Name() const { return headings_.at(0); }
+  const std::string& Col2Name() const { return headings_.at(1); }
+  const std::string& Col3Name() const { return headings_.at(2); }
+  const std::string& Col4Name() const { return headings_.at(3); }
+  const std::string& Col1Value() const { return keys_.at(0); }
+  const std::string& Col2Value() const { return keys_.at(1); }
+  const std::string& Col3Value() const { return keys_.at(2); }
+
+ private:
+  void InputSqlJoin();
+  void ShapingMain();
+  void MakeOutBuffer();
+
+  MessageBoxes& boxes_;
+  std::vector<std::string> pieces_;
+  std::string joined_;
+  std::string shaped_;
+  std::vector<std::string> lines_;
+  std::vector<std::string> headings_;  // of grid columns 1 to 4
+  std::vector<std::string> keys_;      // first row's cells 1 to 3
+};
+
+}  // namespace kestrelix
