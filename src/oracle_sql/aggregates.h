@@ -37,6 +37,8 @@ class VarianceAccumulator {
   Value populationVariance() const;  // VAR_POP
 
  private:
+  Number spread(std::int64_t divisor) const;
+
   Number sum_;
   Number squares_;
   std::int64_t count_ = 0;

@@ -45,6 +45,7 @@ enum class ExprKind : std::uint8_t {
   Like,
   IsNull,
   Exists,
+  Lnnvl,
 };
 
 /// Base of every node of an expression. Nodes live in the arena of their Tree and are never destroyed one by
@@ -324,6 +325,13 @@ struct Exists : Expr {
   static constexpr ExprKind kKind = ExprKind::Exists;
   Exists() : Expr(kKind) {}
   Query* query = nullptr;
+};
+
+/// LNNVL(condition): true where the condition is false or unknown.
+struct Lnnvl : Expr {
+  static constexpr ExprKind kKind = ExprKind::Lnnvl;
+  Lnnvl() : Expr(kKind) {}
+  Expr* operand = nullptr;
 };
 
 /// The node as a T, or null if it is another kind.

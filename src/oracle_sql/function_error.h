@@ -9,6 +9,9 @@ namespace oracle_sql {
 // evaluates the expression adds the line and column.
 class FunctionError : public std::runtime_error {
  public:
+  // What the server knows and this engine doesn't; the message names it.
+  static constexpr int kUnsupported = 0;
+
   // `code` is the number of the error, 1722 for ORA-01722; `message` is its text without that prefix.
   FunctionError(int code, const std::string& message);
 

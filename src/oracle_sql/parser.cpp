@@ -58,12 +58,6 @@ std::string_view Parser::takeName(int oraCode, const char* message) {
   return nameOf(take());
 }
 
-void Parser::heighten(Expr& node, int height) {
-  if (height > kMaxHeight) tooDeep();
-  if (height > node.height) node.height = static_cast<std::uint16_t>(height);
-  tallest_ = std::max<int>(tallest_, height);
-}
-
 void Parser::tooDeep() const { throw SqlError::wrong(0, "the statement is nested too deeply", now().place); }
 
 Query* Parser::statement() {

@@ -111,6 +111,15 @@ Expr* Parser::predicate() {
     heighten(*node, queryHeight_ + 1);
     return node;
   }
+  if (isWord("LNNVL") && is(Symbol::LeftParen, 1)) {
+    const Deeper deeper(*this);
+    auto* node = this->node<Lnnvl>(take().place);
+    take();
+    node->operand = condition();
+    above(*node, node->operand);
+    expectRightParen();
+    return node;
+  }
   Expr* left = additive(true);
   if (isCondition(*left)) return left;
 

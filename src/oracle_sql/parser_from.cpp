@@ -8,13 +8,6 @@ void Parser::fromClause(SelectBlock& b) {
   while (accept(Symbol::Comma));
 }
 
-// Joins and pivots chain without brackets, so the nesting bound does not hold them.
-void Parser::countFromItem() {
-  if (++fromItems_ > kMaxHeight)
-    throw SqlError::wrong(0, "the statement joins more than " + std::to_string(kMaxHeight) + " tables",
-                          now().place);
-}
-
 FromItem* Parser::joined() { return joinsOf(fromPrimary()); }
 
 bool Parser::joinStart(std::size_t ahead) const {
@@ -51,7 +44,6 @@ FromItem* Parser::joinsOf(FromItem* left) {
   bool natural = false;
   Place place = now().place;
   while (joinOperator(kind, natural)) {
-    countFromItem();
     auto* join = tree_.make<JoinItem>();
     join->place = place;
     join->join = kind;
@@ -75,6 +67,7 @@ FromItem* Parser::joinsOf(FromItem* left) {
         fail(905, "missing keyword");
       }
     }
+    heighten(*join, std::max(left->height, join->right->height) + 1);
     left = join;
     place = now().place;
     // The ON of an outer pair follows.
@@ -106,7 +99,6 @@ bool Parser::tableAliasFollows() const {
 }
 
 FromItem* Parser::fromPrimary() {
-  countFromItem();
   FromItem* item = nullptr;
   const Place place = now().place;
   if (is(Symbol::LeftParen)) {
@@ -115,6 +107,7 @@ FromItem* Parser::fromPrimary() {
     if (isQueryAt(at_)) {
       auto* derived = tree_.make<DerivedItem>();
       derived->query = bracketedQuery();
+      heighten(*derived, queryHeight_ + 1);
       item = derived;
     } else {
       item = joined();
@@ -157,10 +150,10 @@ FromItem* Parser::table() {
 
 FromItem* Parser::pivot(FromItem* source) {
   const Deeper deeper(*this);
-  countFromItem();
   auto* p = tree_.make<PivotItem>();
   p->place = take().place;
   p->source = source;
+  heighten(*p, source->height + 1);
   if (isWord("XML")) unsupported("PIVOT XML");
   expectLeftParen();
   do {

@@ -43,7 +43,6 @@ class Parser {
   FromItem* table();
   FromItem* pivot(FromItem* source);
   bool tableAliasFollows() const;
-  void countFromItem();
 
   // parser_expression.cpp: values and conditions
   Expr* condition();
@@ -127,7 +126,12 @@ class Parser {
   void above(Expr& node, const Expr* operand) {
     if (operand) heighten(node, operand->height + 1);
   }
-  void heighten(Expr& node, int height);
+  template <class Node>
+  void heighten(Node& node, int height) {
+    if (height > kMaxHeight) tooDeep();
+    if (height > node.height) node.height = static_cast<std::uint16_t>(height);
+    tallest_ = std::max<int>(tallest_, height);
+  }
 
   /// Counts what is open inside each other.
   class Deeper {
@@ -149,7 +153,6 @@ class Parser {
   std::vector<std::uint32_t> closing_;  ///< for each "(" its ")", for others 0
   std::size_t at_ = 0;
   int nesting_ = 0;
-  int fromItems_ = 0;
   int tallest_ = 0;      ///< height of the tallest expression of the query that is being read
   int queryHeight_ = 0;  ///< height of the query that was read last
 };

@@ -35,6 +35,7 @@ enum class FromKind : std::uint8_t { Table, Derived, Join, Pivot };
 /// Join).
 struct FromItem {
   FromKind kind;
+  std::uint16_t height = 1;  ///< of the tree below, 1 for a table
   Place place;
   std::string_view alias;  ///< upper case unless quoted; empty if not written
   List<OutputColumn> columns;

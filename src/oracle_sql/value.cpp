@@ -125,23 +125,6 @@ std::string toRaw(const Value& value) {
   return bytes;
 }
 
-SqlType comparisonType(SqlType a, SqlType b) {
-  if (a == b) {
-    return a;
-  }
-  if (a == SqlType::Null || b == SqlType::Null) {
-    return a == SqlType::Null ? b : a;
-  }
-  if (isText(a) && isText(b)) {
-    return SqlType::Varchar;
-  }
-  const SqlType other = isText(a) ? b : a;
-  if (!isText(a) && !isText(b)) {
-    raiseInconsistentTypes();
-  }
-  return other == SqlType::Raw ? SqlType::Varchar : other;
-}
-
 int compareText(std::string_view a, std::string_view b) { return order(a.compare(b)); }
 
 int compareBlankPadded(std::string_view a, std::string_view b) {
@@ -160,23 +143,23 @@ int compareBlankPadded(std::string_view a, std::string_view b) {
   return 0;
 }
 
-int compareAs(SqlType type, const Value& a, const Value& b, const Context& context) {
+int compareAs(Comparison comparison, const Value& a, const Value& b, const Context& context) {
   std::string roomA;
   std::string roomB;
-  switch (type) {
-    case SqlType::Number:
+  switch (comparison) {
+    case Comparison::Number:
       return compare(toNumber(a), toNumber(b));
-    case SqlType::Date: {
+    case Comparison::Date: {
       const Date x = toDate(a, context);
       const Date y = toDate(b, context);
       return x < y ? -1 : x > y ? 1 : 0;
     }
-    case SqlType::Raw:
+    case Comparison::Raw:
       return compareText(toRaw(a), toRaw(b));
-    case SqlType::Char:
+    case Comparison::PaddedText:
       return compareBlankPadded(viewText(a, roomA), viewText(b, roomB));
-    case SqlType::Null:
-    case SqlType::Varchar:
+    case Comparison::Text:
+    case Comparison::Invalid:
       break;
   }
   return compareText(viewText(a, roomA), viewText(b, roomB));

@@ -7,14 +7,9 @@
 
 #include "oracle_sql/date.h"
 #include "oracle_sql/number.h"
+#include "oracle_sql/types.h"
 
 namespace oracle_sql {
-
-// What an expression is known to be before it runs. Null: a bare NULL, which fits every type. Char: a text
-// literal or CHAR column, which compares blank-padded with its like; every other text is Varchar.
-enum class SqlType : std::uint8_t { Null, Number, Char, Varchar, Date, Raw };
-
-constexpr bool isText(SqlType type) { return type == SqlType::Char || type == SqlType::Varchar; }
 
 // One value of a row. The empty text and the empty RAW are NULL. Text is UTF-8.
 class Value {
@@ -63,12 +58,10 @@ std::string toText(const Value& value);                   // a DATE as DD-MON-RR
 Date toDate(const Value& value, const Context& context);  // text as DD-MON-RR; ORA-018xx
 std::string toRaw(const Value& value);                    // text as hexadecimal digits, ORA-01465
 
-// The type that two sides of a comparison are brought to: a number wins over text, a date over text,
-// RAW against text is text; text is Char (blank-padded) only if both sides are.
-SqlType comparisonType(SqlType a, SqlType b);
-// -1, 0, 1 after bringing both to `type`; neither may be NULL. Text compares by its bytes.
-int compareAs(SqlType type, const Value& a, const Value& b, const Context& context);
-int compareText(std::string_view a, std::string_view b);
-int compareBlankPadded(std::string_view a, std::string_view b);
+// -1, 0, 1 after bringing both sides to the type of the comparison, which is not Invalid; neither may be
+// NULL.
+int compareAs(Comparison comparison, const Value& a, const Value& b, const Context& context);
+int compareText(std::string_view a, std::string_view b);         // by the bytes
+int compareBlankPadded(std::string_view a, std::string_view b);  // the shorter one filled up with blanks
 
 }  // namespace oracle_sql

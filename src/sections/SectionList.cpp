@@ -10,8 +10,18 @@
 #include "sections/activity_io/ModuleDispTablespaceIOStats.h"
 #include "sections/sql/ModuleDispSQLorderedby.h"
 #include "sections/summary/ModuleDispCacheSize.h"
+#include "sections/summary/ModuleDispHostCPU.h"
+#include "sections/summary/ModuleDispInstanceCPU.h"
+#include "sections/summary/ModuleDispInstanceEfficiency.h"
+#include "sections/summary/ModuleDispLoadProfile.h"
+#include "sections/summary/ModuleDispMemoryStatistics.h"
 #include "sections/summary/ModuleDispSnapshot.h"
+#include "sections/summary/ModuleDispTimeModelSystemStats.h"
+#include "sections/summary/ModuleDispVirtualMemoryPaging.h"
 #include "sections/waits/ModuleDispBackgroundWaitEvents.h"
+#include "sections/waits/ModuleDispForegroundWaitEvents.h"
+#include "sections/waits/ModuleDispTopNWaitEvents.h"
+#include "sections/waits/ModuleDispWaitEventHistogram.h"
 #include "sections/waits/ModuleDispWaitEvents.h"
 
 namespace kestrelix {
@@ -30,14 +40,14 @@ SectionList sectionList() {
   static const std::vector<SectionEntry> sections = {
       {"Snapshot", 0, kAllVersions, false, false, make<clsSnapshot>, gDispSnapshot_All, byRow(gDispSnapshot_Col)},
       {"Cache Sizes", 1, kAllVersions, false, false, make<clsCacheSize>, gDispCacheSize_All, byRow(gDispCacheSize_Col)},
-      pending("Load Profile", 2, kAllVersions, false),
-      pending("Instance Efficiency", 3, kAllVersions, false),
-      pending("Top 5 Timed Events", 4, kAllVersions, false),
-      pending("Host CPU", 5, V10_11, false),
-      pending("Instance CPU", 6, V10_11, false),
-      pending("Virtual Memory Paging", 7, V10_11, false),
-      pending("Memory Statistics", 8, V10_11, false),
-      pending("Time Model System Stats", 9, V10_11, false),
+      {"Load Profile", 2, kAllVersions, false, false, make<clsLoadProfile>, gDispLoadProfile_All, byRow(gDispLoadProfile_Col)},
+      {"Instance Efficiency", 3, kAllVersions, false, false, make<clsInstanceEfficiency>, gDispInstanceEfficiency_All, byRow(gDispInstanceEfficiency_Col)},
+      {"Top 5 Timed Events", 4, kAllVersions, false, false, make<clsTopNWaitEvents>, gDispTopNWaitEvents_All, byKeys({1}, gDispTopNWaitEvents_Col)},
+      {"Host CPU", 5, V10_11, false, false, make<clsHostCPU>, gDispHostCPU_All, byRow(gDispHostCPU_Col)},
+      {"Instance CPU", 6, V10_11, false, false, make<clsInstanceCPU>, gDispInstanceCPU_All, byRow(gDispInstanceCPU_Col)},
+      {"Virtual Memory Paging", 7, V10_11, false, false, make<clsVirtualMemoryPaging>, gDispVirtualMemoryPaging_All, byRow(gDispVirtualMemoryPaging_Col)},
+      {"Memory Statistics", 8, V10_11, false, false, make<clsMemoryStatistics>, gDispMemoryStatistics_All, byRow(gDispMemoryStatistics_Col)},
+      {"Time Model System Stats", 9, V10_11, false, false, make<clsTimeModelSystemStats>, gDispTimeModelSystemStats_All, byKeys({1}, gDispTimeModelSystemStats_Col)},
       pending("RAC Statistics", 10, V10_11, true),
       pending("Global Cache Load Profile", 11, V10_11, true),
       pending("Global Cache Efficiency", 12, V10_11, true),
@@ -45,8 +55,8 @@ SectionList sectionList() {
       pending("GCS/GES Messaging Statistics", 14, V10_11, true),
       {"Wait Events", 20, kAllVersions, false, false, make<clsWaitEvents>, gDispWaitEvents_All, byKeys({1}, gDispWaitEvents_Col)},
       {"Background Wait Events", 21, kAllVersions, false, false, make<clsBackgroundWaitEvents>, gDispBackgroundWaitEvents_All, byKeys({1}, gDispBackgroundWaitEvents_Col)},
-      pending("Foreground Wait Events", 22, V11, false),
-      pending("Wait Event Histogram", 23, V10_11, false),
+      {"Foreground Wait Events", 22, V11, false, false, make<clsForegroundWaitEvents>, gDispForegroundWaitEvents_All, byKeys({1}, gDispForegroundWaitEvents_Col)},
+      {"Wait Event Histogram", 23, V10_11, false, false, make<clsWaitEventHistogram>, gDispWaitEventHistogram_All, byKeys({1}, gDispWaitEventHistogram_Col)},
       {"SQL ordered by CPU TOTAL", 30, V10_11, false, true, make<clsSQLorderedby>, sqlTotal<gDispSQLorderedbyCPU_All>, byKeys({1}, gDispSQLorderedbyCPU_Col)},
       {"SQL ordered by CPU EXEC", 31, V10_11, false, true, make<clsSQLorderedby>, sqlExec<gDispSQLorderedbyCPU_All>, byKeys({1}, gDispSQLorderedbyCPU_Col)},
       {"SQL ordered by Elapsed TOTAL", 32, V10_11, false, true, make<clsSQLorderedby>, sqlTotal<gDispSQLorderedbyElapsed_All>, byKeys({1}, gDispSQLorderedbyElapsed_Col)},

@@ -74,4 +74,20 @@ Bind transactions() {
           fold("select e.TRAN - b.TRAN AS TRAN from " + ended(":B3") + " b," + ended(":B4") + " e")};
 }
 
+std::string elapsedSeconds(const std::string& inOrder) {
+  return fold(R"sql(
+    select ROUND(((e.snap_time - b.snap_time) * 1440 * 60), 0) AS ELA
+      from stats$snapshot b, stats$snapshot e
+     where b.snap_id = :B3
+       and e.snap_id = :B4
+       and b.dbid = :B1
+       and e.dbid = :B1
+       and b.instance_number = :B2
+       and e.instance_number = :B2
+       and )sql" +
+              inOrder);
+}
+
+Bind elapsed() { return {"ela", ServerType::Number, "getELA", elapsedSeconds("b.snap_time <= e.snap_time")}; }
+
 }  // namespace kestrelix

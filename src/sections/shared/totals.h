@@ -2,6 +2,8 @@
 // pair is bound, whose result goes into the bind of its name.
 #pragma once
 
+#include <string>
+
 #include "report/statement.h"
 
 namespace kestrelix {
@@ -15,5 +17,11 @@ Bind totalCpu();
 Bind timedStatistics();
 /// TRAN: commits and rollbacks of the pair (stats$sysstat).
 Bind transactions();
+/// ela: whole seconds between the snapshots, 0 for two of the same second (stats$snapshot).
+Bind elapsed();
+
+/// The query of ELA, whole seconds between the snapshots, with one row if `inOrder` holds of the snapshots'
+/// times, such as "b.snap_time < e.snap_time", and none otherwise.
+std::string elapsedSeconds(const std::string& inOrder);
 
 }  // namespace kestrelix

@@ -1,0 +1,82 @@
+#include "oracle_sql/ascii_case.h"
+#include "oracle_sql/date_format.h"
+#include "oracle_sql/functions/library.h"
+#include "oracle_sql/number_format.h"
+
+namespace oracle_sql::library {
+namespace {
+
+// The third argument of the TO_ functions names a language or separators. Those of the session are accepted.
+void checkSettings(Arguments arguments) {
+  if (arguments.size() < 3) {
+    return;
+  }
+  const TextOf given(arguments[2]);
+  std::string settings;
+  for (const char c : given.view()) {
+    if (c != ' ') {
+      settings += asciiUpper(c);
+    }
+  }
+  for (const char* known :
+       {"NLS_DATE_LANGUAGE=AMERICAN", "NLS_DATE_LANGUAGE=ENGLISH", "NLS_DATE_LANGUAGE='AMERICAN'",
+        "NLS_DATE_LANGUAGE='ENGLISH'", "NLS_NUMERIC_CHARACTERS='.,'", "NLS_NUMERIC_CHARACTERS=.,"}) {
+    if (settings == known) {
+      return;
+    }
+  }
+  throw FunctionError(FunctionError::kUnsupported, "NLS parameters other than those of the session");
+}
+
+}  // namespace
+
+Value toCharacter(Arguments arguments, const Context&) {
+  checkSettings(arguments);
+  const Value& value = arguments[0];
+  if (arguments.size() < 2) {
+    return value.isText() ? value : Value::text(toText(value));
+  }
+  const TextOf model(arguments[1]);
+  if (value.isDate()) {
+    return Value::text(formatDate(value.date(), model.view()));
+  }
+  return Value::text(formatNumber(toNumber(value), model.view()));
+}
+
+Value toNumeric(Arguments arguments, const Context&) {
+  checkSettings(arguments);
+  if (arguments.size() < 2) {
+    return toNumber(arguments[0]);
+  }
+  return parseNumber(TextOf(arguments[0]).view(), TextOf(arguments[1]).view());
+}
+
+// A DATE goes through its own text too, and so loses its time of day, as it does on the server.
+Value toDateValue(Arguments arguments, const Context& context) {
+  checkSettings(arguments);
+  const TextOf text(arguments[0]);
+  if (arguments.size() < 2) {
+    return parseDate(text.view(), kDefaultDateModel, context);
+  }
+  return parseDate(text.view(), TextOf(arguments[1]).view(), context);
+}
+
+// The bytes of any value: of a number its ordered form, of text its characters.
+Value rawToHex(Arguments arguments, const Context&) {
+  const Value& value = arguments[0];
+  if (value.isDate()) {
+    raiseInconsistentTypes();
+  }
+  if (value.isNumber()) {
+    std::uint8_t bytes[Number::kMaxBytes];
+    const std::size_t size = value.number().toBytes(bytes);
+    return Value::text(toText(Value::raw(std::string(bytes, bytes + size))));
+  }
+  return Value::text(toText(Value::rawView(value.bytes())));
+}
+
+Value hexToRaw(Arguments arguments, const Context&) {
+  return Value::raw(toRaw(Value::textView(TextOf(arguments[0]).view())));
+}
+
+}  // namespace oracle_sql::library

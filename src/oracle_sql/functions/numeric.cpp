@@ -1,0 +1,78 @@
+#include <algorithm>
+
+#include "oracle_sql/functions/library.h"
+
+namespace oracle_sql::library {
+namespace {
+
+// The number of places of ROUND and TRUNC.
+int placesOf(Arguments arguments) {
+  if (arguments.size() < 2) {
+    return 0;
+  }
+  return static_cast<int>(std::clamp<std::int64_t>(toWhole(arguments[1]), -1000, 1000));
+}
+
+std::int64_t bits(const Value& value) {
+  const auto whole = toNumber(value).trunc().toInt64();
+  if (!whole) {
+    raiseArgumentOutOfRange();
+  }
+  return *whole;
+}
+
+}  // namespace
+
+Value absolute(Arguments arguments, const Context&) { return toNumber(arguments[0]).abs(); }
+
+Value sign(Arguments arguments, const Context&) { return toNumber(arguments[0]).sign(); }
+
+Value ceiling(Arguments arguments, const Context&) { return toNumber(arguments[0]).ceil(); }
+
+Value floor(Arguments arguments, const Context&) { return toNumber(arguments[0]).floor(); }
+
+Value round(Arguments arguments, const Context&) {
+  if (arguments[0].isDate()) {
+    return arguments.size() < 2 ? roundDate(arguments[0].date())
+                                : roundDate(arguments[0].date(), TextOf(arguments[1]).view());
+  }
+  return toNumber(arguments[0]).round(placesOf(arguments));
+}
+
+Value truncate(Arguments arguments, const Context&) {
+  if (arguments[0].isDate()) {
+    return arguments.size() < 2 ? truncDate(arguments[0].date())
+                                : truncDate(arguments[0].date(), TextOf(arguments[1]).view());
+  }
+  return toNumber(arguments[0]).trunc(placesOf(arguments));
+}
+
+Value modulo(Arguments arguments, const Context&) {
+  return mod(toNumber(arguments[0]), toNumber(arguments[1]));
+}
+
+Value remainder(Arguments arguments, const Context&) {
+  return oracle_sql::remainder(toNumber(arguments[0]), toNumber(arguments[1]));
+}
+
+Value power(Arguments arguments, const Context&) {
+  return oracle_sql::power(toNumber(arguments[0]), toNumber(arguments[1]));
+}
+
+Value squareRoot(Arguments arguments, const Context&) { return sqrt(toNumber(arguments[0])); }
+
+Value exponential(Arguments arguments, const Context&) { return exp(toNumber(arguments[0])); }
+
+Value naturalLogarithm(Arguments arguments, const Context&) { return ln(toNumber(arguments[0])); }
+
+Value logarithm(Arguments arguments, const Context&) {
+  return log(toNumber(arguments[0]), toNumber(arguments[1]));
+}
+
+Value bitAnd(Arguments arguments, const Context&) { return bits(arguments[0]) & bits(arguments[1]); }
+
+Value arcTangent2(Arguments arguments, const Context&) {
+  return atan2(toNumber(arguments[0]), toNumber(arguments[1]));
+}
+
+}  // namespace oracle_sql::library

@@ -1,0 +1,106 @@
+#include <algorithm>
+#include <string>
+
+#include "oracle_sql/ascii_case.h"
+#include "oracle_sql/functions/library.h"
+#include "oracle_sql/functions/result_types.h"
+
+namespace oracle_sql {
+namespace {
+
+using Implementation = Value (*)(Arguments, const Context&);
+
+// NULL for any NULL argument: what most functions do.
+template <Implementation F>
+Value strict(Arguments arguments, const Context& context) {
+  for (const Value& argument : arguments) {
+    if (argument.isNull()) {
+      return {};
+    }
+  }
+  return F(arguments, context);
+}
+
+constexpr int kAny = Function::kAnyNumber;
+constexpr Implementation kLazy = nullptr;
+
+// In the order of their names: findFunction searches by halves.
+constexpr Function kTable[] = {
+    {"ABS", 1, 1, true, types::number, strict<library::absolute>},
+    {"ACOS", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Acos>>},
+    {"ADD_MONTHS", 2, 2, true, types::date, strict<library::addMonths>},
+    {"ASCII", 1, 1, true, types::wholeNumber, strict<library::ascii>},
+    {"ASIN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Asin>>},
+    {"ATAN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Atan>>},
+    {"ATAN2", 2, 2, true, types::number, strict<library::arcTangent2>},
+    {"BITAND", 2, 2, true, types::number, strict<library::bitAnd>},
+    {"CEIL", 1, 1, true, types::firstAsNumber, strict<library::ceiling>},
+    {"CHR", 1, 1, true, types::varchar, strict<library::character>},
+    {"COALESCE", 2, kAny, true, types::coalesce, kLazy},
+    {"CONCAT", 2, 2, true, types::varchar, library::concat},
+    {"COS", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Cos>>},
+    {"COSH", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Cosh>>},
+    {"DECODE", 3, kAny, true, types::decode, kLazy},
+    {"EXP", 1, 1, true, types::number, strict<library::exponential>},
+    {"EXTRACT", 2, 2, true, types::wholeNumber, strict<library::extract>},
+    {"FLOOR", 1, 1, true, types::firstAsNumber, strict<library::floor>},
+    {"GREATEST", 1, kAny, true, types::likeFirst, strict<library::greatest>},
+    {"HEXTORAW", 1, 1, true, types::raw, strict<library::hexToRaw>},
+    {"INITCAP", 1, 1, true, types::sameText, strict<library::initialCapitals>},
+    {"INSTR", 2, 4, true, types::wholeNumber, strict<library::position>},
+    {"INSTRB", 2, 4, true, types::wholeNumber, strict<library::positionBytes>},
+    {"LAST_DAY", 1, 1, true, types::date, strict<library::lastDay>},
+    {"LEAST", 1, kAny, true, types::likeFirst, strict<library::least>},
+    {"LENGTH", 1, 1, true, types::wholeNumber, strict<library::length>},
+    {"LENGTHB", 1, 1, true, types::wholeNumber, strict<library::lengthBytes>},
+    {"LN", 1, 1, true, types::number, strict<library::naturalLogarithm>},
+    {"LOG", 2, 2, true, types::number, strict<library::logarithm>},
+    {"LOWER", 1, 1, true, types::sameText, strict<library::lower>},
+    {"LPAD", 2, 3, true, types::varchar, strict<library::padLeft>},
+    {"LTRIM", 1, 2, true, types::varchar, strict<library::trimLeft>},
+    {"MOD", 2, 2, true, types::bothWhole, strict<library::modulo>},
+    {"MONTHS_BETWEEN", 2, 2, true, types::number, strict<library::monthsBetween>},
+    {"NEXT_DAY", 2, 2, true, types::date, strict<library::nextDay>},
+    {"NULLIF", 2, 2, true, types::first, kLazy},
+    {"NVL", 2, 2, true, types::nvl, kLazy},
+    {"NVL2", 3, 3, true, types::nvl2, kLazy},
+    {"POWER", 2, 2, true, types::number, strict<library::power>},
+    {"RAWTOHEX", 1, 1, true, types::varchar, strict<library::rawToHex>},
+    {"REMAINDER", 2, 2, true, types::bothWhole, strict<library::remainder>},
+    {"REPLACE", 2, 3, true, types::varchar, library::replace},
+    {"ROUND", 1, 2, true, types::dateOrNumber, strict<library::round>},
+    {"RPAD", 2, 3, true, types::varchar, strict<library::padRight>},
+    {"RTRIM", 1, 2, true, types::varchar, strict<library::trimRight>},
+    {"SIGN", 1, 1, true, types::wholeNumber, strict<library::sign>},
+    {"SIN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Sin>>},
+    {"SINH", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Sinh>>},
+    {"SQRT", 1, 1, true, types::number, strict<library::squareRoot>},
+    {"STATSPACK.V1024", 5, 5, true, types::varchar, library::statspackV1024},
+    {"SUBSTR", 2, 3, true, types::varchar, strict<library::substring>},
+    {"SUBSTRB", 2, 3, true, types::varchar, strict<library::substringBytes>},
+    {"SYSDATE", 0, 0, false, types::date, library::systemDate},
+    {"TAN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Tan>>},
+    {"TANH", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Tanh>>},
+    {"TO_CHAR", 1, 3, true, types::varchar, strict<library::toCharacter>},
+    // What a model leaves out comes from the running month.
+    {"TO_DATE", 1, 3, false, types::date, strict<library::toDateValue>},
+    {"TO_NUMBER", 1, 3, true, types::number, strict<library::toNumeric>},
+    {"TRANSLATE", 3, 3, true, types::varchar, strict<library::translate>},
+    {"TRIM", 1, 3, true, types::varchar, strict<library::trim>},
+    {"TRUNC", 1, 2, true, types::dateOrNumber, strict<library::truncate>},
+    {"UPPER", 1, 1, true, types::sameText, strict<library::upper>},
+};
+
+static_assert(std::ranges::is_sorted(kTable, {}, &Function::name));
+
+}  // namespace
+
+std::span<const Function> functionTable() { return kTable; }
+
+const Function* findFunction(std::string_view name) {
+  const std::string upper = asciiUpper(name);
+  const auto* const found = std::ranges::lower_bound(kTable, std::string_view(upper), {}, &Function::name);
+  return found != std::end(kTable) && found->name == upper ? found : nullptr;
+}
+
+}  // namespace oracle_sql

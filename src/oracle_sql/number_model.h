@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace oracle_sql {
+
+// A number format model taken apart. Positions are counted in digits.
+struct NumberModel {
+  enum class Form : std::uint8_t { Fixed, Scientific, Roman, Hexadecimal, Text, TextScientific };
+  enum class Sign : std::uint8_t { Default, Leading, Trailing, TrailingMinus, Brackets };
+  enum class Currency : std::uint8_t { None, Dollar, Local, Iso, Dual };
+
+  Form form = Form::Fixed;
+  Sign sign = Sign::Default;
+  Currency currency = Currency::None;
+  bool currencyBehind = false;
+  bool filled = true;      // not under FM
+  bool blankZero = false;  // B
+  bool lower = false;      // rn, x
+  bool point = false;
+  int shift = 0;              // digits behind V
+  std::string whole = {};     // '9', '0' and ',' as they stand before the point
+  std::string fraction = {};  // '9' and '0' behind it
+};
+
+// ORA-01481 for a model that is none. Valid until the next call on this thread.
+const NumberModel& numberModel(std::string_view text);
+
+}  // namespace oracle_sql

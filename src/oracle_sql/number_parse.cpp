@@ -1,0 +1,171 @@
+#include <algorithm>
+
+#include "oracle_sql/ascii_case.h"
+#include "oracle_sql/function_error.h"
+#include "oracle_sql/number_format.h"
+#include "oracle_sql/number_model.h"
+
+namespace oracle_sql {
+namespace {
+
+using Form = NumberModel::Form;
+using Sign = NumberModel::Sign;
+using Currency = NumberModel::Currency;
+
+Number parseHexadecimal(std::string_view text, const NumberModel& model) {
+  Number value;
+  if (text.empty() || text.size() > model.whole.size()) {
+    raiseInvalidNumber();
+  }
+  for (const char c : text) {
+    const char upper = asciiUpper(c);
+    const bool letter = upper >= 'A' && upper <= 'F';
+    if (!letter && !isAsciiDigit(c)) {
+      raiseInvalidNumber();
+    }
+    value = value * Number(16) + Number(letter ? upper - 'A' + 10 : c - '0');
+  }
+  return value;
+}
+
+class Reader {
+ public:
+  Reader(std::string_view text, const NumberModel& model) : rest_(text), model_(model) {}
+
+  Number read() {
+    const bool negative = readSigns();
+    readCurrency();
+    readDigits();
+    if (!rest_.empty()) {
+      raiseInvalidNumber();
+    }
+    const auto value = Number::parse((negative ? "-" : "") + digits_);
+    if (!value) {
+      raiseInvalidNumber();
+    }
+    return model_.shift == 0 ? *value : *value / power(Number(10), Number(model_.shift));
+  }
+
+ private:
+  bool takeFront(char c) {
+    const bool there = !rest_.empty() && rest_.front() == c;
+    rest_.remove_prefix(there ? 1 : 0);
+    return there;
+  }
+
+  bool takeBack(char c) {
+    const bool there = !rest_.empty() && rest_.back() == c;
+    rest_.remove_suffix(there ? 1 : 0);
+    return there;
+  }
+
+  bool readSigns() {
+    switch (model_.sign) {
+      case Sign::Default:
+        return takeFront('-');
+      case Sign::Leading: {
+        const bool minus = takeFront('-');
+        takeFront('+');
+        return minus;
+      }
+      case Sign::Trailing: {
+        const bool minus = takeBack('-');
+        takeBack('+');
+        return minus;
+      }
+      case Sign::TrailingMinus: {
+        const bool minus = takeBack('-');
+        while (takeBack(' ')) {
+        }
+        return minus;
+      }
+      case Sign::Brackets:
+        if (takeFront('<')) {
+          if (!takeBack('>')) {
+            raiseInvalidNumber();
+          }
+          return true;
+        }
+        return false;
+    }
+    return false;
+  }
+
+  void readCurrency() {
+    if (model_.currency == Currency::None) {
+      return;
+    }
+    const std::string_view mark = model_.currency == Currency::Iso ? "USD" : "$";
+    if (rest_.starts_with(mark)) {
+      rest_.remove_prefix(mark.size());
+    } else if (rest_.ends_with(mark)) {
+      rest_.remove_suffix(mark.size());
+    }
+  }
+
+  void readDigits() {
+    const auto places =
+        std::count_if(model_.whole.begin(), model_.whole.end(), [](char c) { return c != ','; });
+    const bool groups = model_.whole.find(',') != std::string::npos;
+    std::ptrdiff_t whole = 0;
+    std::size_t fraction = 0;
+    bool point = false;
+    for (; !rest_.empty(); rest_.remove_prefix(1)) {
+      const char c = rest_.front();
+      if (isAsciiDigit(c)) {
+        whole += point ? 0 : 1;
+        fraction += point ? 1 : 0;
+      } else if (c == '.' && model_.point && !point) {
+        point = true;
+      } else if (c == ',' && groups && !point) {
+        continue;
+      } else {
+        break;
+      }
+      digits_ += c;
+    }
+    if (model_.form == Form::Scientific && !rest_.empty() && asciiUpper(rest_.front()) == 'E') {
+      digits_ += rest_;
+      rest_ = {};
+    }
+    if (whole > places || fraction > model_.fraction.size()) {
+      raiseInvalidNumber();
+    }
+  }
+
+  std::string_view rest_;
+  const NumberModel& model_;
+  std::string digits_;
+};
+
+}  // namespace
+
+Number parseNumber(std::string_view text, std::string_view model) {
+  const NumberModel& m = numberModel(model);
+  while (!text.empty() && text.front() == ' ') {
+    text.remove_prefix(1);
+  }
+  while (!text.empty() && text.back() == ' ') {
+    text.remove_suffix(1);
+  }
+  switch (m.form) {
+    case Form::Fixed:
+    case Form::Scientific:
+      break;
+    case Form::Hexadecimal:
+      return parseHexadecimal(text, m);
+    case Form::Roman:
+      throw FunctionError(1481, "invalid number format model");
+    case Form::Text:
+    case Form::TextScientific: {
+      const auto value = Number::parse(text);
+      if (!value) {
+        raiseInvalidNumber();
+      }
+      return *value;
+    }
+  }
+  return Reader(text, m).read();
+}
+
+}  // namespace oracle_sql

@@ -1,0 +1,184 @@
+// Aggregates and moving aggregates in NUMBER.
+#include <memory>
+#include <type_traits>
+
+#include "oracle_sql/aggregates.h"
+#include "platform/embedded/function_frame.h"
+#include "platform/embedded/storage.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+/// An accumulator in SQLite's own memory, which begins as zeroes: an empty one. Null when `create` is false
+/// and no row has come.
+template <class Accumulator>
+Accumulator* inPlace(sqlite3_context* context, bool create) {
+  static_assert(std::is_trivially_destructible_v<Accumulator>);
+  return static_cast<Accumulator*>(sqlite3_aggregate_context(context, create ? sizeof(Accumulator) : 0));
+}
+
+template <class Accumulator>
+void step(sqlite3_context* context, int, Values arguments) {
+  auto* accumulator = inPlace<Accumulator>(context, true);
+  if (!accumulator) return sqlite3_result_error_nomem(context);
+  if (isNull(arguments[0])) return;
+  try {
+    accumulator->step(numberOf(arguments[0]));
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), 0);
+  }
+}
+
+template <class Accumulator>
+void inverse(sqlite3_context* context, int, Values arguments) {
+  if (isNull(arguments[0])) return;
+  try {
+    inPlace<Accumulator>(context, true)->inverse(numberOf(arguments[0]));
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), 0);
+  }
+}
+
+template <class Accumulator, values::Value (Accumulator::*Result)() const>
+void result(sqlite3_context* context) {
+  const auto* accumulator = inPlace<Accumulator>(context, false);
+  if (!accumulator) return sqlite3_result_null(context);
+  try {
+    giveValue(context, (accumulator->*Result)());
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), 0);
+  }
+}
+
+template <class Accumulator, values::Value (Accumulator::*Result)() const>
+void addMoving(sqlite3* connection, const char* name, Evaluation& evaluation) {
+  checkRegistration(sqlite3_create_window_function(connection, name, 1, kPure, &evaluation, step<Accumulator>,
+                                                   result<Accumulator, Result>, result<Accumulator, Result>,
+                                                   inverse<Accumulator>, nullptr),
+                    name);
+}
+
+/// The extreme of a group; `Sign` 1 for the greatest.
+struct Extreme {
+  bool any;
+  values::Number number;
+};
+
+template <int Sign>
+void extremeStep(sqlite3_context* context, int, Values arguments) {
+  auto* extreme = inPlace<Extreme>(context, true);
+  if (!extreme) return sqlite3_result_error_nomem(context);
+  if (isNull(arguments[0])) return;
+  try {
+    const values::Number number = numberOf(arguments[0]);
+    if (!extreme->any || compare(number, extreme->number) == Sign) *extreme = {true, number};
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), 0);
+  }
+}
+
+void extremeResult(sqlite3_context* context) {
+  const auto* extreme = inPlace<Extreme>(context, false);
+  if (!extreme || !extreme->any) return sqlite3_result_null(context);
+  giveNumber(context, extreme->number);
+}
+
+using Moving = values::MovingExtremeAccumulator;
+
+Moving*& movingOf(sqlite3_context* context) {
+  return *static_cast<Moving**>(sqlite3_aggregate_context(context, sizeof(Moving*)));
+}
+
+void movingStep(sqlite3_context* context, int, Values arguments) {
+  try {
+    Moving*& moving = movingOf(context);
+    if (!moving) moving = new Moving;
+    if (!isNull(arguments[0])) moving->step(numberOf(arguments[0]));
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), 0);
+  }
+}
+
+void movingInverse(sqlite3_context* context, int, Values arguments) {
+  try {
+    Moving* moving = movingOf(context);
+    if (moving && !isNull(arguments[0])) moving->inverse(numberOf(arguments[0]));
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), 0);
+  }
+}
+
+template <values::Value (Moving::*Result)() const>
+void movingValue(sqlite3_context* context) {
+  const Moving* moving = movingOf(context);
+  if (!moving) return sqlite3_result_null(context);
+  giveValue(context, (moving->*Result)());
+}
+
+template <values::Value (Moving::*Result)() const>
+void movingFinal(sqlite3_context* context) {
+  const std::unique_ptr<Moving> moving(movingOf(context));
+  if (!moving) return sqlite3_result_null(context);
+  giveValue(context, ((*moving).*Result)());
+}
+
+/// A scalar subquery's value: the only row's, NULL without one.
+void onlyRowStep(sqlite3_context* context, int, Values arguments) {
+  auto** kept = static_cast<sqlite3_value**>(sqlite3_aggregate_context(context, sizeof(sqlite3_value*)));
+  if (!kept) return sqlite3_result_error_nomem(context);
+  if (!*kept) {
+    *kept = sqlite3_value_dup(arguments[0]);
+    return;
+  }
+  try {
+    throw values::FunctionError(1427, "single-row subquery returns more than one row");
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), offsetOf(arguments[1]));
+  }
+}
+
+void onlyRowFinal(sqlite3_context* context) {
+  auto** kept = static_cast<sqlite3_value**>(sqlite3_aggregate_context(context, 0));
+  if (!kept || !*kept) return sqlite3_result_null(context);
+  if (evaluationOf(context).failure)
+    sqlite3_result_error(context, evaluationOf(context).failure->message.c_str(), -1);
+  else
+    sqlite3_result_value(context, *kept);
+  sqlite3_value_free(*kept);
+  *kept = nullptr;
+}
+
+}  // namespace
+
+void registerAggregates(sqlite3* connection, Evaluation& evaluation) {
+  using values::SumAccumulator;
+  using values::VarianceAccumulator;
+  addMoving<SumAccumulator, &SumAccumulator::sum>(connection, "num_sum", evaluation);
+  addMoving<SumAccumulator, &SumAccumulator::average>(connection, "num_avg", evaluation);
+  addMoving<VarianceAccumulator, &VarianceAccumulator::variance>(connection, "num_variance", evaluation);
+  addMoving<VarianceAccumulator, &VarianceAccumulator::standardDeviation>(connection, "num_stddev",
+                                                                          evaluation);
+  addMoving<VarianceAccumulator, &VarianceAccumulator::sampleVariance>(connection, "num_var_samp",
+                                                                       evaluation);
+  addMoving<VarianceAccumulator, &VarianceAccumulator::populationVariance>(connection, "num_var_pop",
+                                                                           evaluation);
+
+  const auto addAggregate = [&](const char* name, int count, auto stepFunction, auto finalFunction) {
+    checkRegistration(sqlite3_create_function_v2(connection, name, count, kPure, &evaluation, nullptr,
+                                                 stepFunction, finalFunction, nullptr),
+                      name);
+  };
+  addAggregate("num_min", 1, extremeStep<-1>, extremeResult);
+  addAggregate("num_max", 1, extremeStep<1>, extremeResult);
+  addAggregate("only_row", 2, onlyRowStep, onlyRowFinal);
+  checkRegistration(sqlite3_create_window_function(connection, "num_min_moving", 1, kPure, &evaluation,
+                                                   movingStep, movingFinal<&Moving::minimum>,
+                                                   movingValue<&Moving::minimum>, movingInverse, nullptr),
+                    "num_min_moving");
+  checkRegistration(sqlite3_create_window_function(connection, "num_max_moving", 1, kPure, &evaluation,
+                                                   movingStep, movingFinal<&Moving::maximum>,
+                                                   movingValue<&Moving::maximum>, movingInverse, nullptr),
+                    "num_max_moving");
+}
+
+}  // namespace kestrelix::embedded

@@ -1,0 +1,28 @@
+// What the functions that SQLite calls know of the statement that is running.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "oracle_sql/value.h"
+#include "platform/embedded/names.h"
+
+namespace kestrelix::embedded {
+
+/// A failure inside a function: Oracle's number and text, and the offset in the statement of what failed.
+struct EvaluationFailure {
+  int code = 0;
+  std::string message;
+  std::uint32_t offset = 0;
+};
+
+struct Evaluation {
+  values::Context context;
+  std::optional<EvaluationFailure> failure;
+  /// The rows that each counted ROWNUM has let pass so far.
+  std::vector<std::int64_t> rownums;
+};
+
+}  // namespace kestrelix::embedded

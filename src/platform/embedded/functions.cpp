@@ -1,0 +1,90 @@
+#include "platform/embedded/functions.h"
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include "oracle_sql/functions.h"
+#include "platform/database.h"
+#include "platform/embedded/function_frame.h"
+#include "platform/embedded/storage.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+/// A function of the language with the types that it is called with.
+struct TypedFunction {
+  const values::Function* function;
+  std::string signature;
+  Evaluation* evaluation;
+};
+
+constexpr int kMostOnStack = 8;
+
+void callTyped(sqlite3_context* context, int count, Values arguments) {
+  auto& typed = *static_cast<TypedFunction*>(sqlite3_user_data(context));
+  const int given = count - 1;
+  try {
+    std::array<values::Value, kMostOnStack> few;
+    std::vector<values::Value> many;
+    values::Value* list = few.data();
+    if (given > kMostOnStack) {
+      many.resize(static_cast<std::size_t>(given));
+      list = many.data();
+    }
+    for (int i = 0; i < given; ++i)
+      if (!isNull(arguments[i]))
+        list[i] =
+            valueOf(arguments[i], static_cast<StoredKind>(typed.signature[static_cast<std::size_t>(i)]));
+    giveValue(context,
+              typed.function->call({list, static_cast<std::size_t>(given)}, typed.evaluation->context));
+  } catch (...) {
+    giveFailure(context, *typed.evaluation, offsetOf(arguments[given]));
+  }
+}
+
+void forgetTyped(void* data) { delete static_cast<TypedFunction*>(data); }
+
+void rownumToTry(sqlite3_context* context, int, Values arguments) {
+  const auto slot = static_cast<std::size_t>(sqlite3_value_int(arguments[0]));
+  sqlite3_result_int64(context, evaluationOf(context).rownums[slot] + 1);
+}
+
+void rownumPasses(sqlite3_context* context, int, Values arguments) {
+  const bool passes = sqlite3_value_int(arguments[1]) != 0;
+  if (passes) ++evaluationOf(context).rownums[static_cast<std::size_t>(sqlite3_value_int(arguments[0]))];
+  sqlite3_result_int(context, passes);
+}
+
+}  // namespace
+
+void checkRegistration(int result, const char* name) {
+  if (result != SQLITE_OK)
+    throw DatabaseError("HY000", 0, std::string("the function ") + name + " cannot be registered");
+}
+
+void registerFunctions(sqlite3* connection, Evaluation& evaluation) {
+  registerNumberFunctions(connection, evaluation);
+  registerTextFunctions(connection, evaluation);
+  registerAggregates(connection, evaluation);
+  checkRegistration(sqlite3_create_function_v2(connection, "rownum_to_try", 1, kStateful, &evaluation,
+                                               rownumToTry, nullptr, nullptr, nullptr),
+                    "rownum_to_try");
+  checkRegistration(sqlite3_create_function_v2(connection, "rownum_passes", 2, kStateful, &evaluation,
+                                               rownumPasses, nullptr, nullptr, nullptr),
+                    "rownum_passes");
+}
+
+void registerFunction(sqlite3* connection, const FunctionUse& use, Evaluation& evaluation) {
+  const values::Function* function = values::findFunction(use.function);
+  if (!function || !function->call)
+    throw DatabaseError("HY000", 0, "the function " + use.function + " is not there");
+  auto typed = std::make_unique<TypedFunction>(TypedFunction{function, use.signature, &evaluation});
+  // SYSDATE and its like stay the same through one statement, as SQLite takes a deterministic function to do.
+  checkRegistration(
+      sqlite3_create_function_v2(connection, use.name.c_str(), static_cast<int>(use.signature.size()) + 1,
+                                 kPure, typed.release(), callTyped, nullptr, nullptr, forgetTyped),
+      use.name.c_str());
+}
+
+}  // namespace kestrelix::embedded

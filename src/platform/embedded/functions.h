@@ -1,0 +1,18 @@
+// The functions that lowered statements call, made known to SQLite.
+#pragma once
+
+#include <sqlite3.h>
+
+#include "platform/embedded/evaluation.h"
+#include "platform/embedded/lowering/lowering.h"
+
+namespace kestrelix::embedded {
+
+/// Registers the functions of NUMBER, of dates, of comparison and of ROWNUM, and the aggregates. `evaluation`
+/// must live as long as the connection.
+void registerFunctions(sqlite3* connection, Evaluation& evaluation);
+
+/// Registers one function of the language for arguments of given types, under `use.name`.
+void registerFunction(sqlite3* connection, const FunctionUse& use, Evaluation& evaluation);
+
+}  // namespace kestrelix::embedded

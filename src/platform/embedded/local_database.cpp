@@ -1,0 +1,162 @@
+#include "platform/embedded/local_database.h"
+
+#include <ctime>
+
+#include "oracle_sql/date.h"
+#include "oracle_sql/error.h"
+#include "platform/embedded/account.h"
+#include "platform/embedded/repository_file.h"
+#include "platform/embedded/result_rows.h"
+#include "platform/embedded/statement_cache.h"
+#include "platform/embedded/storage.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+/// The place of a byte offset: lines from 1, columns in characters from 1.
+sql::Place placeOf(std::string_view statement, std::uint32_t offset) {
+  sql::Place place;
+  place.offset = offset;
+  for (std::size_t i = 0; i < offset && i < statement.size(); ++i) {
+    if (statement[i] == '\n') {
+      ++place.line;
+      place.column = 1;
+    } else if ((static_cast<unsigned char>(statement[i]) & 0xC0) != 0x80) {
+      ++place.column;
+    }
+  }
+  return place;
+}
+
+[[noreturn]] void fail(const sql::SqlError& error, const std::string& statement) {
+  const char* state = error.kind() == sql::ErrorKind::Wrong         ? "42000"
+                      : error.kind() == sql::ErrorKind::Unsupported ? "0A000"
+                                                                    : "HY000";
+  throw DatabaseError(state, error.oraCode(), error.render(statement), statement);
+}
+
+values::Date wallClock() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  values::DateFields fields;
+  fields.year = local.tm_year + 1900;
+  fields.month = local.tm_mon + 1;
+  fields.day = local.tm_mday;
+  fields.hour = local.tm_hour;
+  fields.minute = local.tm_min;
+  fields.second = local.tm_sec < 60 ? local.tm_sec : 59;
+  return values::Date::fromFields(fields);
+}
+
+std::optional<std::string> cellText(sqlite3_stmt* row, int column, sql::TypeKind type) {
+  const int stored = sqlite3_column_type(row, column);
+  if (stored == SQLITE_NULL) return std::nullopt;
+  switch (type) {
+    case sql::TypeKind::Number:
+      if (stored == SQLITE_INTEGER) return std::to_string(sqlite3_column_int64(row, column));
+      return numberOf(row, column).toPlainText();
+    case sql::TypeKind::Date:
+      return values::toText(values::Value(values::Date{sqlite3_column_int64(row, column)}));
+    case sql::TypeKind::Raw: {
+      const auto* bytes = static_cast<const char*>(sqlite3_column_blob(row, column));
+      return values::toText(values::Value::rawView(
+          {bytes ? bytes : "", static_cast<std::size_t>(sqlite3_column_bytes(row, column))}));
+    }
+    default: {
+      std::string text = columnText(row, column);
+      if (text.empty()) return std::nullopt;
+      return text;
+    }
+  }
+}
+
+}  // namespace
+
+class LocalDatabase::Engine {
+ public:
+  explicit Engine(const std::filesystem::path& path)
+      : connection_(openRepositoryFile(path)),
+        catalogue_(connection_.get()),
+        cache_(connection_.get(), catalogue_, evaluation_) {}
+
+  sqlite3* connection() { return connection_.get(); }
+
+  PreparedStatement& prepared(const std::string& text, const Parameters& binds) {
+    try {
+      return cache_.get(text, binds);
+    } catch (const sql::SqlError& error) {
+      fail(error, text);
+    }
+  }
+
+  std::unique_ptr<ResultRows> run(const std::string& text, const Parameters& binds) {
+    PreparedStatement& statement = prepared(text, binds);
+    sqlite3_stmt* handle = statement.handle.get();
+    evaluation_.failure.reset();
+    evaluation_.rownums.assign(static_cast<std::size_t>(statement.lowered.rownumCounters), 0);
+    evaluation_.context.now = wallClock();
+    bind(statement, binds);
+
+    const auto& columns = statement.lowered.columns;
+    std::vector<std::optional<std::string>> cells;
+    std::size_t rows = 0;
+    try {
+      while (step(handle)) {
+        ++rows;
+        for (std::size_t i = 0; i < columns.size(); ++i)
+          cells.push_back(cellText(handle, static_cast<int>(i), columns[i].type));
+      }
+    } catch (const DatabaseError& error) {
+      sqlite3_reset(handle);
+      if (!evaluation_.failure) throw DatabaseError("HY000", 0, error.what(), text);
+      const auto& failure = *evaluation_.failure;
+      fail(sql::SqlError::wrong(failure.code, failure.message, placeOf(text, failure.offset)), text);
+    }
+    sqlite3_reset(handle);
+
+    std::vector<std::string> names;
+    for (const auto& column : columns) names.push_back(column.name);
+    return std::make_unique<ResultRows>(std::move(names), std::move(cells), rows);
+  }
+
+ private:
+  void bind(PreparedStatement& statement, const Parameters& binds) {
+    for (const auto& parameter : statement.parameters) {
+      const Parameter& bind = *binds.find(parameter.bind);
+      if (bind.value().empty())
+        sqlite3_bind_null(statement.handle.get(), parameter.position);
+      else if (bind.serverType() == ServerType::String)
+        sqlite3_bind_text(statement.handle.get(), parameter.position, bind.value().data(),
+                          static_cast<int>(bind.value().size()), SQLITE_TRANSIENT);
+      else
+        bindNumber(statement.handle.get(), parameter.position, *values::Number::parse(bind.value()));
+    }
+  }
+
+  Evaluation evaluation_;
+  ConnectionHandle connection_;
+  FileCatalogue catalogue_;
+  StatementCache cache_;
+};
+
+LocalDatabase::LocalDatabase(const std::filesystem::path& path) : engine_(std::make_unique<Engine>(path)) {}
+LocalDatabase::~LocalDatabase() = default;
+
+std::unique_ptr<Dynaset> LocalDatabase::DbCreateDynaset(const std::string& sql, long /*options*/) {
+  return run(sql);
+}
+
+std::unique_ptr<ResultRows> LocalDatabase::run(const std::string& sql) {
+  return engine_->run(sql, parameters());
+}
+
+void LocalDatabase::logOn(const Credentials& credentials) {
+  checkAccount(engine_->connection(), credentials);
+}
+
+std::string LocalDatabase::loweredText(const std::string& sql) {
+  return engine_->prepared(sql, parameters()).lowered.text;
+}
+
+}  // namespace kestrelix::embedded

@@ -1,0 +1,92 @@
+// NUMBER is decimal and has no bounds that matter. Where both sides are whole and so small that the result
+// fits 64 bits for sure, SQLite's own operator gives it; else a function does.
+#include "platform/embedded/lowering/rules.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+using sql::ArithmeticOp;
+using sql::TypeKind;
+
+/// Below 2^63 by more than a double can be wrong.
+constexpr double kFits = 9.2e18;
+
+Piece exactOr(const char* function, char op, const Piece& left, const Piece& right, double largest,
+              sql::Place place) {
+  Piece piece;
+  piece.kind = TypeKind::Number;
+  if (left.number.integral && right.number.integral && largest <= kFits) {
+    piece.text = bracketed(left) + " " + op + " " + bracketed(right);
+    piece.number = {true, largest};
+  } else {
+    piece.text = std::string(function) + "(" + left.text + ", " + right.text + ", " +
+                 std::to_string(place.offset) + ")";
+    piece.atom = true;
+  }
+  piece.present = left.present && right.present;
+  return piece;
+}
+
+Piece dateCall(const char* function, const Piece& left, const Piece& right, TypeKind kind, sql::Place place) {
+  Piece piece;
+  piece.kind = kind;
+  piece.text =
+      std::string(function) + "(" + left.text + ", " + right.text + ", " + std::to_string(place.offset) + ")";
+  piece.atom = true;
+  return piece;
+}
+
+}  // namespace
+
+Piece divided(Emitter&, const Piece& left, const Piece& right, sql::Place place) {
+  Piece piece;
+  piece.kind = TypeKind::Number;
+  piece.text = "num_div(" + left.text + ", " + right.text + ", " + std::to_string(place.offset) + ")";
+  piece.atom = true;
+  return piece;
+}
+
+Piece lowerArithmetic(Emitter& emitter, const sql::Arithmetic& arithmetic) {
+  Piece left = emitter.expression(*arithmetic.left);
+  Piece right = emitter.expression(*arithmetic.right);
+  const sql::Place place = arithmetic.place;
+  const bool subtract = arithmetic.op == ArithmeticOp::Subtract;
+  if (left.kind == TypeKind::Date || right.kind == TypeKind::Date) {
+    if (subtract && left.kind == TypeKind::Date && right.kind == TypeKind::Date)
+      return dateCall("date_days", left, right, TypeKind::Number, place);
+    if (left.kind != TypeKind::Date) std::swap(left, right);
+    right = emitter.converted(std::move(right), TypeKind::Number, place);
+    return dateCall(subtract ? "date_minus" : "date_plus", left, right, TypeKind::Date, place);
+  }
+  left = emitter.converted(std::move(left), TypeKind::Number, arithmetic.left->place);
+  right = emitter.converted(std::move(right), TypeKind::Number, arithmetic.right->place);
+  switch (arithmetic.op) {
+    case ArithmeticOp::Add:
+      return exactOr("num_add", '+', left, right, left.number.largest + right.number.largest, place);
+    case ArithmeticOp::Subtract:
+      return exactOr("num_sub", '-', left, right, left.number.largest + right.number.largest, place);
+    case ArithmeticOp::Multiply:
+      return exactOr("num_mul", '*', left, right, left.number.largest * right.number.largest, place);
+    case ArithmeticOp::Divide:
+      break;
+  }
+  return divided(emitter, left, right, place);
+}
+
+Piece lowerNegate(Emitter& emitter, const sql::Negate& negate) {
+  Piece piece =
+      emitter.converted(emitter.expression(*negate.operand), TypeKind::Number, negate.operand->place);
+  if (negate.plus) return piece;
+  piece.kind = TypeKind::Number;
+  if (piece.number.integral && piece.number.largest <= kFits) {
+    piece.text = "-" + bracketed(piece);
+    piece.atom = false;
+  } else {
+    piece.text = "num_neg(" + piece.text + ", " + std::to_string(negate.place.offset) + ")";
+    piece.atom = true;
+    piece.number = {};
+  }
+  return piece;
+}
+
+}  // namespace kestrelix::embedded

@@ -1,0 +1,78 @@
+#include <unordered_set>
+
+#include "platform/ascii.h"
+#include "platform/embedded/lowering/rules.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+/// The terms of a condition that are joined by AND.
+void splitAnd(const sql::Expr* expr, std::vector<const sql::Expr*>& terms) {
+  if (const auto* conjunction = sql::as<sql::AndExpr>(expr)) {
+    for (const sql::Expr* term : conjunction->terms) splitAnd(term, terms);
+  } else if (expr) {
+    terms.push_back(expr);
+  }
+}
+
+bool isConstant(const sql::Expr& expr) {
+  return expr.kind == sql::ExprKind::Null || expr.kind == sql::ExprKind::Number ||
+         expr.kind == sql::ExprKind::String || expr.kind == sql::ExprKind::DateLiteral;
+}
+
+}  // namespace
+
+QueryText lowerBlock(Emitter& emitter, const sql::SelectBlock& block,
+                     const sql::List<sql::OrderItem>* order) {
+  const std::string rownumAround = std::exchange(emitter.rownum(), {});
+  BlockParts parts = lowerFrom(emitter, block);
+  QueryText text;
+  if (block.usesRownum) {
+    text = lowerRownumBlock(emitter, block, parts, order);
+  } else if (hasNestedAggregates(block)) {
+    text = lowerNestedAggregates(emitter, block, parts, order);
+  } else {
+    std::string where;
+    for (const sql::Expr* term : parts.conjuncts)
+      where += (where.empty() ? " WHERE " : " AND ") + emitter.condition(*term);
+    text = assembleBlock(emitter, block, parts.from, where, order);
+  }
+  emitter.rownum() = rownumAround;
+  return text;
+}
+
+BlockParts lowerFrom(Emitter& emitter, const sql::SelectBlock& block) {
+  BlockParts parts;
+  splitAnd(block.where, parts.conjuncts);
+  parts.from = emitter.from(block, parts.conjuncts);
+  return parts;
+}
+
+QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
+                        const std::string& where, const sql::List<sql::OrderItem>* order) {
+  QueryText result;
+  std::string list;
+  std::vector<Piece> outputs;
+  std::unordered_set<std::string> names;
+  for (const auto& column : block.columns) {
+    Piece piece = emitter.expression(*column.expr);
+    std::string name(column.name);
+    for (int i = 2; !names.insert(asciiUpper(name)).second; ++i)
+      name = std::string(column.name) + "_" + std::to_string(i);
+    list += (list.empty() ? "" : ", ") + piece.text + " AS " + quoted(name);
+    result.columns.push_back({name, column.type.kind, piece.number});
+    outputs.push_back(std::move(piece));
+  }
+  result.text = std::string("SELECT ") + (block.distinct ? "DISTINCT " : "") + list + " FROM " + from + where;
+
+  std::string keys;
+  for (const sql::Expr* key : block.groupBy)
+    // A constant groups nothing in Oracle; SQLite would take a whole number for the place of a column.
+    if (!isConstant(*key)) keys += (keys.empty() ? "" : ", ") + emitter.expression(*key).text;
+  if (!block.groupBy.empty()) result.text += " GROUP BY " + (keys.empty() ? "''||''" : keys);
+  if (block.having) result.text += " HAVING " + emitter.condition(*block.having);
+  if (order && !order->empty()) result.text += lowerOrder(emitter, *order, &outputs);
+  return result;
+}
+
+}  // namespace kestrelix::embedded

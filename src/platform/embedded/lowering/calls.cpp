@@ -1,0 +1,49 @@
+#include "oracle_sql/functions.h"
+#include "platform/embedded/lowering/rules.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+/// The functions whose results are whole numbers, with the largest of them.
+struct WholeFunction {
+  std::string_view name;
+  double largest;
+};
+constexpr WholeFunction kWholeFunctions[] = {
+    {"LENGTH", 1e10}, {"LENGTHB", 1e10}, {"INSTR", 1e10}, {"INSTRB", 1e10}, {"SIGN", 1}, {"ASCII", 1e10},
+};
+
+bool isConversionToItself(const sql::Call& call, const Piece& argument) {
+  return call.args.size() == 1 && ((call.name == "TO_NUMBER" && argument.kind == sql::TypeKind::Number) ||
+                                   (call.name == "TO_CHAR" && sql::Type{argument.kind}.isText()) ||
+                                   (call.name == "TO_DATE" && argument.kind == sql::TypeKind::Date));
+}
+
+}  // namespace
+
+Piece lowerCall(Emitter& emitter, const sql::Call& call) {
+  const std::string name = call.package.empty() ? std::string(call.name)
+                                                : std::string(call.package) + "." + std::string(call.name);
+  std::string function = name;
+  std::vector<Piece> arguments;
+  for (const sql::Expr* argument : call.args) arguments.push_back(emitter.expression(*argument));
+  if (!call.option.empty()) {
+    // TRIM(LEADING x FROM y) and EXTRACT(YEAR FROM d): the word goes in front as a text.
+    Piece option;
+    option.text = textLiteral(call.option);
+    option.kind = sql::TypeKind::Char;
+    arguments.insert(arguments.begin(), option);
+  }
+  const values::Function* known = values::findFunction(function);
+  if (!known || !known->call) throw sql::SqlError::unsupported("the function " + name, call.place);
+  if (arguments.size() == 1 && isConversionToItself(call, arguments.front())) {
+    arguments.front().kind = call.type.kind;
+    return arguments.front();
+  }
+  Piece piece = emitter.call(function, arguments, call.type, call.place);
+  for (const auto& whole : kWholeFunctions)
+    if (whole.name == name) piece.number = {true, whole.largest};
+  return piece;
+}
+
+}  // namespace kestrelix::embedded

@@ -1,0 +1,36 @@
+#include "platform/embedded/lowering/rules.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+void collect(Emitter& emitter, const sql::Expr& expr, std::vector<Piece>& parts) {
+  if (const auto* concat = sql::as<sql::Concat>(&expr)) {
+    collect(emitter, *concat->left, parts);
+    collect(emitter, *concat->right, parts);
+    return;
+  }
+  parts.push_back(emitter.converted(emitter.expression(expr), sql::TypeKind::Varchar2, expr.place));
+}
+
+}  // namespace
+
+Piece lowerConcat(Emitter& emitter, const sql::Concat& concat) {
+  std::vector<Piece> parts;
+  collect(emitter, concat, parts);
+  Piece piece;
+  piece.kind = sql::TypeKind::Varchar2;
+  for (const Piece& part : parts) {
+    if (part.kind == sql::TypeKind::Null) continue;
+    piece.text += (piece.text.empty() ? "" : " || ") +
+                  (part.present ? bracketed(part) : "coalesce(" + part.text + ", '')");
+    piece.present = piece.present || part.present;
+  }
+  if (piece.text.empty()) piece.text = "NULL";
+  if (!piece.present) {
+    piece.text = "nullif(" + piece.text + ", '')";
+    piece.atom = true;
+  }
+  return piece;
+}
+
+}  // namespace kestrelix::embedded

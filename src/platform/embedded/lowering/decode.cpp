@@ -1,0 +1,72 @@
+// DECODE(value, search, result, ..., default) compares in the type of its first search, takes null as equal
+// to null, never pads with blanks, and evaluates no result but the one that it gives.
+#include "platform/embedded/lowering/rules.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+using sql::TypeKind;
+
+struct Arm {
+  Piece search;
+  std::string result;
+};
+
+/// The type that DECODE compares in. A null as first search leaves it to the others: text, unless all are
+/// numbers or all are dates, where the comparison as text gives nothing else.
+TypeKind comparisonKind(const Piece& value, const std::vector<Arm>& arms) {
+  const TypeKind first = arms.front().search.kind;
+  if (first == TypeKind::Char) return TypeKind::Varchar2;
+  if (first != TypeKind::Null) return first;
+  if (value.kind != TypeKind::Number && value.kind != TypeKind::Date && value.kind != TypeKind::Raw)
+    return TypeKind::Varchar2;
+  for (const Arm& arm : arms)
+    if (arm.search.kind != TypeKind::Null && arm.search.kind != value.kind) return TypeKind::Varchar2;
+  return value.kind;
+}
+
+std::string test(const Piece& value, const Piece& search) {
+  if (search.kind == TypeKind::Null) return bracketed(value) + " IS NULL";
+  return bracketed(value) + (search.present ? " = " : " IS ") + bracketed(search);
+}
+
+}  // namespace
+
+Piece lowerDecode(Emitter& emitter, const sql::Call& call) {
+  Piece result;
+  result.kind = call.type.kind;
+  result.atom = true;
+  CommonFacts facts;
+  const auto resultText = [&](const sql::Expr& expr) {
+    const Piece piece = emitter.converted(emitter.expression(expr), result.kind, expr.place);
+    facts.add(piece);
+    return piece.text;
+  };
+  std::vector<Arm> arms;
+  std::size_t next = 1;
+  for (; next + 1 < call.args.size(); next += 2)
+    arms.push_back({emitter.expression(*call.args[next]), resultText(*call.args[next + 1])});
+  const std::string otherwise = next < call.args.size() ? " ELSE " + resultText(*call.args[next]) : "";
+
+  Piece value = emitter.expression(*call.args.front());
+  const TypeKind kind = comparisonKind(value, arms);
+  value = emitter.converted(std::move(value), kind, call.args.front()->place);
+  bool simple = arms.size() > 1 && !value.cheap;
+  for (Arm& arm : arms) {
+    arm.search = emitter.converted(std::move(arm.search), kind, call.place);
+    simple = simple && arm.search.present;
+  }
+  if (simple) {
+    // The value is computed once only in this form, which takes no null as equal to null.
+    result.text = "CASE " + value.text;
+    for (const Arm& arm : arms) result.text += " WHEN " + arm.search.text + " THEN " + arm.result;
+  } else {
+    result.text = "CASE";
+    for (const Arm& arm : arms) result.text += " WHEN " + test(value, arm.search) + " THEN " + arm.result;
+  }
+  result.text += otherwise + " END";
+  result.number = facts.facts();
+  return result;
+}
+
+}  // namespace kestrelix::embedded

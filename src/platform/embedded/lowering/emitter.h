@@ -1,0 +1,124 @@
+// What the rules of the lowering share: the names given out, the facts found, the text made so far.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "oracle_sql/error.h"
+#include "oracle_sql/tree.h"
+#include "platform/embedded/lowering/lowering.h"
+#include "platform/embedded/storage.h"
+
+namespace kestrelix::embedded {
+
+/// An expression in SQLite's words, with what is known of its values.
+struct Piece {
+  std::string text;
+  sql::TypeKind kind = sql::TypeKind::Null;
+  NumberFacts number;
+  bool atom = false;     ///< in need of no brackets
+  bool cheap = false;    ///< a name or a literal: may stand more than once
+  bool present = false;  ///< never NULL
+};
+
+/// A column of a FROM item under the name that SQLite knows it by.
+struct SourceColumn {
+  std::string name;
+  sql::TypeKind kind = sql::TypeKind::Null;
+  NumberFacts number;
+};
+
+/// A FROM item under its alias, which is unique in the whole statement: so no inner name can hide an outer
+/// one.
+struct Source {
+  std::string alias;
+  std::vector<SourceColumn> columns;
+};
+
+/// A subquery that a block has been put into, so that ROWNUM is counted before the block groups or sorts. The
+/// block's own expressions then read these columns, which are found while they are lowered.
+struct Wrap {
+  std::string alias;
+  std::unordered_set<const sql::FromItem*> sources;
+  std::map<std::pair<const sql::FromItem*, int>, std::string> exports;
+};
+
+/// A lowered query with the facts of its columns.
+struct QueryText {
+  std::string text;
+  std::vector<SourceColumn> columns;
+};
+
+class Emitter {
+ public:
+  Emitter(const sql::Tree& tree, const LoweringFacts& facts) : tree_(tree), facts_(facts) {}
+
+  LoweredStatement statement();
+
+  // Queries and blocks.
+  QueryText query(const sql::Query& query);
+  std::string from(const sql::SelectBlock& block, std::vector<const sql::Expr*>& conjuncts);
+  /// The FROM item with its alias, made known to the expressions that follow.
+  std::string source(const sql::FromItem& item);
+  const Source& sourceOf(const sql::FromItem* item) const;
+  void define(const sql::FromItem* item, Source source) { sources_[item] = std::move(source); }
+  Piece column(const sql::FromItem* item, int index);
+
+  // Expressions and conditions.
+  Piece expression(const sql::Expr& expr);
+  std::string condition(const sql::Expr& expr);
+
+  /// A value of the function `name` of the language with these arguments, failing at `place`.
+  Piece call(std::string_view name, const std::vector<Piece>& arguments, sql::Type type, sql::Place place);
+  /// `piece` brought to the type, as Oracle converts it by itself.
+  Piece converted(Piece piece, sql::TypeKind target, sql::Place place);
+
+  std::string uniqueAlias(std::string_view wish);
+  int newRownumCounter() { return result_.rownumCounters++; }
+
+  /// The aggregate calls of a block whose results are taken from an inner block, by node.
+  std::unordered_map<const sql::Expr*, Piece>& replacements() { return replacements_; }
+  std::vector<Wrap*>& wraps() { return wraps_; }
+  /// ROWNUM's text in the block that is being lowered; empty where it cannot stand.
+  std::string& rownum() { return rownum_; }
+  const LoweringFacts& facts() const { return facts_; }
+  const std::string& withText() const { return with_; }
+
+ private:
+  const sql::Tree& tree_;
+  const LoweringFacts& facts_;
+  LoweredStatement result_;
+  std::unordered_map<const void*, Source> sources_;
+  std::unordered_set<std::string> aliases_;
+  std::unordered_map<const sql::Expr*, Piece> replacements_;
+  std::vector<Wrap*> wraps_;
+  std::string rownum_;
+  std::string with_;
+};
+
+/// The facts of a value that is one of several; NULL adds none.
+class CommonFacts {
+ public:
+  void add(const Piece& piece);
+  /// What all the pieces have in common.
+  NumberFacts facts() const { return any_ ? facts_ : NumberFacts{}; }
+
+ private:
+  NumberFacts facts_;
+  bool any_ = false;
+};
+
+/// The parameter of SQLite that stands for a bind variable, and the variable that a parameter stands for.
+std::string bindMarker(std::string_view bind);
+std::string bindOfMarker(std::string_view marker);
+/// A name as SQLite's quoted identifier.
+std::string quoted(std::string_view name);
+/// "(" text ")" unless it is an atom.
+std::string bracketed(const Piece& piece);
+StoredKind storedKind(sql::TypeKind kind);
+
+}  // namespace kestrelix::embedded

@@ -1,0 +1,74 @@
+// NVL and its like give the first value that is there, and evaluate none behind it.
+#include "platform/embedded/lowering/rules.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+Piece argument(Emitter& emitter, const sql::Expr& expr, sql::TypeKind kind) {
+  return emitter.converted(emitter.expression(expr), kind, expr.place);
+}
+
+}  // namespace
+
+Piece lowerCoalesce(Emitter& emitter, const sql::Call& call) {
+  Piece result;
+  result.kind = call.type.kind;
+  result.atom = true;
+  CommonFacts facts;
+  std::string list;
+  for (const sql::Expr* expr : call.args) {
+    const Piece piece = argument(emitter, *expr, result.kind);
+    facts.add(piece);
+    if (piece.kind == sql::TypeKind::Null && call.args.size() > 1) continue;
+    list += (list.empty() ? "" : ", ") + piece.text;
+    result.present = result.present || piece.present;
+  }
+  // SQLite's coalesce wants two arguments at least.
+  result.text = "coalesce(" + (list.empty() ? "NULL" : list) + ", NULL)";
+  if (list.find(", ") != std::string::npos) result.text = "coalesce(" + list + ")";
+  result.number = facts.facts();
+  return result;
+}
+
+Piece lowerNvl(Emitter& emitter, const sql::Call& call) {
+  Piece result;
+  result.kind = call.type.kind;
+  result.atom = true;
+  const Piece value = argument(emitter, *call.args[0], result.kind);
+  const Piece otherwise = argument(emitter, *call.args[1], result.kind);
+  CommonFacts facts;
+  facts.add(value);
+  facts.add(otherwise);
+  result.text = "coalesce(" + value.text + ", " + otherwise.text + ")";
+  result.number = facts.facts();
+  result.present = value.present || otherwise.present;
+  return result;
+}
+
+Piece lowerNvl2(Emitter& emitter, const sql::Call& call) {
+  Piece result;
+  result.kind = call.type.kind;
+  result.atom = true;
+  const Piece there = argument(emitter, *call.args[1], result.kind);
+  const Piece missing = argument(emitter, *call.args[2], result.kind);
+  CommonFacts facts;
+  facts.add(there);
+  facts.add(missing);
+  result.text = "CASE WHEN " + bracketed(emitter.expression(*call.args[0])) + " IS NOT NULL THEN " +
+                there.text + " ELSE " + missing.text + " END";
+  result.number = facts.facts();
+  return result;
+}
+
+Piece lowerNullif(Emitter& emitter, const sql::Call& call) {
+  Piece result = emitter.expression(*call.args[0]);
+  const std::string equal =
+      compared(emitter, sql::CompareOp::Equal, result, emitter.expression(*call.args[1]), call.place);
+  result.text = "CASE WHEN " + equal + " THEN NULL ELSE " + result.text + " END";
+  result.atom = true;
+  result.cheap = false;
+  result.present = false;
+  return result;
+}
+
+}  // namespace kestrelix::embedded

@@ -1,0 +1,26 @@
+#include "platform/embedded/lowering/rules.h"
+
+namespace kestrelix::embedded {
+
+std::string sortKey(const Piece& piece) {
+  if (piece.kind == sql::TypeKind::Number && !piece.number.integral) return "num_key(" + piece.text + ")";
+  return piece.text;
+}
+
+std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,
+                       const std::vector<Piece>* outputs) {
+  std::string text;
+  for (const auto& item : items) {
+    const bool isOutput = outputs && item.output >= 0;
+    const Piece piece =
+        isOutput ? outputs->at(static_cast<std::size_t>(item.output)) : emitter.expression(*item.expr);
+    std::string key = sortKey(piece);
+    // A bare whole number would be the place of a column.
+    if (piece.atom && key.find_first_not_of("0123456789") == std::string::npos) key = "(" + key + " + 0)";
+    text += (text.empty() ? " ORDER BY " : ", ") + key + (item.descending ? " DESC" : "") +
+            (item.nullsFirst() ? " NULLS FIRST" : " NULLS LAST");
+  }
+  return text;
+}
+
+}  // namespace kestrelix::embedded

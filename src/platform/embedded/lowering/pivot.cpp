@@ -1,0 +1,51 @@
+// PIVOT groups by every column of its source that it does not name; each value of its list is an aggregate
+// over the rows that bear it.
+#include "platform/embedded/lowering/rules.h"
+
+namespace kestrelix::embedded {
+
+std::string lowerPivot(Emitter& emitter, const sql::PivotItem& pivot) {
+  const std::string from = emitter.source(*pivot.source);
+  Source source;
+  source.alias = emitter.uniqueAlias(pivot.alias.empty() ? std::string_view("PIVOT") : pivot.alias);
+  std::string list;
+  std::string keys;
+  const auto add = [&](const Piece& piece) {
+    const std::string name = "p" + std::to_string(source.columns.size() + 1);
+    list += (list.empty() ? "" : ", ") + piece.text + " AS " + quoted(name);
+    source.columns.push_back({name, piece.kind, piece.number});
+  };
+  for (const int index : pivot.groupColumns) {
+    const Piece key = emitter.column(pivot.source, index);
+    keys += (keys.empty() ? "" : ", ") + key.text;
+    add(key);
+  }
+  for (const auto& value : pivot.values) {
+    std::string bears;
+    for (std::size_t i = 0; i < value.values.size(); ++i)
+      bears += (bears.empty() ? "" : " AND ") + compared(emitter, sql::CompareOp::Equal,
+                                                         emitter.expression(*pivot.forColumns[i]),
+                                                         emitter.expression(*value.values[i]), pivot.place);
+    for (const auto& aggregate : pivot.aggregates) {
+      std::vector<Piece> arguments;
+      if (aggregate.call->star) {
+        Piece one;
+        one.text = "1";
+        one.kind = sql::TypeKind::Number;
+        one.number = {true, 1};
+        arguments.push_back(one);
+      }
+      for (const sql::Expr* argument : aggregate.call->args)
+        arguments.push_back(emitter.expression(*argument));
+      arguments.front().text = "CASE WHEN " + bears + " THEN " + arguments.front().text + " END";
+      arguments.front().atom = false;
+      add(aggregateOver(emitter, *aggregate.call, arguments));
+    }
+  }
+  const std::string text = "(SELECT " + list + " FROM " + from + (keys.empty() ? "" : " GROUP BY " + keys) +
+                           ") AS " + quoted(source.alias);
+  emitter.define(&pivot, std::move(source));
+  return text;
+}
+
+}  // namespace kestrelix::embedded

@@ -1,0 +1,101 @@
+// Every rule of the lowering, in the order in which a query meets them. Each stands in the file of its name.
+#pragma once
+
+#include <vector>
+
+#include "platform/embedded/lowering/emitter.h"
+
+namespace kestrelix::embedded {
+
+// ---- queries ----
+
+/// set_operators: UNION, MINUS and INTERSECT, one precedence, left to right.
+QueryText lowerSetOperators(Emitter& emitter, const sql::Query& query);
+
+/// block: one SELECT with the order of the query that it alone makes up (`order` may be null).
+QueryText lowerBlock(Emitter& emitter, const sql::SelectBlock& block, const sql::List<sql::OrderItem>* order);
+
+/// The parts of a block that the rules below put together.
+struct BlockParts {
+  std::string from;
+  std::vector<const sql::Expr*> conjuncts;  ///< of WHERE, without those that went to a join
+};
+
+/// outer_marks: "(+)" to LEFT JOIN.
+BlockParts lowerFrom(Emitter& emitter, const sql::SelectBlock& block);
+
+/// joins: ANSI joins, with USING and NATURAL.
+std::string lowerJoin(Emitter& emitter, const sql::JoinItem& join);
+
+/// pivot: PIVOT to grouped CASE aggregates.
+std::string lowerPivot(Emitter& emitter, const sql::PivotItem& pivot);
+
+/// rownum: counted before the block groups, sorts or drops doubles.
+QueryText lowerRownumBlock(Emitter& emitter, const sql::SelectBlock& block, const BlockParts& parts,
+                           const sql::List<sql::OrderItem>* order);
+
+/// nested_aggregates: SUM(AVG(x)) to a group over the groups. Tells whether the block has one.
+bool hasNestedAggregates(const sql::SelectBlock& block);
+QueryText lowerNestedAggregates(Emitter& emitter, const sql::SelectBlock& block, const BlockParts& parts,
+                                const sql::List<sql::OrderItem>* order);
+
+/// The select list, GROUP BY, HAVING and ORDER BY around a FROM and WHERE that stand as text.
+QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
+                        const std::string& where, const sql::List<sql::OrderItem>* order);
+
+/// ordering: NULL sorts as the greatest value; a NUMBER that may be broken sorts by its key.
+std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,
+                       const std::vector<Piece>* outputs);
+/// What SQLite sorts, groups extremes and compares `piece` by.
+std::string sortKey(const Piece& piece);
+
+// ---- conditions ----
+
+/// comparison: by the type that Oracle compares in.
+std::string lowerCompare(Emitter& emitter, const sql::Compare& compare);
+std::string lowerBetween(Emitter& emitter, const sql::Between& between);
+std::string lowerIn(Emitter& emitter, const sql::InExpr& in);
+/// `left op right` for two values.
+std::string compared(Emitter& emitter, sql::CompareOp op, const Piece& left, const Piece& right,
+                     sql::Place place);
+/// like: case counts, and no character escapes without ESCAPE.
+std::string lowerLike(Emitter& emitter, const sql::LikeExpr& like);
+
+// ---- expressions ----
+
+/// literals: literals and binds; '' is NULL.
+Piece lowerLiteral(Emitter& emitter, const sql::Expr& expr);
+/// arithmetic: decimal, exact where SQLite's integers are.
+Piece lowerArithmetic(Emitter& emitter, const sql::Arithmetic& arithmetic);
+Piece lowerNegate(Emitter& emitter, const sql::Negate& negate);
+Piece divided(Emitter& emitter, const Piece& left, const Piece& right, sql::Place place);
+/// concatenation: NULL counts as the empty text.
+Piece lowerConcat(Emitter& emitter, const sql::Concat& concat);
+/// case: both forms of CASE.
+Piece lowerCase(Emitter& emitter, const sql::CaseExpr& expr);
+/// decode: null equals null, and what is not chosen is not evaluated.
+Piece lowerDecode(Emitter& emitter, const sql::Call& call);
+/// nvl: NVL, NVL2, COALESCE, NULLIF, LNNVL.
+Piece lowerNvl(Emitter& emitter, const sql::Call& call);
+Piece lowerNvl2(Emitter& emitter, const sql::Call& call);
+Piece lowerCoalesce(Emitter& emitter, const sql::Call& call);
+Piece lowerNullif(Emitter& emitter, const sql::Call& call);
+/// rounding: ROUND and TRUNC of numbers, which every report does thousands of times.
+Piece lowerRound(Emitter& emitter, const sql::Call& call);
+/// calls: every other function that takes and gives single values.
+Piece lowerCall(Emitter& emitter, const sql::Call& call);
+/// aggregates: sums and averages in NUMBER.
+Piece lowerAggregate(Emitter& emitter, const sql::Call& call);
+/// The aggregate `call` over `argument` text in place of its own argument.
+Piece aggregateOver(Emitter& emitter, const sql::Call& call, const std::vector<Piece>& arguments);
+/// windows: OVER with Oracle's default frame and NULL order.
+Piece lowerWindow(Emitter& emitter, const sql::Call& call);
+/// cast: CAST(x AS type).
+Piece lowerCast(Emitter& emitter, const sql::CastExpr& cast);
+/// subqueries: a scalar subquery of two rows is an error.
+Piece lowerScalarSubquery(Emitter& emitter, const sql::SubqueryExpr& subquery);
+std::string lowerExists(Emitter& emitter, const sql::Exists& exists);
+std::string lowerInQuery(Emitter& emitter, const Piece& operand, bool negated, const sql::Query& query,
+                         sql::Place place);
+
+}  // namespace kestrelix::embedded

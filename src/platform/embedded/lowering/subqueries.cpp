@@ -1,0 +1,59 @@
+#include "platform/embedded/lowering/rules.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+/// Whether the query has one row by its form: an aggregate without GROUP BY.
+bool givesOneRow(const sql::Query& query) {
+  const sql::SelectBlock* block = query.single();
+  return block && block->grouped && block->groupBy.empty() && !block->having;
+}
+
+}  // namespace
+
+Piece lowerScalarSubquery(Emitter& emitter, const sql::SubqueryExpr& subquery) {
+  const bool oneRow = givesOneRow(*subquery.query);
+  const QueryText text = emitter.query(*subquery.query);
+  const SourceColumn& column = text.columns.front();
+  Piece piece;
+  piece.kind = subquery.type.kind;
+  piece.number = column.number;
+  piece.atom = true;
+  // SQLite takes the first of several rows; in Oracle the second one is an error.
+  piece.text = oneRow ? "(" + text.text + ")"
+                      : "(SELECT only_row(" + quoted(column.name) + ", " +
+                            std::to_string(subquery.place.offset) + ") FROM (" + text.text + "))";
+  return piece;
+}
+
+std::string lowerExists(Emitter& emitter, const sql::Exists& exists) {
+  return "EXISTS (" + emitter.query(*exists.query).text + ")";
+}
+
+std::string lowerInQuery(Emitter& emitter, const Piece& operand, bool negated, const sql::Query& query,
+                         sql::Place place) {
+  const QueryText text = emitter.query(query);
+  const SourceColumn& column = text.columns.front();
+  Piece item;
+  item.kind = column.kind;
+  item.text = quoted(column.name);
+  item.atom = true;
+  const auto comparison = sql::comparisonOf(sql::Type{operand.kind}, sql::Type{item.kind});
+  Piece left = operand;
+  std::string list = text.text;
+  sql::TypeKind target = sql::TypeKind::Varchar2;
+  if (comparison == sql::Comparison::Number) target = sql::TypeKind::Number;
+  if (comparison == sql::Comparison::Date) target = sql::TypeKind::Date;
+  if (comparison == sql::Comparison::Raw) target = sql::TypeKind::Raw;
+  left = emitter.converted(std::move(left), target, place);
+  const Piece converted = emitter.converted(item, target, place);
+  if (comparison == sql::Comparison::PaddedText) {
+    left.text = "rtrim(" + left.text + ", ' ')";
+    list = "SELECT rtrim(" + item.text + ", ' ') FROM (" + list + ")";
+  } else if (converted.text != item.text) {
+    list = "SELECT " + converted.text + " FROM (" + list + ")";
+  }
+  return "(" + bracketed(left) + (negated ? " NOT IN (" : " IN (") + list + "))";
+}
+
+}  // namespace kestrelix::embedded

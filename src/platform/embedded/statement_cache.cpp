@@ -1,0 +1,135 @@
+#include "platform/embedded/statement_cache.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "oracle_sql/number.h"
+#include "oracle_sql/parser.h"
+#include "oracle_sql/resolver.h"
+#include "oracle_sql/token.h"
+#include "platform/embedded/functions.h"
+#include "platform/embedded/lowering/emitter.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+constexpr std::size_t kMostTexts = 256;
+
+/// The classes of bind values that are translated apart.
+enum BindClass : char { kText = 't', kSmall = 's', kMedium = 'm', kWhole = 'w', kNumber = 'n' };
+
+constexpr double kLargestSmall = 2147483648.0;
+constexpr double kLargestMedium = 9007199254740992.0;
+
+char classOf(const Parameter& bind) {
+  if (bind.serverType() == ServerType::String) return kText;
+  if (bind.value().empty()) return kSmall;
+  const auto number = values::Number::parse(bind.value());
+  if (!number)
+    throw DatabaseError("22018", 1722, "ORA-01722: invalid number: the bind '" + bind.value() + "'");
+  const auto whole = number->toInt64();
+  if (!whole) return kNumber;
+  const double size = std::abs(static_cast<double>(*whole));
+  return size <= kLargestSmall ? kSmall : size <= kLargestMedium ? kMedium : kWhole;
+}
+
+NumberFacts factsOf(char bindClass) {
+  switch (bindClass) {
+    case kSmall:
+      return {true, kLargestSmall};
+    case kMedium:
+      return {true, kLargestMedium};
+    case kWhole:
+      return {true, 9.3e18};
+    default:
+      return {};
+  }
+}
+
+/// SQLite's own bounds on a statement.
+bool isSizeLimit(const std::string& text) {
+  for (const char* words :
+       {"too many", "too large", "at most", "too complex", "stack overflow", "out of memory"})
+    if (text.find(words) != std::string::npos) return true;
+  return false;
+}
+
+}  // namespace
+
+StatementCache::StatementCache(sqlite3* connection, const FileCatalogue& catalogue, Evaluation& evaluation)
+    : connection_(connection), catalogue_(catalogue), evaluation_(evaluation) {
+  registerFunctions(connection, evaluation);
+}
+
+StatementCache::PerText& StatementCache::perText(const std::string& text) {
+  if (const auto found = texts_.find(text); found != texts_.end()) {
+    ages_.splice(ages_.begin(), ages_, found->second.age);
+    return found->second;
+  }
+  PerText known;
+  for (const auto& use : sql::bindUses(text))
+    if (std::find(known.binds.begin(), known.binds.end(), use.name) == known.binds.end())
+      known.binds.push_back(use.name);
+  if (texts_.size() >= kMostTexts) {
+    texts_.erase(ages_.back());
+    ages_.pop_back();
+  }
+  ages_.push_front(text);
+  known.age = ages_.begin();
+  return texts_.emplace(text, std::move(known)).first->second;
+}
+
+PreparedStatement& StatementCache::get(const std::string& text, const Parameters& binds) {
+  PerText& known = perText(text);
+  std::string classes;
+  for (const auto& name : known.binds) {
+    const Parameter* bind = binds.find(name);
+    if (!bind) throw DatabaseError("07002", 1008, "ORA-01008: not all variables bound: " + name, text);
+    classes += classOf(*bind);
+  }
+  auto& prepared = known.byBindClasses[classes];
+  if (!prepared) {
+    try {
+      prepared = translate(text, known, classes);
+    } catch (...) {
+      known.byBindClasses.erase(classes);
+      throw;
+    }
+  }
+  return *prepared;
+}
+
+std::unique_ptr<PreparedStatement> StatementCache::translate(const std::string& text, const PerText& known,
+                                                             const std::string& classes) {
+  const auto classOfName = [&](std::string_view name) {
+    const auto found = std::find(known.binds.begin(), known.binds.end(), name);
+    return found == known.binds.end() ? '\0' : classes[static_cast<std::size_t>(found - known.binds.begin())];
+  };
+  sql::Tree tree = sql::parse(text);
+  sql::resolve(tree, catalogue_, [&](std::string_view name) -> std::optional<sql::TypeKind> {
+    const char found = classOfName(name);
+    if (!found) return std::nullopt;
+    return found == kText ? sql::TypeKind::Varchar2 : sql::TypeKind::Number;
+  });
+  const LoweringFacts facts{
+      [&](const sql::CatalogueTable& table, int index) { return catalogue_.facts(table, index); },
+      [&](std::string_view bind) { return factsOf(classOfName(bind)); }};
+
+  auto prepared = std::make_unique<PreparedStatement>();
+  prepared->lowered = lower(tree, facts);
+  for (const auto& use : prepared->lowered.functions)
+    if (registered_.insert(use.name).second) registerFunction(connection_, use, evaluation_);
+  try {
+    prepared->handle = prepare(connection_, prepared->lowered.text);
+  } catch (const DatabaseError& error) {
+    if (isSizeLimit(error.what()))
+      throw sql::SqlError::unsupported(std::string("a statement of this size (") + error.what() + ")", {});
+    throw sql::SqlError::internal(error.what());
+  }
+  const int count = sqlite3_bind_parameter_count(prepared->handle.get());
+  for (int i = 1; i <= count; ++i)
+    prepared->parameters.push_back({i, bindOfMarker(sqlite3_bind_parameter_name(prepared->handle.get(), i))});
+  return prepared;
+}
+
+}  // namespace kestrelix::embedded

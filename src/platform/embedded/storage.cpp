@@ -1,0 +1,166 @@
+#include "platform/embedded/storage.h"
+
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <stdexcept>
+
+namespace kestrelix::embedded {
+namespace {
+
+using NumberBytes = std::array<std::uint8_t, values::Number::kMaxBytes>;
+
+std::string_view bytesOf(sqlite3_value* stored) {
+  const auto* data = static_cast<const char*>(sqlite3_value_blob(stored));
+  return {data ? data : "", static_cast<std::size_t>(sqlite3_value_bytes(stored))};
+}
+
+std::string_view textOf(sqlite3_value* stored) {
+  const auto* data = reinterpret_cast<const char*>(sqlite3_value_text(stored));
+  return {data ? data : "", static_cast<std::size_t>(sqlite3_value_bytes(stored))};
+}
+
+values::Number numberOfBytes(const void* data, int size) {
+  const auto number =
+      values::Number::fromBytes({static_cast<const std::uint8_t*>(data), static_cast<std::size_t>(size)});
+  if (!number) throw std::runtime_error("the repository holds a number that is none");
+  return *number;
+}
+
+}  // namespace
+
+values::SqlType sqlTypeOf(StoredKind kind) {
+  switch (kind) {
+    case StoredKind::Number:
+      return values::SqlType::Number;
+    case StoredKind::Text:
+      return values::SqlType::Varchar;
+    case StoredKind::Char:
+      return values::SqlType::Char;
+    case StoredKind::Date:
+      return values::SqlType::Date;
+    case StoredKind::Raw:
+      return values::SqlType::Raw;
+    case StoredKind::Null:
+      break;
+  }
+  return values::SqlType::Null;
+}
+
+values::Number numberOf(sqlite3_value* stored) {
+  switch (sqlite3_value_type(stored)) {
+    case SQLITE_INTEGER:
+      return values::Number(static_cast<std::int64_t>(sqlite3_value_int64(stored)));
+    case SQLITE_BLOB:
+      return numberOfBytes(sqlite3_value_blob(stored), sqlite3_value_bytes(stored));
+    default:
+      throw std::runtime_error("the repository holds a number of a foreign form");
+  }
+}
+
+values::Number numberOf(sqlite3_stmt* row, int column) {
+  switch (sqlite3_column_type(row, column)) {
+    case SQLITE_INTEGER:
+      return values::Number(static_cast<std::int64_t>(sqlite3_column_int64(row, column)));
+    case SQLITE_BLOB:
+      return numberOfBytes(sqlite3_column_blob(row, column), sqlite3_column_bytes(row, column));
+    default:
+      throw std::runtime_error("the repository holds a number of a foreign form");
+  }
+}
+
+values::Value valueOf(sqlite3_value* stored, StoredKind kind) {
+  switch (kind) {
+    case StoredKind::Number:
+      return numberOf(stored);
+    case StoredKind::Date:
+      return values::Date{sqlite3_value_int64(stored)};
+    case StoredKind::Raw:
+      return values::Value::rawView(bytesOf(stored));
+    case StoredKind::Text:
+    case StoredKind::Char:
+      return values::Value::textView(textOf(stored));
+    case StoredKind::Null:
+      break;
+  }
+  return {};
+}
+
+void giveNumber(sqlite3_context* context, const values::Number& number) {
+  if (const auto whole = number.toInt64()) {
+    sqlite3_result_int64(context, *whole);
+    return;
+  }
+  NumberBytes bytes;
+  const auto size = number.toBytes(bytes);
+  sqlite3_result_blob(context, bytes.data(), static_cast<int>(size), SQLITE_TRANSIENT);
+}
+
+void giveValue(sqlite3_context* context, const values::Value& value) {
+  switch (value.kind()) {
+    case values::Value::Kind::Null:
+      sqlite3_result_null(context);
+      break;
+    case values::Value::Kind::Number:
+      giveNumber(context, value.number());
+      break;
+    case values::Value::Kind::Date:
+      sqlite3_result_int64(context, value.date().seconds);
+      break;
+    case values::Value::Kind::Text: {
+      const auto text = value.bytes();
+      sqlite3_result_text(context, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+      break;
+    }
+    case values::Value::Kind::Raw: {
+      const auto raw = value.bytes();
+      sqlite3_result_blob(context, raw.data(), static_cast<int>(raw.size()), SQLITE_TRANSIENT);
+      break;
+    }
+  }
+}
+
+void bindNumber(sqlite3_stmt* statement, int position, const values::Number& number) {
+  if (const auto whole = number.toInt64()) {
+    sqlite3_bind_int64(statement, position, *whole);
+    return;
+  }
+  NumberBytes bytes;
+  const auto size = number.toBytes(bytes);
+  sqlite3_bind_blob(statement, position, bytes.data(), static_cast<int>(size), SQLITE_TRANSIENT);
+}
+
+std::string numberLiteral(const values::Number& number) {
+  if (const auto whole = number.toInt64()) {
+    // SQLite reads the digits of the smallest integer, without its sign, as a floating point number.
+    if (*whole == INT64_MIN) return "(-9223372036854775807 - 1)";
+    return std::to_string(*whole);
+  }
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  NumberBytes bytes;
+  const auto size = number.toBytes(bytes);
+  std::string literal = "x'";
+  for (std::size_t i = 0; i < size; ++i) literal += {kHex[bytes[i] >> 4], kHex[bytes[i] & 15]};
+  return literal + "'";
+}
+
+std::string textLiteral(std::string_view text) {
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  if (text.find('\0') != std::string_view::npos) {
+    // SQLite's parser takes a zero byte for the end of the statement.
+    std::string hex = "CAST(x'";
+    for (const char c : text) {
+      const auto byte = static_cast<unsigned char>(c);
+      hex += {kHex[byte >> 4], kHex[byte & 15]};
+    }
+    return hex + "' AS TEXT)";
+  }
+  std::string literal = "'";
+  for (const char c : text) {
+    if (c == '\'') literal += '\'';
+    literal += c;
+  }
+  return literal + "'";
+}
+
+}  // namespace kestrelix::embedded
