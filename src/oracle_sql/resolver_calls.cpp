@@ -1,0 +1,148 @@
+// Calls: functions of one row, aggregates, window functions.
+#include "oracle_sql/functions.h"
+#include "oracle_sql/resolver_state.h"
+
+namespace oracle_sql {
+
+Type Resolver::call(Call& c, const Env& env) {
+  if (c.package.empty())
+    if (const SetFunction* f = findSetFunction(c.name)) return setFunction(c, *f, env);
+  return scalarCall(c, env);
+}
+
+void Resolver::countArguments(const Call& c, int low, int high) const {
+  const int given = static_cast<int>(c.args.size());
+  if (given >= low && given <= high) return;
+  if (low == high) fail(909, "invalid number of arguments", c.place);
+  if (given < low) fail(938, "not enough arguments for function", c.place);
+  fail(939, "too many arguments for function", c.place);
+}
+
+Type Resolver::scalarCall(Call& c, const Env& env) {
+  const std::string name =
+      c.package.empty() ? std::string(c.name) : std::string(c.package) + "." + std::string(c.name);
+  const std::string shown = c.package.empty()
+                                ? "\"" + name + "\""
+                                : "\"" + std::string(c.package) + "\".\"" + std::string(c.name) + "\"";
+  c.function = findFunction(name);
+  if (!c.function || (!c.package.empty() && !catalogue_.hasPackageFunction(c.package, c.name))) {
+    if (c.package.empty() && isOracleFunction(c.name))
+      throw SqlError::unsupported("function " + name, c.place);
+    fail(904, shown + ": invalid identifier", c.place);
+  }
+  c.role = CallRole::Scalar;
+  if (c.star) fail(936, "missing expression", c.place);
+  if (c.distinct) fail(30482, "DISTINCT option not allowed for this function", c.place);
+  if (c.over || c.keep || !c.withinGroup.empty() || c.nulls != NullTreatment::Default)
+    fail(923, "FROM keyword not found where expected", c.place);
+  std::vector<Type> types;
+  types.reserve(c.args.size());
+  for (Expr* arg : c.args) types.push_back(value(*arg, env));
+  if (c.name == "EXTRACT" && !c.option.empty()) {
+    if (c.option != "YEAR" && c.option != "MONTH" && c.option != "DAY")
+      fail(30076, "invalid extract field for extract source", c.place);
+    return {TypeKind::Number, true};
+  }
+  countArguments(c, c.function->minArguments, c.function->maxArguments);
+  return c.function->resultType(types);
+}
+
+Type Resolver::setFunction(Call& c, const SetFunction& f, const Env& env) {
+  if (!f.window && c.over) fail(923, "FROM keyword not found where expected", c.place);
+  if (!f.aggregate && !c.over) {
+    if (!c.withinGroup.empty()) throw SqlError::unsupported(std::string(c.name) + " WITHIN GROUP", c.place);
+    fail(30484, "missing window specification for this function", c.place);
+  }
+  if (c.keep && !f.keeps) fail(923, "FROM keyword not found where expected", c.place);
+  if (!c.withinGroup.empty() && f.result != SetResult::Text)
+    fail(30495, "WITHIN GROUP is not allowed here", c.place);
+  if (f.result == SetResult::Text && c.withinGroup.empty()) fail(2000, "missing WITHIN keyword", c.place);
+  const bool picksRow = f.name == "LAG" || f.name == "LEAD" || f.name == "FIRST_VALUE" ||
+                        f.name == "LAST_VALUE" || f.name == "NTH_VALUE";
+  if (c.nulls != NullTreatment::Default && !picksRow) fail(907, "missing right parenthesis", c.place);
+  if (c.star && f.name != "COUNT") fail(936, "missing expression", c.place);
+  if (c.distinct && (f.result == SetResult::Text || !f.aggregate))
+    fail(30482, "DISTINCT option not allowed for this function", c.place);
+  if (!c.star) countArguments(c, f.minArguments, f.maxArguments);
+
+  SelectBlock* b = env.scope->block;
+  Env inside = env;
+  inside.windows = false;
+  inside.aliases = false;
+  if (c.over) {
+    c.role = CallRole::Window;
+    if (!env.windows) fail(30483, "window functions are not allowed here", c.place);
+    if (b) b->windowed = true;
+  } else {
+    c.role = CallRole::Aggregate;
+    if (!env.aggregates) fail(934, "group function is not allowed here", c.place);
+    if (env.aggregateDepth == 1 && (!b || b->groupBy.empty()))
+      fail(978, "nested group function without GROUP BY", c.place);
+    if (env.aggregateDepth > 1) fail(935, "group function is nested too deeply", c.place);
+    if (b) {
+      b->grouped = true;
+      b->nestedAggregates = b->nestedAggregates || env.aggregateDepth == 1;
+    }
+    ++inside.aggregateDepth;
+  }
+  for (Expr* arg : c.args) value(*arg, inside);
+  for (OrderItem& item : c.withinGroup) value(*item.expr, inside);
+  if (c.keep)
+    for (OrderItem& item : c.keep->orderBy) value(*item.expr, inside);
+  if (c.over) window(c, f, inside);
+  return setFunctionType(c, f);
+}
+
+void Resolver::window(Call& c, const SetFunction& f, const Env& inside) {
+  Window& w = *c.over;
+  if (f.needsOrder && w.orderBy.empty())
+    fail(30485, "missing ORDER BY expression in the window specification", c.place);
+  const bool noOrder = c.distinct || c.keep || f.name == "RATIO_TO_REPORT" || f.result == SetResult::Text ||
+                       f.name == "MEDIAN";
+  if (noOrder && !w.orderBy.empty()) fail(30487, "ORDER BY not allowed here", w.orderBy.front().place);
+  if (f.needsOrder && w.unit != FrameUnit::None) fail(907, "missing right parenthesis", c.place);
+  for (Expr* p : w.partitionBy) value(*p, inside);
+  for (OrderItem& item : w.orderBy) value(*item.expr, inside);
+  for (const FrameBound& bound : {w.start, w.end}) {
+    if (!bound.offset) continue;
+    value(*bound.offset, inside);
+    if (w.unit == FrameUnit::Range && w.orderBy.size() != 1)
+      fail(30486, "invalid window aggregation group in the window specification", bound.offset->place);
+  }
+}
+
+Type Resolver::setFunctionType(const Call& c, const SetFunction& f) const {
+  const Type first = c.args.empty() ? Type{TypeKind::Null} : c.args.front()->type;
+  const bool noNumber = first.kind == TypeKind::Date || first.kind == TypeKind::Raw;
+  switch (f.result) {
+    case SetResult::Whole:
+      return {TypeKind::Number, true};
+    case SetResult::Text:
+      return {TypeKind::Varchar2};
+    case SetResult::NumberOrDate:
+      if (first.kind == TypeKind::Date) return first;
+      [[fallthrough]];
+    case SetResult::Number:
+      if (noNumber)
+        fail(932, std::string("inconsistent datatypes: expected NUMBER got ") + typeName(first.kind),
+             c.args.front()->place);
+      return {TypeKind::Number};
+    case SetResult::LikeArgument:
+      break;
+  }
+  Type result = first.kind == TypeKind::Null ? Type{TypeKind::Varchar2} : first;
+  if (c.args.size() < 3) return result;
+  // The default of LAG and LEAD.
+  const Type other = c.args[2]->type;
+  if (first.kind == TypeKind::Null) return other.kind == TypeKind::Null ? result : other;
+  if (comparisonOf(first, other) == Comparison::Invalid)
+    fail(932,
+         std::string("inconsistent datatypes: expected ") + typeName(first.kind) + " got " +
+             typeName(other.kind),
+         c.args[2]->place);
+  if (result.isText()) return {TypeKind::Varchar2};
+  result.integral = result.integral && (other.integral || other.kind == TypeKind::Null);
+  return result;
+}
+
+}  // namespace oracle_sql
