@@ -8,6 +8,25 @@
 #include "sections/activity_io/ModuleDispOSStatistics.h"
 #include "sections/activity_io/ModuleDispOSStatisticsdetail.h"
 #include "sections/activity_io/ModuleDispTablespaceIOStats.h"
+#include "sections/memory/ModuleDispBufferPoolAdvisory.h"
+#include "sections/memory/ModuleDispBufferPoolStatistics.h"
+#include "sections/memory/ModuleDispBufferwaitStatistics.h"
+#include "sections/memory/ModuleDispCacheSizeChanges.h"
+#include "sections/memory/ModuleDispInstanceRecoveryStats.h"
+#include "sections/memory/ModuleDispJavaPoolAdvisory.h"
+#include "sections/memory/ModuleDispMemoryDynamicComponents.h"
+#include "sections/memory/ModuleDispMemoryResizeOperations.h"
+#include "sections/memory/ModuleDispMemoryTargetAdvice.h"
+#include "sections/memory/ModuleDispPGAAggrTargetHistogram.h"
+#include "sections/memory/ModuleDispPGAAggrTargetStats.h"
+#include "sections/memory/ModuleDispPGAMemoryAdvisory.h"
+#include "sections/memory/ModuleDispProcessMemorySummaryStats.h"
+#include "sections/memory/ModuleDispSGAMemorySummary.h"
+#include "sections/memory/ModuleDispSGATargetAdvisory.h"
+#include "sections/memory/ModuleDispSGAbreakdowndifference.h"
+#include "sections/memory/ModuleDispSQLMemoryStatistics.h"
+#include "sections/memory/ModuleDispSharedPoolAdvisory.h"
+#include "sections/memory/ModuleDispTopProcessMemory.h"
 #include "sections/sql/ModuleDispSQLorderedby.h"
 #include "sections/summary/ModuleDispCacheSize.h"
 #include "sections/summary/ModuleDispHostCPU.h"
@@ -83,19 +102,19 @@ SectionList sectionList() {
       {"Tablespace IO Stats", 64, kAllVersions, false, false, make<clsTablespaceIOStats>, gDispTablespaceIOStats_All, byKeys({1}, gDispTablespaceIOStats_Col)},
       {"File IO Stats", 65, kAllVersions, false, false, make<clsFileIOStats>, gDispFileIOStats_All, byKeys({2}, gDispFileIOStats_Col)},
       {"File Read Histogram Stats", 66, V10_11, false, false, make<clsFileReadHistogramStats>, gDispFileReadHistogramStats_All, byKeys({2}, gDispFileReadHistogramStats_Col)},
-      pending("Buffer Pool Statistics", 70, kAllVersions, false),
-      pending("Instance Recovery Stats", 71, kAllVersions, false),
-      pending("Memory Target Advice", 72, V11, false),
-      pending("Memory Dynamic Components", 73, V11, false),
-      pending("Memory Resize Operations", 74, V11, false),
-      pending("Buffer Pool Advisory", 75, kAllVersions, false),
-      pending("Buffer wait Statistics", 76, kAllVersions, false),
-      pending("PGA Aggr Target Stats[1]", 80, kAllVersions, false),
-      pending("PGA Aggr Target Stats[2]", 81, kAllVersions, false),
-      pending("PGA Aggr Target Histogram", 82, kAllVersions, false),
-      pending("PGA Memory Advisory", 83, kAllVersions, false),
-      pending("Process Memory Summary Stats", 84, V10_11, false),
-      pending("Top Process Memory (by component)", 85, V10_11, false),
+      {"Buffer Pool Statistics", 70, kAllVersions, false, false, make<clsBufferPoolStatistics>, gDispBufferPoolStatistics_All, byKeys({1}, gDispBufferPoolStatistics_Col)},
+      {"Instance Recovery Stats", 71, kAllVersions, false, false, make<clsInstanceRecoveryStats>, gDispInstanceRecoveryStats_All, beginOrEnd({1}, gDispInstanceRecoveryStats_ColBegin, gDispInstanceRecoveryStats_ColEnd)},
+      {"Memory Target Advice", 72, V11, false, false, make<clsMemoryTargetAdvice>, gDispMemoryTargetAdvice_All, byKeys({1, 2}, gDispMemoryTargetAdvice_Col)},
+      {"Memory Dynamic Components", 73, V11, false, false, make<clsMemoryDynamicComponents>, gDispMemoryDynamicComponents_All, byKeys({1}, gDispMemoryDynamicComponents_Col)},
+      {"Memory Resize Operations", 74, V11, false, false, make<clsMemoryResizeOperations>, gDispMemoryResizeOperations_All, byKeys({3}, gDispMemoryResizeOperations_Col)},
+      {"Buffer Pool Advisory", 75, kAllVersions, false, false, make<clsBufferPoolAdvisory>, gDispBufferPoolAdvisory_All, byKeys({1, 2, 3}, gDispBufferPoolAdvisory_Col)},
+      {"Buffer wait Statistics", 76, kAllVersions, false, false, make<clsBufferwaitStatistics>, gDispBufferwaitStatistics_All, byKeys({1}, gDispBufferwaitStatistics_Col)},
+      {"PGA Aggr Target Stats[1]", 80, kAllVersions, false, false, make<clsPGAAggrTargetStats>, gDispPGAAggrTargetStats1_All, anyRow(gDispPGAAggrTargetStats1_Col)},
+      {"PGA Aggr Target Stats[2]", 81, kAllVersions, false, false, make<clsPGAAggrTargetStats>, gDispPGAAggrTargetStats2_All, beginOrEnd({1}, gDispPGAAggrTargetStats2_ColBegin, gDispPGAAggrTargetStats2_ColEnd)},
+      {"PGA Aggr Target Histogram", 82, kAllVersions, false, false, make<clsPGAAggrTargetHistogram>, gDispPGAAggrTargetHistogram_All, byKeys({1, 2}, gDispPGAAggrTargetHistogram_Col)},
+      {"PGA Memory Advisory", 83, kAllVersions, false, false, make<clsPGAMemoryAdvisory>, gDispPGAMemoryAdvisory_All, byKeys({1, 2}, gDispPGAMemoryAdvisory_Col)},
+      {"Process Memory Summary Stats", 84, V10_11, false, false, make<clsProcessMemorySummaryStats>, gDispProcessMemorySummaryStats_All, beginOrEnd({1, 2}, gDispProcessMemorySummaryStats_ColBegin, gDispProcessMemorySummaryStats_ColEnd)},
+      {"Top Process Memory (by component)", 85, V10_11, false, false, make<clsTopProcessMemory>, gDispTopProcessMemory_All, beginOrEnd({1, 2, 3}, gDispTopProcessMemory_ColBegin, gDispTopProcessMemory_ColEnd)},
       pending("Enqueue Activity", 90, kAllVersions, false),
       pending("Rollback Segment Stats", 100, kAllVersions, false),
       pending("Rollback Segment Storage", 101, kAllVersions, false),
@@ -123,13 +142,13 @@ SectionList sectionList() {
       pending("Global Cache Transfer Stats", 153, V10_11, true),
       pending("Interconnect Ping Stats", 154, V11, true),
       pending("Dynamic Remastering Stats", 155, V10_11, true),
-      pending("Shared Pool Advisory", 160, kAllVersions, false),
-      pending("Java Pool Advisory", 161, V10_11, false),
-      pending("Cache Size Changes", 162, V10_11, false),
-      pending("SGA Target Advisory", 163, V10_11, false),
-      pending("SGA Memory Summary", 164, kAllVersions, false),
-      pending("SGA breakdown difference", 165, kAllVersions, false),
-      pending("SQL Memory Statistics", 166, V10_11, false),
+      {"Shared Pool Advisory", 160, kAllVersions, false, false, make<clsSharedPoolAdvisory>, gDispSharedPoolAdvisory_All, byKeys({1, 2}, gDispSharedPoolAdvisory_Col)},
+      {"Java Pool Advisory", 161, V10_11, false, false, make<clsJavaPoolAdvisory>, gDispJavaPoolAdvisory_All, byKeys({1, 2}, gDispJavaPoolAdvisory_Col)},
+      {"Cache Size Changes", 162, V10_11, false, false, make<clsCacheSizeChanges>, gDispCacheSizeChanges_All, byKeys({1}, gDispCacheSizeChanges_Col)},
+      {"SGA Target Advisory", 163, V10_11, false, false, make<clsSGATargetAdvisory>, gDispSGATargetAdvisory_All, byKeys({1, 2}, gDispSGATargetAdvisory_Col)},
+      {"SGA Memory Summary", 164, kAllVersions, false, false, make<clsSGAMemorySummary>, gDispSGAMemorySummary_All, byKeys({1}, gDispSGAMemorySummary_Col)},
+      {"SGA breakdown difference", 165, kAllVersions, false, false, make<clsSGAbreakdowndifference>, gDispSGAbreakdowndifference_All, byKeys({1, 2}, gDispSGAbreakdowndifference_Col)},
+      {"SQL Memory Statistics", 166, V10_11, false, false, make<clsSQLMemoryStatistics>, gDispSQLMemoryStatistics_All, byRow(gDispSQLMemoryStatistics_Col)},
       pending("Resource Limit Stats", 170, kAllVersions, false),
       pending("init.ora Parameters", 180, kAllVersions, false),
   };
