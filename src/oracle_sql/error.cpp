@@ -29,6 +29,15 @@ std::size_t characterOn(std::string_view line, std::size_t at) {
   return at;
 }
 
+// Characters of East Asian scripts take two columns of a fixed-pitch font.
+bool isWide(std::string_view line, std::size_t at) {
+  if (at + 2 >= line.size() || (static_cast<unsigned char>(line[at]) & 0xF0) != 0xE0) return false;
+  const unsigned code = (static_cast<unsigned char>(line[at]) & 0x0FU) << 12 |
+                        (static_cast<unsigned char>(line[at + 1]) & 0x3FU) << 6 |
+                        (static_cast<unsigned char>(line[at + 2]) & 0x3FU);
+  return code >= 0x2E80 && code <= 0xFF60;
+}
+
 }  // namespace
 
 SqlError::SqlError(ErrorKind kind, int oraCode, const std::string& message, Place place)
@@ -69,7 +78,7 @@ std::string SqlError::render(std::string_view statement) const {
     if (line[i] == '\t')
       shown += '\t';
     else if (!continuesCharacter(line[i]))
-      shown += ' ';
+      shown += isWide(line, i) ? "  " : " ";
   }
   return shown + '^';
 }

@@ -183,7 +183,7 @@ SelectBlock* Parser::block() {
       break;
     }
   }
-  if (is(Keyword::Model) && !isName(1)) unsupported("MODEL");
+  if (is(Keyword::Model)) unsupported("MODEL");
   if (is(Keyword::Offset) || is(Keyword::Fetch)) fail(933, "SQL command not properly ended");
   return b;
 }

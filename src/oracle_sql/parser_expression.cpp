@@ -324,6 +324,8 @@ Expr* Parser::keywordPrimary(bool& taken) {
       take();
       return node<RownumExpr>(place);
     case Keyword::Level:
+      for (std::size_t ahead = 1; now(ahead).kind != TokenKind::End; ++ahead)
+        if (is(Keyword::Connect, ahead)) unsupported("LEVEL of CONNECT BY");
       fail(1788, "CONNECT BY clause required in this query block");
     case Keyword::Sysdate:
     case Keyword::User:

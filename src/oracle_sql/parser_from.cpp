@@ -88,7 +88,7 @@ bool Parser::tableAliasFollows() const {
     case Keyword::Partition:
       return !is(Symbol::LeftParen, 1);
     case Keyword::Model:
-      return isName(1) == false && now(1).kind != TokenKind::Name;
+      return now(1).kind != TokenKind::Name;
     case Keyword::Offset:
       return now(1).kind != TokenKind::Number && now(1).kind != TokenKind::Bind;
     case Keyword::Fetch:

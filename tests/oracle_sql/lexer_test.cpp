@@ -139,6 +139,11 @@ TEST(ErrorText, showsTheLineAndACaret) {
             "ORA-00936: missing expression\n  at line 2, column 5\n    \tあ, from dual\n    \t^");
 }
 
+TEST(ErrorText, countsWideCharactersAsTwoColumns) {
+  const SqlError e = SqlError::wrong(936, "missing expression", {.offset = 6, .line = 1, .column = 3});
+  EXPECT_THAT(e.render("あｱ,"), HasSubstr("\n  あｱ,\n     ^"));
+}
+
 TEST(ErrorText, showsOnlyAWindowOfALongLine) {
   const std::string statement = "select " + std::string(200, 'x') + " " + std::string(200, 'y');
   const SqlError e = SqlError::wrong(904, "invalid identifier", {.offset = 208, .line = 1, .column = 209});
