@@ -39,14 +39,16 @@ const ColColumn kStartTime{"START TIME", OfPair::StartTime};
 const ColColumn kEndTime{"END TIME", OfPair::EndTime};
 const ColColumn kStatus{"STATUS", OfPair::Status};
 
-/// Runs `member` for every pair on the one object, so that record i belongs to pair i.
-bool fetchEveryPair(Workspace& workspace, SectionObject& object, std::string_view member,
+/// Runs the members for every pair on the one object, so that record i belongs to pair i.
+bool fetchEveryPair(Workspace& workspace, SectionObject& object, const std::vector<std::string>& members,
                     const std::vector<std::string>& arguments) {
   const clsSnapId& pairs = *workspace.gSnapId;
-  for (int i = 0; i < pairs.rownum(); ++i)
-    if (!object.setBAIND_VALUE(pairs.keys(i), arguments) || !object.get(member, i) ||
-        !object.unsetBAIND_VALUE())
+  for (int i = 0; i < pairs.rownum(); ++i) {
+    const auto get = [&](const std::string& member) { return object.get(member, i); };
+    if (!object.setBAIND_VALUE(pairs.keys(i), arguments) ||
+        !std::all_of(members.begin(), members.end(), get) || !object.unsetBAIND_VALUE())
       return false;
+  }
   return true;
 }
 
@@ -132,7 +134,7 @@ void renderListAll(Workspace& workspace, SectionObject& object, std::string_view
 void renderListCol(Workspace& workspace, SectionObject& object, std::string_view member, const ListView& view,
                    const std::string& version, const std::vector<std::string>& arguments) {
   object.Initialize(*workspace.gOraDatabase, *workspace.gSnapId, workspace.boxes, version);
-  if (!fetchEveryPair(workspace, object, member, arguments)) return;
+  if (!fetchEveryPair(workspace, object, {std::string(member)}, arguments)) return;
   const ColColumn& time = view.ofPairs == OfPairs::StartTime ? kStartTime : kEndTime;
   std::vector<ColColumn> columns;
   for (const ViewColumn& column : view.colColumns.value_or(view.columns)) {
@@ -154,7 +156,7 @@ void renderMetricAll(Workspace& workspace, MetricSectionObject& object, const Me
   const bool headingsAlone = view.headingsAloneOnRestart && workspace.gSnapId->restarted(pair);
   const std::size_t rows = headingsAlone ? 0 : view.rows.size();
   gridSetUp(grid, static_cast<int>(view.headings.size()) + 2, static_cast<int>(rows));
-  std::vector<std::string> headings{"NO", "NAME"};
+  std::vector<std::string> headings{"NO", view.nameHeading};
   headings.insert(headings.end(), view.headings.begin(), view.headings.end());
   gridHeadings(grid, headings);
   gridNumbers(grid);
@@ -175,8 +177,10 @@ void renderMetricCol(Workspace& workspace, MetricSectionObject& object, const Me
   if (row < 1 || row > static_cast<int>(view.rows.size())) return;
   const MetricRow& metric = view.rows[static_cast<std::size_t>(row - 1)];
   object.Initialize(*workspace.gOraDatabase, *workspace.gSnapId, workspace.boxes, version);
-  if (!fetchEveryPair(workspace, object, metric.member, {})) return;
-  std::vector<ColColumn> columns{{"NAME", Text{metric.colLabel.value_or(metric.label)}}};
+  std::vector<std::string> members{metric.member};
+  members.insert(members.end(), metric.furtherMembers.begin(), metric.furtherMembers.end());
+  if (!fetchEveryPair(workspace, object, members, {})) return;
+  std::vector<ColColumn> columns{{view.nameHeading, Text{metric.colLabel.value_or(metric.label)}}};
   if (metric.pairColumns) columns.push_back(kEndTime);
   for (const ViewColumn& cell : metric.colCells.value_or(metric.cells))
     columns.push_back({cell.heading, cell.accessor});

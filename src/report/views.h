@@ -58,6 +58,8 @@ struct MetricRow {
   std::string label;
   std::string member;
   std::vector<ViewColumn> cells;  ///< each stands under its heading
+  /// Members that the Col view runs besides, where the row's figures come from several.
+  std::vector<std::string> furtherMembers;
   /// The Col view's own label and columns, where they differ from the All view's.
   std::optional<std::string> colLabel;
   std::optional<std::vector<ViewColumn>> colCells;
@@ -65,12 +67,14 @@ struct MetricRow {
   bool pairColumns = true;
 };
 
-/// The views of a metric Section: "NO", "NAME" and the headings, one row a metric.
+/// The views of a metric Section: "NO", the labels and the headings, one row a metric.
 struct MetricView {
   std::vector<std::string> headings;
   std::vector<MetricRow> rows;
   /// The All view of a pair across a restart has no rows; else their cells are empty.
   bool headingsAloneOnRestart = false;
+  /// The heading of the column of labels.
+  std::string nameHeading = "NAME";
 };
 
 }  // namespace kestrelix

@@ -8,6 +8,17 @@
 #include "sections/activity_io/ModuleDispOSStatistics.h"
 #include "sections/activity_io/ModuleDispOSStatisticsdetail.h"
 #include "sections/activity_io/ModuleDispTablespaceIOStats.h"
+#include "sections/cluster/ModuleDispDynamicRemasteringStats.h"
+#include "sections/cluster/ModuleDispGlobalCRServedStats.h"
+#include "sections/cluster/ModuleDispGlobalCURRENTServedStats.h"
+#include "sections/cluster/ModuleDispGlobalCacheEfficiency.h"
+#include "sections/cluster/ModuleDispGlobalCacheLoadProfile.h"
+#include "sections/cluster/ModuleDispGlobalCacheTransferStats.h"
+#include "sections/cluster/ModuleDispGlobalEnqueueStats.h"
+#include "sections/cluster/ModuleDispInterconnectPingStats.h"
+#include "sections/cluster/ModuleDispMessagingStatistics.h"
+#include "sections/cluster/ModuleDispRACStatistics.h"
+#include "sections/cluster/ModuleDispWorkloadCharacteristics.h"
 #include "sections/memory/ModuleDispBufferPoolAdvisory.h"
 #include "sections/memory/ModuleDispBufferPoolStatistics.h"
 #include "sections/memory/ModuleDispBufferwaitStatistics.h"
@@ -67,11 +78,11 @@ SectionList sectionList() {
       {"Virtual Memory Paging", 7, V10_11, false, false, make<clsVirtualMemoryPaging>, gDispVirtualMemoryPaging_All, byRow(gDispVirtualMemoryPaging_Col)},
       {"Memory Statistics", 8, V10_11, false, false, make<clsMemoryStatistics>, gDispMemoryStatistics_All, byRow(gDispMemoryStatistics_Col)},
       {"Time Model System Stats", 9, V10_11, false, false, make<clsTimeModelSystemStats>, gDispTimeModelSystemStats_All, byKeys({1}, gDispTimeModelSystemStats_Col)},
-      pending("RAC Statistics", 10, V10_11, true),
-      pending("Global Cache Load Profile", 11, V10_11, true),
-      pending("Global Cache Efficiency", 12, V10_11, true),
-      pending("GCS/GES Workload Characteristics", 13, V10_11, true),
-      pending("GCS/GES Messaging Statistics", 14, V10_11, true),
+      {"RAC Statistics", 10, V10_11, true, false, make<clsRACStatistics>, gDispRACStatistics_All, anyRow(gDispRACStatistics_Col)},
+      {"Global Cache Load Profile", 11, V10_11, true, false, make<clsGlobalCacheLoadProfile>, gDispGlobalCacheLoadProfile_All, byRow(gDispGlobalCacheLoadProfile_Col)},
+      {"Global Cache Efficiency", 12, V10_11, true, false, make<clsGlobalCacheEfficiency>, gDispGlobalCacheEfficiency_All, byRow(gDispGlobalCacheEfficiency_Col)},
+      {"GCS/GES Workload Characteristics", 13, V10_11, true, false, make<clsWorkloadCharacteristics>, gDispWorkloadCharacteristics_All, byRow(gDispWorkloadCharacteristics_Col)},
+      {"GCS/GES Messaging Statistics", 14, V10_11, true, false, make<clsMessagingStatistics>, gDispMessagingStatistics_All, byRow(gDispMessagingStatistics_Col)},
       {"Wait Events", 20, kAllVersions, false, false, make<clsWaitEvents>, gDispWaitEvents_All, byKeys({1}, gDispWaitEvents_Col)},
       {"Background Wait Events", 21, kAllVersions, false, false, make<clsBackgroundWaitEvents>, gDispBackgroundWaitEvents_All, byKeys({1}, gDispBackgroundWaitEvents_Col)},
       {"Foreground Wait Events", 22, V11, false, false, make<clsForegroundWaitEvents>, gDispForegroundWaitEvents_All, byKeys({1}, gDispForegroundWaitEvents_Col)},
@@ -136,12 +147,12 @@ SectionList sectionList() {
       pending("Dictionary Cache Stats[2]", 141, V10_11, true),
       pending("Library Cache Activity[1]", 142, kAllVersions, false),
       pending("Library Cache Activity[2]", 143, V10_11, true),
-      pending("Global Enqueue Stats", 150, V10_11, true),
-      pending("Global CR Served Stats", 151, V10_11, true),
-      pending("Global CURRENT Served Stats", 152, V10_11, true),
-      pending("Global Cache Transfer Stats", 153, V10_11, true),
-      pending("Interconnect Ping Stats", 154, V11, true),
-      pending("Dynamic Remastering Stats", 155, V10_11, true),
+      {"Global Enqueue Stats", 150, V10_11, true, false, make<clsGlobalEnqueueStats>, gDispGlobalEnqueueStats_All, byKeys({1}, gDispGlobalEnqueueStats_Col)},
+      {"Global CR Served Stats", 151, V10_11, true, false, make<clsGlobalCRServedStats>, gDispGlobalCRServedStats_All, byRow(gDispGlobalCRServedStats_Col)},
+      {"Global CURRENT Served Stats", 152, V10_11, true, false, make<clsGlobalCURRENTServedStats>, gDispGlobalCURRENTServedStats_All, byRow(gDispGlobalCURRENTServedStats_Col)},
+      {"Global Cache Transfer Stats", 153, V10_11, true, false, make<clsGlobalCacheTransferStats>, gDispGlobalCacheTransferStats_All, byKeys({2}, gDispGlobalCacheTransferStats_Col)},
+      {"Interconnect Ping Stats", 154, V11, true, false, make<clsInterconnectPingStats>, gDispInterconnectPingStats_All, byKeys({1}, gDispInterconnectPingStats_Col)},
+      {"Dynamic Remastering Stats", 155, V10_11, true, false, make<clsDynamicRemasteringStats>, gDispDynamicRemasteringStats_All, byRow(gDispDynamicRemasteringStats_Col)},
       {"Shared Pool Advisory", 160, kAllVersions, false, false, make<clsSharedPoolAdvisory>, gDispSharedPoolAdvisory_All, byKeys({1, 2}, gDispSharedPoolAdvisory_Col)},
       {"Java Pool Advisory", 161, V10_11, false, false, make<clsJavaPoolAdvisory>, gDispJavaPoolAdvisory_All, byKeys({1, 2}, gDispJavaPoolAdvisory_Col)},
       {"Cache Size Changes", 162, V10_11, false, false, make<clsCacheSizeChanges>, gDispCacheSizeChanges_All, byKeys({1}, gDispCacheSizeChanges_Col)},

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "report_run.h"
+#include "sections/EveryStatement.h"
 
 namespace kestrelix::report_tool {
 namespace {
@@ -12,10 +13,11 @@ void instances(const Options& options, StderrBoxes& boxes) {
   ReportRun run(boxes, options);
   run.loadInstances();
   const clsDbInstance& rows = *run.workspace().gDbInstance;
-  Table table{{"INDEX", "DBID", "DB_NAME", "VERSION", "INSTANCE_NUMBER", "INSTANCE_NAME", "HOST_NAME", "RAC"}};
+  Table table{
+      {"INDEX", "DBID", "DB_NAME", "VERSION", "INSTANCE_NUMBER", "INSTANCE_NAME", "HOST_NAME", "RAC"}};
   for (int i = 0; i < rows.rownum(); ++i)
-    table.push_back({std::to_string(i), rows.dbid(i), rows.DB_NAME(i), rows.VERSION(i), rows.INSTANCE_NUMBER(i),
-                     rows.INSTANCE_NAME(i), rows.HOST_NAME(i), rows.PARALLEL(i)});
+    table.push_back({std::to_string(i), rows.dbid(i), rows.DB_NAME(i), rows.VERSION(i),
+                     rows.INSTANCE_NUMBER(i), rows.INSTANCE_NAME(i), rows.HOST_NAME(i), rows.PARALLEL(i)});
   print(std::cout, table, options.csv);
 }
 
@@ -25,8 +27,9 @@ void pairs(const Options& options, StderrBoxes& boxes) {
   const clsSnapId& rows = *run.workspace().gSnapId;
   Table table{{"INDEX", "START TIME", "END TIME", "START ID", "END ID", "STATUS"}};
   for (int i = 0; i < rows.rownum(); ++i)
-    table.push_back({std::to_string(i + options.from.value_or(0)), rows.START_SNAP_TIME(i), rows.END_SNAP_TIME(i),
-                     rows.START_SNAP_ID(i), rows.END_SNAP_ID(i), rows.REPORT_STATUS(i)});
+    table.push_back({std::to_string(i + options.from.value_or(0)), rows.START_SNAP_TIME(i),
+                     rows.END_SNAP_TIME(i), rows.START_SNAP_ID(i), rows.END_SNAP_ID(i),
+                     rows.REPORT_STATUS(i)});
   print(std::cout, table, options.csv);
 }
 
@@ -45,9 +48,28 @@ void section(const Options& options, StderrBoxes& boxes) {
   if (!boxes.critical()) print(std::cout, cells(run.workspace().controls.MSFlexGridMain), options.csv);
 }
 
+/// What the program can send, for whoever has to know what a tool runs on a server.
+void statements(const Options& options, StderrBoxes&) {
+  const Versions wanted = options.version.empty() ? kAllVersions : versionOf(options.version);
+  if (wanted == 0) throw UsageError("--version is 9, 10 or 11");
+  Table table{{"CLASS", "MEMBER", "VIEW", "VERSIONS", "TEXT"}};
+  for (const SentStatement& sent : everyStatement()) {
+    if ((sent.versions & wanted) == 0) continue;
+    std::string versions;
+    for (const char* version : {"9", "10", "11"})
+      if ((sent.versions & versionOf(version)) != 0)
+        versions += (versions.empty() ? "" : " ") + std::string(version);
+    table.push_back({sent.owner, sent.member, sent.view, versions, sent.text});
+  }
+  print(std::cout, table, options.csv);
+}
+
 using Command = void (*)(const Options&, StderrBoxes&);
-const std::map<std::string, Command> kCommands{
-    {"instances", instances}, {"pairs", pairs}, {"sections", sections}, {"section", section}};
+const std::map<std::string, Command> kCommands{{"instances", instances},
+                                               {"pairs", pairs},
+                                               {"sections", sections},
+                                               {"section", section},
+                                               {"statements", statements}};
 
 }  // namespace
 

@@ -25,6 +25,9 @@ commands
                           the All view of a Section for a pair; with --row the
                           series that row R of that view leads to, over all pairs
                           or over those from P1 to P2
+  statements [--version V]
+                          every statement that the program can send, for all
+                          versions or for 9, 10 or 11; needs no repository
 
 Boxes go to standard error. Exit status: 0, 1 if there was a critical box, 2 for
 wrong usage.
@@ -45,7 +48,9 @@ int number(const std::string& option, const std::string& text) {
 Options parseOptions(const std::vector<std::string>& arguments) {
   Options options;
   using Set = std::function<void(const std::string&)>;
-  const auto text = [](std::string& target) -> Set { return [&target](const std::string& v) { target = v; }; };
+  const auto text = [](std::string& target) -> Set {
+    return [&target](const std::string& v) { target = v; };
+  };
   const auto whole = [](const std::string& option, std::optional<int>& target) -> Set {
     return [option, &target](const std::string& v) { target = number(option, v); };
   };

@@ -7,7 +7,7 @@
 #include "navigation/ModuleRangeCommon.h"
 #include "navigation/version_gate.h"
 #include "platform/ascii.h"
-#include "platform/embedded/local_session.h"
+#include "platform/embedded/local_database.h"
 #include "platform/guarded.h"
 #include "report/ModuleDispCommon.h"
 #include "sections/SectionList.h"
@@ -34,16 +34,16 @@ int needed(const std::optional<int>& value, const char* option) {
 
 int within(int value, int count, const char* what) {
   if (value >= count)
-    throw UsageError("there is no " + std::string(what) + " " + std::to_string(value) + ", they go from 0 to " +
-                     std::to_string(count - 1));
+    throw UsageError("there is no " + std::string(what) + " " + std::to_string(value) +
+                     ", they go from 0 to " + std::to_string(count - 1));
   return value;
 }
 
 }  // namespace
 
 ReportRun::ReportRun(MessageBoxes& boxes, const Options& options) : options_(options), workspace_(boxes) {
-  for (const char* key : {"GRID", "SQL", "PLAN", "GRAPH_START", "GRAPH_LEFT", "GRAPH_DISP", "GRAPH_MAX", "LIST",
-                          "GRAPH_RIGHT", "GRAPH_END", "START", "END", "COPY", "HELP"})
+  for (const char* key : {"GRID", "SQL", "PLAN", "GRAPH_START", "GRAPH_LEFT", "GRAPH_DISP", "GRAPH_MAX",
+                          "LIST", "GRAPH_RIGHT", "GRAPH_END", "START", "END", "COPY", "HELP"})
     workspace_.controls.ToolbarTop.Add(key, key, "");
 }
 
@@ -53,9 +53,10 @@ void ReportRun::connect() {
   const std::string connect = asciiUpper(options_.user) + "/" + password(options_);
   const bool open = guarded(workspace_.boxes, "ModuleCommon", "OPEN_Conect", [&] {
     if (options_.repository.empty()) throw DatabaseError("IM002", 12154, "no way to reach " + options_.tns);
-    workspace_.gOraSession = embedded::localSession(options_.repository);
+    workspace_.gOraSession = std::make_unique<embedded::LocalFileSession>(options_.repository);
     workspace_.gOraDatabase = workspace_.gOraSession->OpenDatabase(
-        options_.repository.empty() ? asciiUpper(options_.tns) : options_.repository, connect, kDatabaseOptions);
+        options_.repository.empty() ? asciiUpper(options_.tns) : options_.repository, connect,
+        kDatabaseOptions);
   });
   if (open) return;
   workspace_.boxes.show(BoxIcon::Critical, "データベースの接続に失敗しました");

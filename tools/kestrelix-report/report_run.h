@@ -7,8 +7,8 @@
 
 namespace kestrelix::report_tool {
 
-/// One report on the road of the window: connect, load the lists, select, render. A step that has shown its box
-/// ends with Stopped.
+/// One report on the road of the window: connect, load the lists, select, render. A step that has shown its
+/// box ends with Stopped.
 class ReportRun {
  public:
   struct Stopped {};

@@ -26,7 +26,8 @@ Grid::Grid(std::string name, int width)
 void Grid::Rows(int rows) {
   if (rows < 0 || rows < fixedRows_) refuse(*this, "Rows", rows);
   cells_.resize(index(rows), std::vector<std::string>(index(cols_)));
-  shapeChanged();
+  clampCurrent();
+  changed();
 }
 
 void Grid::Cols(int cols) {
@@ -34,24 +35,21 @@ void Grid::Cols(int cols) {
   cols_ = cols;
   for (auto& row : cells_) row.resize(index(cols));
   widths_.resize(index(cols), kDefaultColWidth);
-  shapeChanged();
+  clampCurrent();
+  changed();
 }
 
 void Grid::FixedRows(int rows) {
   if (rows < 0 || rows >= Rows()) refuse(*this, "FixedRows", rows);
   fixedRows_ = rows;
-  shapeChanged();
+  clampCurrent();
+  changed();
 }
 
 void Grid::FixedCols(int cols) {
   if (cols < 0 || cols >= Cols()) refuse(*this, "FixedCols", cols);
   fixedCols_ = cols;
-  shapeChanged();
-}
-
-void Grid::shapeChanged() {
   clampCurrent();
-  ++contents_;
   changed();
 }
 
@@ -66,22 +64,18 @@ void Grid::clampCurrent() {
   rowSel_ = clamp(rowSel_, fixedRows_, Rows());
   col_ = std::clamp(col_, 0, std::max(0, cols_ - 1));
   colSel_ = std::clamp(colSel_, 0, std::max(0, cols_ - 1));
-  topRow_ = std::clamp(topRow_, fixedRows_, lastTopRow());
+  topRow_ = clamp(topRow_, fixedRows_, Rows());
 }
-
-int Grid::lastTopRow() const { return std::max(fixedRows_, Rows() - pageRows_); }
 
 const std::string& Grid::TextMatrix(int row, int col) const { return cells_.at(index(row)).at(index(col)); }
 
 void Grid::TextMatrix(int row, int col, std::string text) {
   cells_.at(index(row)).at(index(col)) = std::move(text);
-  ++contents_;
   if (Visible()) changed();
 }
 
 void Grid::ColWidth(int col, int twips) {
   widths_.at(index(col)) = twips;
-  ++contents_;
   if (Visible()) changed();
 }
 
@@ -125,13 +119,9 @@ std::string Grid::Clip() const {
 }
 
 void Grid::TopRow(int row) {
-  topRow_ = std::clamp(row, fixedRows_, lastTopRow());
+  const int last = std::max(fixedRows_, Rows() - 1);
+  topRow_ = std::clamp(row, std::min(fixedRows_, last), last);
   changed();
-}
-
-void Grid::PageRows(int rows) {
-  pageRows_ = std::max(1, rows);
-  TopRow(topRow_);
 }
 
 void Grid::BackColor(Colour colour) {
@@ -142,7 +132,6 @@ void Grid::BackColor(Colour colour) {
 void Grid::Clear() {
   for (auto& row : cells_)
     for (auto& cell : row) cell.clear();
-  ++contents_;
   if (Visible()) changed();
 }
 

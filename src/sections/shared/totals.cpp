@@ -52,26 +52,30 @@ Bind timedStatistics() {
                " b")};
 }
 
-Bind transactions() {
+std::string transactionsSelect(const std::string& alias) {
   const auto ended = [](const std::string& snapshot) {
     return R"sql(
-      (select syc.VALUE + syr.VALUE AS TRAN
+      (select st.DBID, st.INSTANCE_NUMBER, syc.VALUE + syr.VALUE AS TRAN
          from stats$snapshot st, stats$sysstat syc, stats$sysstat syr
-        where st.dbid = :B1
-          and st.instance_number = :B2
-          and st.snap_id = )sql" +
-           snapshot + R"sql(
-          and syc.dbid = st.dbid
-          and syc.instance_number = st.instance_number
-          and syc.snap_id = st.snap_id
-          and syr.dbid = st.dbid
-          and syr.instance_number = st.instance_number
-          and syr.snap_id = st.snap_id
+        where st.DBID = syc.DBID
+          and st.INSTANCE_NUMBER = syc.INSTANCE_NUMBER
+          and st.SNAP_ID = syc.SNAP_ID
+          and st.DBID = syr.DBID
+          and st.INSTANCE_NUMBER = syr.INSTANCE_NUMBER
+          and st.SNAP_ID = syr.SNAP_ID
+          and st.DBID = :B1
+          and st.INSTANCE_NUMBER = :B2
+          and st.SNAP_ID = )sql" + snapshot + R"sql(
           and syc.NAME = 'user commits'
           and syr.NAME = 'user rollbacks'))sql";
   };
-  return {"TRAN", ServerType::Number, "getTRAN",
-          fold("select e.TRAN - b.TRAN AS TRAN from " + ended(":B3") + " b," + ended(":B4") + " e")};
+  return "select b.TRAN - a.TRAN AS " + alias + " from " + ended(":B3") + " a," + ended(":B4") + R"sql( b
+     where a.DBID = b.DBID
+       and a.INSTANCE_NUMBER = b.INSTANCE_NUMBER)sql";
+}
+
+Bind transactions() {
+  return {"TRAN", ServerType::Number, "getTRAN", fold(transactionsSelect("TRAN"))};
 }
 
 std::string elapsedSeconds(const std::string& inOrder) {

@@ -17,6 +17,8 @@ Bind totalCpu();
 Bind timedStatistics();
 /// TRAN: commits and rollbacks of the pair (stats$sysstat).
 Bind transactions();
+/// The query behind it under another alias, for statements that take it as an inline view. Not folded.
+std::string transactionsSelect(const std::string& alias);
 /// ela: whole seconds between the snapshots, 0 for two of the same second (stats$snapshot).
 Bind elapsed();
 

@@ -1,0 +1,63 @@
+#include "sections/EveryStatement.h"
+
+#include <algorithm>
+
+#include "sections/SectionList.h"
+
+namespace kestrelix {
+namespace {
+
+const char* viewOf(Fetch fetch) {
+  switch (fetch) {
+    case Fetch::AllRows:
+      return "All";
+    case Fetch::FirstRow:
+      return "Col";
+    case Fetch::Metric:
+      return "All and Col";
+    case Fetch::Binds:
+      break;
+  }
+  return "bind";
+}
+
+/// What an object sends when its Sections are listed for `listed`.
+void append(std::vector<SentStatement>& sent, const SectionObject& object, Versions listed) {
+  std::vector<std::string> bindMembers;
+  for (const Bind& bind : object.binds()) {
+    const bool known = std::find(bindMembers.begin(), bindMembers.end(), bind.member) != bindMembers.end();
+    if (bind.text.empty() || known) continue;
+    bindMembers.push_back(bind.member);
+    sent.push_back({object.className(), bind.member, "bind", listed, bind.text, object.binds()});
+  }
+  for (const Statement& statement : object.statements())
+    if ((statement.versions & listed) != 0)
+      sent.push_back({object.className(), statement.member, viewOf(statement.fetch),
+                      statement.versions & listed, statement.text, object.binds()});
+}
+
+}  // namespace
+
+std::vector<SentStatement> everyStatement() {
+  struct Class {
+    std::unique_ptr<SectionObject> object;
+    Versions listed;
+  };
+  std::vector<Class> classes;
+  for (const SectionEntry& entry : sectionList()) {
+    if (entry.make == nullptr) continue;
+    auto object = entry.make();
+    const auto same = std::find_if(classes.begin(), classes.end(), [&](const Class& known) {
+      return known.object->className() == object->className();
+    });
+    if (same == classes.end())
+      classes.push_back({std::move(object), entry.versions});
+    else
+      same->listed |= entry.versions;
+  }
+  std::vector<SentStatement> sent;
+  for (const Class& known : classes) append(sent, *known.object, known.listed);
+  return sent;
+}
+
+}  // namespace kestrelix

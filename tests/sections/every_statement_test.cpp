@@ -1,0 +1,60 @@
+// Every statement has to resolve against each release that lists its Section, alone: the nearest thing to the
+// real servers that a build has.
+#include "sections/EveryStatement.h"
+
+#include <gtest/gtest.h>
+
+#include "oracle_sql/error.h"
+#include "oracle_sql/parser.h"
+#include "oracle_sql/resolver.h"
+#include "platform/ascii.h"
+#include "statspack/release_catalogue.h"
+
+namespace kestrelix {
+namespace {
+
+/// The error of the statement against that release, empty if it resolves.
+std::string fault(const SentStatement& sent, const char* major) {
+  try {
+    const statspack::ReleaseCatalogue catalogue(major);
+    oracle_sql::Tree tree = oracle_sql::parse(sent.text);
+    oracle_sql::resolve(tree, catalogue, [&](std::string_view name) -> std::optional<oracle_sql::TypeKind> {
+      for (const Bind& bind : sent.binds)
+        if (asciiUpper(bind.name) == name)
+          return bind.type == ServerType::String ? oracle_sql::TypeKind::Varchar2
+                                                 : oracle_sql::TypeKind::Number;
+      if (name == "B1" || name == "B2" || name == "B3" || name == "B4") return oracle_sql::TypeKind::Number;
+      return std::nullopt;
+    });
+    return {};
+  } catch (const oracle_sql::SqlError& error) {
+    return error.render(sent.text);
+  }
+}
+
+TEST(EveryStatement, resolvesAgainstEachReleaseThatListsItsSection) {
+  const std::pair<Versions, const char*> releases[] = {{V9, "9"}, {V10, "10"}, {V11, "11"}};
+  const auto statements = everyStatement();
+  ASSERT_FALSE(statements.empty());
+  for (const SentStatement& sent : statements)
+    for (const auto& [version, major] : releases)
+      if ((sent.versions & version) != 0)
+        EXPECT_EQ(fault(sent, major), "") << sent.owner << "::" << sent.member << " on release " << major;
+}
+
+TEST(EveryStatement, isOneLineThatEndsInABlank) {
+  for (const SentStatement& sent : everyStatement()) {
+    EXPECT_EQ(sent.text.find('\n'), std::string::npos) << sent.owner << "::" << sent.member;
+    EXPECT_EQ(sent.text.back(), ' ') << sent.owner << "::" << sent.member;
+  }
+}
+
+TEST(EveryStatement, aTableOfALaterReleaseDoesNotResolveAgainstAnEarlierOne) {
+  const SentStatement later{"clsX", "getX", "All", V9, "select value from stats$osstat where snap_id = :B3 ",
+                            {}};
+  EXPECT_NE(fault(later, "9").find("ORA-00942"), std::string::npos);
+  EXPECT_EQ(fault(later, "10"), "");
+}
+
+}  // namespace
+}  // namespace kestrelix
