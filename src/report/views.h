@@ -58,16 +58,16 @@ struct MetricRow {
   std::string label;
   std::string member;
   std::vector<ViewColumn> cells;  ///< each stands under its heading
-  /// Members that the Col view runs besides, where the row's figures come from several.
-  std::vector<std::string> furtherMembers;
   /// The Col view's own label and columns, where they differ from the All view's.
   std::optional<std::string> colLabel;
   std::optional<std::vector<ViewColumn>> colCells;
   /// The Col view shows the pair's "END TIME" and "STATUS" around the columns.
   bool pairColumns = true;
+  /// Members that the Col view runs besides, where the row's figures come from several.
+  std::vector<std::string> furtherMembers;
 };
 
-/// The views of a metric Section: "NO", the labels and the headings, one row a metric.
+/// The views of a metric Section: "NO", "NAME" and the headings, one row a metric.
 struct MetricView {
   std::vector<std::string> headings;
   std::vector<MetricRow> rows;

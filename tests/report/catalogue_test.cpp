@@ -54,9 +54,9 @@ TEST_F(Catalogue, interconnectPingsNeedVersion11AndACluster) {
 }
 
 TEST_F(Catalogue, someSectionsAreForVersion11Alone) {
-  for (const char* text : {"Foreground Wait Events", "OS Statistics - detail",
-                           "IO Stat by Function - summary", "IO Stat by Function - detail",
-                           "Memory Target Advice", "Memory Dynamic Components", "Memory Resize Operations"}) {
+  for (const char* text : {"Foreground Wait Events", "OS Statistics - detail", "IO Stat by Function - summary",
+                           "IO Stat by Function - detail", "Memory Target Advice", "Memory Dynamic Components",
+                           "Memory Resize Operations"}) {
     EXPECT_TRUE(has(listed("11", "NO"), text)) << text;
     EXPECT_FALSE(has(listed("10", "NO"), text)) << text;
     EXPECT_FALSE(has(listed("9", "NO"), text)) << text;
@@ -70,8 +70,7 @@ TEST_F(Catalogue, lettersOfTheNamesAreAsTheyAre) {
 }
 
 TEST_F(Catalogue, onlyYesCountsAsACluster) {
-  for (const char* parallel : {"NO", "yes", "YES ", "", "TRUE"})
-    EXPECT_EQ(listed("11", parallel).size(), 76u);
+  for (const char* parallel : {"NO", "yes", "YES ", "", "TRUE"}) EXPECT_EQ(listed("11", parallel).size(), 76u);
 }
 
 TEST_F(Catalogue, theSecondCacheSectionsStandOnAClusterAlone) {

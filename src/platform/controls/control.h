@@ -59,6 +59,13 @@ class Frame : public Label {
   Signal<> DblClick;
 };
 
+/// A button with a caption.
+class CommandButton : public Label {
+ public:
+  using Label::Label;
+  Signal<> Click;
+};
+
 /// A line of text to type into.
 class TextBox : public Control {
  public:

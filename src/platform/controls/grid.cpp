@@ -26,8 +26,7 @@ Grid::Grid(std::string name, int width)
 void Grid::Rows(int rows) {
   if (rows < 0 || rows < fixedRows_) refuse(*this, "Rows", rows);
   cells_.resize(index(rows), std::vector<std::string>(index(cols_)));
-  clampCurrent();
-  changed();
+  shapeChanged();
 }
 
 void Grid::Cols(int cols) {
@@ -35,21 +34,24 @@ void Grid::Cols(int cols) {
   cols_ = cols;
   for (auto& row : cells_) row.resize(index(cols));
   widths_.resize(index(cols), kDefaultColWidth);
-  clampCurrent();
-  changed();
+  shapeChanged();
 }
 
 void Grid::FixedRows(int rows) {
   if (rows < 0 || rows >= Rows()) refuse(*this, "FixedRows", rows);
   fixedRows_ = rows;
-  clampCurrent();
-  changed();
+  shapeChanged();
 }
 
 void Grid::FixedCols(int cols) {
   if (cols < 0 || cols >= Cols()) refuse(*this, "FixedCols", cols);
   fixedCols_ = cols;
+  shapeChanged();
+}
+
+void Grid::shapeChanged() {
   clampCurrent();
+  ++contents_;
   changed();
 }
 
@@ -64,18 +66,22 @@ void Grid::clampCurrent() {
   rowSel_ = clamp(rowSel_, fixedRows_, Rows());
   col_ = std::clamp(col_, 0, std::max(0, cols_ - 1));
   colSel_ = std::clamp(colSel_, 0, std::max(0, cols_ - 1));
-  topRow_ = clamp(topRow_, fixedRows_, Rows());
+  topRow_ = std::clamp(topRow_, fixedRows_, lastTopRow());
 }
+
+int Grid::lastTopRow() const { return std::max(fixedRows_, Rows() - pageRows_); }
 
 const std::string& Grid::TextMatrix(int row, int col) const { return cells_.at(index(row)).at(index(col)); }
 
 void Grid::TextMatrix(int row, int col, std::string text) {
   cells_.at(index(row)).at(index(col)) = std::move(text);
+  ++contents_;
   if (Visible()) changed();
 }
 
 void Grid::ColWidth(int col, int twips) {
   widths_.at(index(col)) = twips;
+  ++contents_;
   if (Visible()) changed();
 }
 
@@ -119,9 +125,13 @@ std::string Grid::Clip() const {
 }
 
 void Grid::TopRow(int row) {
-  const int last = std::max(fixedRows_, Rows() - 1);
-  topRow_ = std::clamp(row, std::min(fixedRows_, last), last);
+  topRow_ = std::clamp(row, fixedRows_, lastTopRow());
   changed();
+}
+
+void Grid::PageRows(int rows) {
+  pageRows_ = std::max(1, rows);
+  TopRow(topRow_);
 }
 
 void Grid::BackColor(Colour colour) {
@@ -132,6 +142,7 @@ void Grid::BackColor(Colour colour) {
 void Grid::Clear() {
   for (auto& row : cells_)
     for (auto& cell : row) cell.clear();
+  ++contents_;
   if (Visible()) changed();
 }
 

@@ -47,12 +47,18 @@ class Grid : public Control {
   /// The selected cells: tabs between the cells of a row, carriage returns between rows.
   std::string Clip() const;
 
-  /// The first row below the fixed ones that shows; kept within the rows that there are.
+  /// The first row below the fixed ones that shows; kept so that no more than the last page of rows shows.
   int TopRow() const { return topRow_; }
   void TopRow(int row);
+  /// The rows below the fixed ones that fit on the screen at once; one, unless a screen tells otherwise.
+  void PageRows(int rows);
 
   Colour BackColor() const { return backColour_; }
   void BackColor(Colour colour);
+
+  /// Grows with every change of the shape, a text or a width, so that a mirror can tell them from a mere move
+  /// of the selection.
+  unsigned long contents() const { return contents_; }
 
   /// Empties every cell; the shape stays.
   void Clear();
@@ -68,6 +74,8 @@ class Grid : public Control {
 
  private:
   void clampCurrent();
+  void shapeChanged();
+  int lastTopRow() const;
 
   std::vector<std::vector<std::string>> cells_;
   std::vector<int> widths_;
@@ -79,6 +87,8 @@ class Grid : public Control {
   int rowSel_ = 1;
   int colSel_ = 1;
   int topRow_ = 1;
+  int pageRows_ = 1;
+  unsigned long contents_ = 0;
   int width_;
   Colour backColour_ = kWindowColour;
 };

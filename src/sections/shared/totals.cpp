@@ -65,7 +65,8 @@ std::string transactionsSelect(const std::string& alias) {
           and st.SNAP_ID = syr.SNAP_ID
           and st.DBID = :B1
           and st.INSTANCE_NUMBER = :B2
-          and st.SNAP_ID = )sql" + snapshot + R"sql(
+          and st.SNAP_ID = )sql" +
+           snapshot + R"sql(
           and syc.NAME = 'user commits'
           and syr.NAME = 'user rollbacks'))sql";
   };
