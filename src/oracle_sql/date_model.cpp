@@ -113,15 +113,15 @@ class Parser {
       add(DateElement::Literal).text = text.substr(1, end - 1);
       return end + 1;
     }
+    for (const Shorthand& shorthand : kShorthands) {
+      if (startsWithAnyCase(text, shorthand.name) && !startsWithAnyCase(text, "DSP")) {
+        append(shorthand.model);
+        return shorthand.name.size();
+      }
+    }
     for (const Name& name : kNames) {
       if (startsWithAnyCase(text, name.name)) {
         return takeElement(text, name);
-      }
-    }
-    for (const Shorthand& shorthand : kShorthands) {
-      if (startsWithAnyCase(text, shorthand.name)) {
-        append(shorthand.model);
-        return shorthand.name.size();
       }
     }
     if (isAsciiLetter(text[0]) || isAsciiDigit(text[0]) || static_cast<unsigned char>(text[0]) >= 0x80) {

@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <limits>
+#include <vector>
+
+#include "function_support.h"
+#include "oracle_sql/aggregates.h"
+
+namespace oracle_sql {
+namespace {
+
+TEST(Sum, nothingAndOnlyNullsAreNull) {
+  SumAccumulator sum;
+  EXPECT_EQ("NULL", shown(sum.sum()));
+  EXPECT_EQ("NULL", shown(sum.average()));
+  sum.step(Value());
+  EXPECT_EQ("NULL", shown(sum.sum()));
+  EXPECT_EQ(0, sum.count());
+  EXPECT_EQ(1722, errorOf([&] { sum.step(s("x")); }));
+}
+
+TEST(Sum, zeroedMemoryIsAnEmptySum) {
+  alignas(SumAccumulator) unsigned char memory[sizeof(SumAccumulator)];
+  std::memset(memory, 0, sizeof memory);
+  auto* const sum = reinterpret_cast<SumAccumulator*>(memory);
+  EXPECT_EQ("NULL", shown(sum->sum()));
+  sum->step(n("2.5"));
+  EXPECT_EQ("2.5", shown(sum->sum()));
+}
+
+TEST(Sum, leaves64BitsAndComesBackExactly) {
+  SumAccumulator sum;
+  const Value most = n("9223372036854775807");
+  for (int i = 0; i < 3; ++i) {
+    sum.step(most);
+  }
+  EXPECT_EQ("27670116110564327421", shown(sum.sum()));
+  sum.inverse(most);
+  sum.inverse(most);
+  EXPECT_EQ("9223372036854775807", shown(sum.sum()));
+  EXPECT_EQ(1, sum.count());
+  sum.step(n("-9223372036854775808"));
+  sum.inverse(n("-9223372036854775808"));
+  EXPECT_EQ("9223372036854775807", shown(sum.sum()));
+}
+
+TEST(Sum, fractionsAreDecimal) {
+  SumAccumulator sum;
+  for (const char* x : {"0.1", "0.2", "0.3"}) {
+    sum.step(n(x));
+  }
+  EXPECT_EQ(".6", shown(sum.sum()));
+  EXPECT_EQ(".2", shown(sum.average()));
+  sum.step(s("0.4"));
+  EXPECT_EQ("1", shown(sum.sum()));
+}
+
+// 2, 4, 4, 4, 5, 5, 7, 9: mean 5, squares of the distances 32.
+TEST(Variance, isThatOfASample) {
+  VarianceAccumulator variance;
+  EXPECT_EQ("NULL", shown(variance.variance()));
+  variance.step(n("2"));
+  EXPECT_EQ("0", shown(variance.variance()));
+  EXPECT_EQ("0", shown(variance.standardDeviation()));
+  EXPECT_EQ("NULL", shown(variance.sampleVariance()));
+  for (const char* x : {"4", "4", "4", "5", "5", "7", "9"}) {
+    variance.step(n(x));
+  }
+  variance.step(Value());
+  EXPECT_EQ("4", shown(variance.populationVariance()));
+  EXPECT_EQ("4.571", shown(variance.variance().number().round(3)));
+  EXPECT_EQ("2.138", shown(variance.standardDeviation().number().round(3)));
+  variance.step(n("1000"));
+  variance.inverse(n("1000"));
+  EXPECT_EQ("4", shown(variance.populationVariance()));
+}
+
+TEST(Variance, equalValuesHaveNone) {
+  VarianceAccumulator variance;
+  for (int i = 0; i < 3; ++i) {
+    variance.step(Number(1) / Number(3));
+  }
+  EXPECT_EQ("0", shown(variance.variance().number().round(30)));
+  EXPECT_FALSE(variance.variance().number().isNegative());
+}
+
+TEST(Extremes, compareByTheTypeOfTheValues) {
+  ExtremeAccumulator numbers;
+  EXPECT_EQ("NULL", shown(numbers.minimum()));
+  for (const char* x : {"9", "10", ".5"}) {
+    numbers.step(n(x));
+  }
+  numbers.step(Value());
+  EXPECT_EQ(".5", shown(numbers.minimum()));
+  EXPECT_EQ("10", shown(numbers.maximum()));
+  ExtremeAccumulator texts;
+  for (const char* x : {"9", "10", "_"}) {
+    texts.step(s(x));
+  }
+  EXPECT_EQ("10", shown(texts.minimum()));
+  EXPECT_EQ("_", shown(texts.maximum()));
+}
+
+TEST(Extremes, keepTheBytesOfARowThatIsGone) {
+  ExtremeAccumulator texts;
+  {
+    const std::string row = "a text that is too long to lie in the value itself";
+    texts.step(Value::textView(row));
+  }
+  EXPECT_EQ("a text that is too long to lie in the value itself", shown(texts.minimum()));
+}
+
+TEST(Extremes, movingWindowForgetsWhatLeavesIt) {
+  MovingExtremeAccumulator window;
+  for (const char* x : {"3", "1", "2", "1"}) {
+    window.step(n(x));
+  }
+  window.inverse(n("3"));
+  window.inverse(n("1"));
+  EXPECT_EQ("1", shown(window.minimum()));
+  EXPECT_EQ("2", shown(window.maximum()));
+  window.inverse(n("2"));
+  window.inverse(n("1"));
+  EXPECT_EQ("NULL", shown(window.maximum()));
+}
+
+}  // namespace
+}  // namespace oracle_sql
