@@ -29,24 +29,6 @@ values::Number numberOfBytes(const void* data, int size) {
 
 }  // namespace
 
-values::SqlType sqlTypeOf(StoredKind kind) {
-  switch (kind) {
-    case StoredKind::Number:
-      return values::SqlType::Number;
-    case StoredKind::Text:
-      return values::SqlType::Varchar;
-    case StoredKind::Char:
-      return values::SqlType::Char;
-    case StoredKind::Date:
-      return values::SqlType::Date;
-    case StoredKind::Raw:
-      return values::SqlType::Raw;
-    case StoredKind::Null:
-      break;
-  }
-  return values::SqlType::Null;
-}
-
 values::Number numberOf(sqlite3_value* stored) {
   switch (sqlite3_value_type(stored)) {
     case SQLITE_INTEGER:

@@ -15,9 +15,6 @@ namespace kestrelix::embedded {
 /// INTEGER, a RAW and any other NUMBER both BLOB.
 enum class StoredKind : char { Null = '0', Number = 'n', Text = 't', Char = 'c', Date = 'd', Raw = 'r' };
 
-/// The type that the function table knows the kind by.
-values::SqlType sqlTypeOf(StoredKind kind);
-
 /// A value that is not NULL. Bytes of text and RAW stay SQLite's.
 values::Value valueOf(sqlite3_value* stored, StoredKind kind);
 /// A NUMBER that is not NULL.

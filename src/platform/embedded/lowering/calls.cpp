@@ -13,6 +13,13 @@ constexpr WholeFunction kWholeFunctions[] = {
     {"LENGTH", 1e10}, {"LENGTHB", 1e10}, {"INSTR", 1e10}, {"INSTRB", 1e10}, {"SIGN", 1}, {"ASCII", 1e10},
 };
 
+Piece text(std::string_view value) {
+  Piece piece;
+  piece.text = textLiteral(value);
+  piece.kind = sql::TypeKind::Char;
+  return piece;
+}
+
 bool isConversionToItself(const sql::Call& call, const Piece& argument) {
   return call.args.size() == 1 && ((call.name == "TO_NUMBER" && argument.kind == sql::TypeKind::Number) ||
                                    (call.name == "TO_CHAR" && sql::Type{argument.kind}.isText()) ||
@@ -28,11 +35,9 @@ Piece lowerCall(Emitter& emitter, const sql::Call& call) {
   std::vector<Piece> arguments;
   for (const sql::Expr* argument : call.args) arguments.push_back(emitter.expression(*argument));
   if (!call.option.empty()) {
-    // TRIM(LEADING x FROM y) and EXTRACT(YEAR FROM d): the word goes in front as a text.
-    Piece option;
-    option.text = textLiteral(call.option);
-    option.kind = sql::TypeKind::Char;
-    arguments.insert(arguments.begin(), option);
+    // TRIM(LEADING x FROM y) and EXTRACT(YEAR FROM d): the word goes behind as a text; without an x it is a blank.
+    if (call.name == "TRIM" && arguments.size() == 1) arguments.push_back(text(" "));
+    arguments.push_back(text(call.option));
   }
   const values::Function* known = values::findFunction(function);
   if (!known || !known->call) throw sql::SqlError::unsupported("the function " + name, call.place);
@@ -41,6 +46,7 @@ Piece lowerCall(Emitter& emitter, const sql::Call& call) {
     return arguments.front();
   }
   Piece piece = emitter.call(function, arguments, call.type, call.place);
+  piece.number.integral = piece.kind == sql::TypeKind::Number && call.type.integral;
   for (const auto& whole : kWholeFunctions)
     if (whole.name == name) piece.number = {true, whole.largest};
   return piece;

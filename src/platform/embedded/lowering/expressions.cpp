@@ -119,13 +119,8 @@ std::string Emitter::condition(const sql::Expr& expr) {
     }
     case ExprKind::Exists:
       return lowerExists(*this, *sql::as<sql::Exists>(&expr));
-    case ExprKind::Call: {
-      const auto& call = *sql::as<sql::Call>(&expr);
-      if (call.name == "LNNVL" && call.args.size() == 1)
-        return "(" + condition(*call.args.front()) + " IS NOT TRUE)";
-      throw sql::SqlError::unsupported("the function " + std::string(call.name) + " as a condition",
-                                       expr.place);
-    }
+    case ExprKind::Lnnvl:
+      return "(" + condition(*sql::as<sql::Lnnvl>(&expr)->operand) + " IS NOT TRUE)";
     default:
       throw sql::SqlError::unsupported("this construct as a condition", expr.place);
   }

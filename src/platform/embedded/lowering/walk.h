@@ -1,4 +1,4 @@
-// Walks over the expressions of a statement.
+// Questions about whole expressions.
 #pragma once
 
 #include <functional>
@@ -8,12 +8,8 @@
 
 namespace kestrelix::embedded {
 
-/// Calls `visit` for the expression and every expression in it, the expressions of subqueries included only
-/// when `intoSubqueries`. From above to below, in the order of the text.
-void walkExpressions(const sql::Expr& expr, const std::function<void(const sql::Expr&)>& visit,
-                     bool intoSubqueries = false);
-/// The same for every expression of a query.
-void walkExpressions(const sql::Query& query, const std::function<void(const sql::Expr&)>& visit);
+/// Calls `visit` for the expression and every expression in it, subqueries apart, from above to below.
+void walkExpressions(const sql::Expr& expr, const std::function<void(const sql::Expr&)>& visit);
 
 /// Whether ROWNUM of the expression's own block stands in it.
 bool namesRownum(const sql::Expr& expr);

@@ -1,7 +1,10 @@
 #include "platform/embedded/writing/cell.h"
 
+#include <algorithm>
 #include <charconv>
 #include <chrono>
+
+#include "oracle_sql/number.h"
 
 namespace kestrelix::embedded {
 
@@ -66,10 +69,15 @@ Cell Cell::decimal(std::int64_t unscaled, int scale) {
 }
 
 Cell Cell::numberFromText(std::string_view text) {
-  std::int64_t whole = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), whole);
-  if (error == std::errc() && end == text.data() + text.size()) return Cell(whole);
-  throw BadValue("not a number");
+  const auto number = oracle_sql::Number::parse(text);
+  if (!number) throw BadValue("not a number");
+  if (const auto whole = number->toInt64()) return Cell(*whole);
+  std::array<std::uint8_t, oracle_sql::Number::kMaxBytes> bytes{};
+  Cell cell;
+  cell.kind_ = Kind::Number;
+  cell.numberSize_ = static_cast<std::uint8_t>(number->toBytes(bytes));
+  std::ranges::transform(bytes, cell.number_.begin(), [](std::uint8_t byte) { return static_cast<char>(byte); });
+  return cell;
 }
 
 Cell Cell::fromText(statspack::Type type, std::string_view text, std::string& scratch) {

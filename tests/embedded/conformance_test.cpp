@@ -1,0 +1,29 @@
+// The embedded back end under the conformance suite.
+#include "conformance/database_conformance.h"
+#include "embedded/test_repository.h"
+#include "platform/embedded/local_session.h"
+
+namespace kestrelix::conformance {
+namespace {
+
+class LocalBackEnd final : public BackEnd {
+ public:
+  void createTables(const std::vector<TestTable>& tables) override {
+    embedded::writeRepository(folder_ / "TEST.sqlite", tables);
+  }
+  Session& session() override { return session_; }
+  std::string databaseName() const override { return "TEST"; }
+  std::string user() const override { return "PERFSTAT"; }
+  std::string password() const override { return "perfstat"; }
+
+ private:
+  embedded::TestFolder folder_;
+  embedded::LocalSession session_{folder_.path()};
+};
+
+std::shared_ptr<BackEnd> localBackEnd() { return std::make_shared<LocalBackEnd>(); }
+
+INSTANTIATE_TEST_SUITE_P(Local, DatabaseConformance, testing::Values(&localBackEnd));
+
+}  // namespace
+}  // namespace kestrelix::conformance

@@ -1,0 +1,132 @@
+#include "platform/embedded/repository_file.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <fstream>
+
+#include "embedded/test_repository.h"
+#include "platform/embedded/local_database.h"
+#include "platform/embedded/local_session.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+using testing::HasSubstr;
+
+std::string refusal(const std::filesystem::path& path) {
+  try {
+    openRepositoryFile(path);
+  } catch (const DatabaseError& error) {
+    return error.what();
+  }
+  return "it was opened";
+}
+
+std::string bytesOf(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void write(const std::filesystem::path& path, const std::string& bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+class RepositoryFile : public testing::Test {
+ protected:
+  RepositoryFile() { writeRepository(file_, {{"stats$snapshot", {{"SNAP_ID", "NUMBER"}}, {{"1"}, {"2"}}}}); }
+  TestFolder folder_;
+  std::filesystem::path file_ = folder_ / "a repository %41.sqlite";
+};
+
+TEST_F(RepositoryFile, missingFileIsRefused) {
+  EXPECT_THAT(refusal(folder_ / "none.sqlite"), HasSubstr("none.sqlite: cannot be opened"));
+}
+
+TEST_F(RepositoryFile, directoryIsRefused) {
+  EXPECT_THAT(refusal(folder_.path()), HasSubstr("is a directory"));
+}
+
+TEST_F(RepositoryFile, deviceIsRefused) { EXPECT_THAT(refusal("/dev/null"), HasSubstr("no plain file")); }
+
+TEST_F(RepositoryFile, emptyFileIsRefused) {
+  write(folder_ / "empty", "");
+  EXPECT_THAT(refusal(folder_ / "empty"), HasSubstr("is empty"));
+}
+
+TEST_F(RepositoryFile, foreignFileIsRefused) {
+  write(folder_ / "foreign", std::string(5000, 'x'));
+  EXPECT_THAT(refusal(folder_ / "foreign"), HasSubstr("is not a repository"));
+}
+
+TEST_F(RepositoryFile, otherDatabaseIsRefused) {
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open((folder_ / "other").c_str(), &other), SQLITE_OK);
+  sqlite3_exec(other, "CREATE TABLE a(b)", nullptr, nullptr, nullptr);
+  sqlite3_close(other);
+  EXPECT_THAT(refusal(folder_ / "other"), HasSubstr("not a repository of this program"));
+}
+
+TEST_F(RepositoryFile, otherLayoutIsRefused) {
+  std::string bytes = bytesOf(file_);
+  bytes[63] = 9;  // the user version stands at offset 60, big-endian
+  write(folder_ / "later", bytes);
+  EXPECT_THAT(refusal(folder_ / "later"), HasSubstr("has the layout 9, and this program reads 1"));
+}
+
+TEST_F(RepositoryFile, cutFileIsRefused) {
+  const std::string bytes = bytesOf(file_);
+  for (const std::size_t length : {std::size_t{1}, std::size_t{50}, std::size_t{4096}, bytes.size() - 1}) {
+    write(folder_ / "cut", bytes.substr(0, length));
+    EXPECT_THAT(refusal(folder_ / "cut"), testing::Not(HasSubstr("it was opened"))) << length;
+  }
+  EXPECT_THAT(refusal(folder_ / "cut"), HasSubstr("is cut off"));
+}
+
+TEST_F(RepositoryFile, fileWithoutReadRightIsRefused) {
+  if (geteuid() == 0) GTEST_SKIP() << "root may read everything";
+  chmod(file_.c_str(), 0);
+  EXPECT_THAT(refusal(file_), HasSubstr("cannot be opened: Permission denied"));
+}
+
+TEST_F(RepositoryFile, damagedPagesAreAnErrorAndNoCrash) {
+  std::string bytes = bytesOf(file_);
+  for (std::size_t i = 4096; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 31);
+  write(folder_ / "damaged", bytes);
+  EXPECT_THAT(refusal(folder_ / "damaged"), HasSubstr("is damaged"));
+}
+
+TEST_F(RepositoryFile, readingLeavesFileAndFolderAsTheyWere) {
+  const std::string before = bytesOf(file_);
+  {
+    LocalDatabase database(file_);
+    EXPECT_EQ(database.run("select count(*) as n from stats$snapshot")->Fields("n").value(), "2");
+  }
+  EXPECT_EQ(bytesOf(file_), before);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 1);
+}
+
+TEST_F(RepositoryFile, accountIsAskedForAsByAServer) {
+  LocalFileSession session(file_);
+  EXPECT_NO_THROW(session.OpenDatabase("ANY", "perfstat/perfstat", 1));
+  EXPECT_NO_THROW(session.OpenDatabase("ANY", "PERFSTAT/perfstat", 1));
+  try {
+    session.OpenDatabase("ANY", "PERFSTAT/PERFSTAT", 1);
+    FAIL() << "a password in other letters was taken";
+  } catch (const DatabaseError& error) {
+    EXPECT_EQ(error.nativeCode(), 1017);
+    EXPECT_STREQ(error.what(), "ORA-01017: invalid username/password; logon denied");
+  }
+}
+
+TEST_F(RepositoryFile, nameWithASlashIsNoDatabase) {
+  LocalSession session(folder_.path() / "below");
+  EXPECT_FALSE(session.has("../a repository %41"));
+  EXPECT_FALSE(session.has(""));
+  EXPECT_THROW(session.OpenDatabase("../a repository %41", "PERFSTAT/perfstat", 1), DatabaseError);
+}
+
+}  // namespace
+}  // namespace kestrelix::embedded

@@ -1,0 +1,16 @@
+// The commands of kestrelix-repository: each takes the words behind its name and gives the exit code.
+#pragma once
+
+#include <span>
+#include <string>
+
+namespace kestrelix {
+
+/// Exit codes of every command.
+inline constexpr int kExitDone = 0;
+inline constexpr int kExitFailed = 1;
+inline constexpr int kExitWrongUsage = 2;
+
+int queryCommand(std::span<const std::string> arguments);
+
+}  // namespace kestrelix

@@ -1,0 +1,143 @@
+// query FILE 'select ...': runs Oracle SQL on a repository file and prints its rows as CSV (RFC 4180).
+#include <iostream>
+#include <optional>
+#include <vector>
+
+#include "commands.h"
+#include "platform/embedded/local_database.h"
+
+namespace kestrelix {
+namespace {
+
+constexpr const char* kUsage =
+    "usage: kestrelix-repository query FILE 'select ...' [--bind NAME=VALUE]... [--explain]\n"
+    "\n"
+    "Runs one Oracle query on a repository file. The first line of the CSV is the column names, a NULL is "
+    "an\n"
+    "empty field.\n"
+    "\n"
+    "  --bind NAME=VALUE    binds :NAME; a value that looks like a number is one, any other is a text\n"
+    "  --bind NAME:s=VALUE  binds the text VALUE, whatever it looks like\n"
+    "  --bind NAME:n=VALUE  binds the number VALUE\n"
+    "                       an empty VALUE binds NULL\n"
+    "  --explain            prints what SQLite is asked to run and runs nothing\n";
+
+struct Request {
+  std::string file;
+  std::string sql;
+  std::vector<std::string> binds;
+  bool explain = false;
+};
+
+bool looksLikeNumber(const std::string& text) {
+  std::size_t i = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
+  bool digit = false;
+  bool point = false;
+  for (; i < text.size(); ++i) {
+    if (text[i] == '.' && !point)
+      point = true;
+    else if (text[i] >= '0' && text[i] <= '9')
+      digit = true;
+    else
+      return false;
+  }
+  return digit;
+}
+
+/// Nothing for wrong usage.
+std::optional<Request> requestOf(std::span<const std::string> arguments) {
+  Request request;
+  int plain = 0;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const auto& word = arguments[i];
+    if (word == "--explain") {
+      request.explain = true;
+    } else if (word == "--bind" && i + 1 < arguments.size()) {
+      request.binds.push_back(arguments[++i]);
+    } else if (word.rfind("--", 0) == 0 || plain == 2) {
+      return std::nullopt;
+    } else {
+      (plain++ == 0 ? request.file : request.sql) = word;
+    }
+  }
+  if (plain != 2) return std::nullopt;
+  return request;
+}
+
+/// False when `text` is no NAME=VALUE.
+bool addBind(Parameters& parameters, const std::string& text) {
+  const auto equals = text.find('=');
+  if (equals == std::string::npos || equals == 0) return false;
+  std::string name = text.substr(0, equals);
+  const std::string value = text.substr(equals + 1);
+  ServerType type = value.empty() || looksLikeNumber(value) ? ServerType::Number : ServerType::String;
+  if (name.size() > 2 && name[name.size() - 2] == ':') {
+    if (name.back() != 's' && name.back() != 'n') return false;
+    type = name.back() == 's' ? ServerType::String : ServerType::Number;
+    name.resize(name.size() - 2);
+  }
+  parameters.Add(name, 0, 1);
+  parameters(name).serverType(type);
+  parameters(name).value(value);
+  return true;
+}
+
+void printField(const std::string& text) {
+  if (text.find_first_of(",\"\r\n") == std::string::npos) {
+    std::cout << text;
+    return;
+  }
+  std::cout << '"';
+  for (const char c : text) {
+    if (c == '"') std::cout << '"';
+    std::cout << c;
+  }
+  std::cout << '"';
+}
+
+void printRows(embedded::ResultRows& rows) {
+  const auto& columns = rows.columns();
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (i > 0) std::cout << ',';
+    printField(columns[i]);
+  }
+  std::cout << "\r\n";
+  for (; !rows.Eof(); rows.MoveNext()) {
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      const auto field = rows.field(i);
+      if (i > 0) std::cout << ',';
+      if (!field.isNull()) printField(field.value());
+    }
+    std::cout << "\r\n";
+  }
+}
+
+}  // namespace
+
+int queryCommand(std::span<const std::string> arguments) {
+  for (const auto& word : arguments)
+    if (word == "--help") {
+      std::cout << kUsage;
+      return kExitDone;
+    }
+  const auto request = requestOf(arguments);
+  if (!request) {
+    std::cerr << kUsage;
+    return kExitWrongUsage;
+  }
+  embedded::LocalDatabase database(request->file);
+  for (const auto& bind : request->binds)
+    if (!addBind(database.parameters(), bind)) {
+      std::cerr << "no bind: " << bind << "\n" << kUsage;
+      return kExitWrongUsage;
+    }
+  if (request->explain) {
+    std::cout << database.loweredText(request->sql) << "\n";
+    return kExitDone;
+  }
+  printRows(*database.run(request->sql));
+  std::cout.flush();
+  return kExitDone;
+}
+
+}  // namespace kestrelix
