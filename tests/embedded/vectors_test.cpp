@@ -8,8 +8,8 @@
 
 #include "embedded/test_repository.h"
 #include "oracle_sql/number.h"
-#include "platform/embedded/names.h"
 #include "platform/embedded/local_database.h"
+#include "platform/embedded/names.h"
 #include "support/json.h"
 
 namespace kestrelix::embedded {

@@ -33,7 +33,9 @@ struct Json {
     std::string_view source;
     std::size_t at = 0;
 
-    [[noreturn]] void fail() const { throw std::runtime_error("JSON: cannot be read at " + std::to_string(at)); }
+    [[noreturn]] void fail() const {
+      throw std::runtime_error("JSON: cannot be read at " + std::to_string(at));
+    }
     char peek() const { return at < source.size() ? source[at] : '\0'; }
     void blanks() {
       while (peek() == ' ' || peek() == '\t' || peek() == '\n' || peek() == '\r') ++at;
@@ -100,7 +102,8 @@ struct Json {
       for (int i = 0; i < 4; ++i) {
         const char c = peek();
         const char* digits = "0123456789abcdef";
-        const auto digit = std::string_view(digits).find(c >= 'A' && c <= 'F' ? static_cast<char>(c + 32) : c);
+        const auto digit =
+            std::string_view(digits).find(c >= 'A' && c <= 'F' ? static_cast<char>(c + 32) : c);
         if (digit == std::string_view::npos || c == '\0') fail();
         code = code * 16 + static_cast<unsigned>(digit);
         ++at;
@@ -140,7 +143,8 @@ struct Json {
         c = source[at++];
         if (c == 'u') {
           unsigned code = hex();
-          if (code >= 0xD800 && code < 0xDC00 && word("\\u")) code = 0x10000 + ((code - 0xD800) << 10) + hex() - 0xDC00;
+          if (code >= 0xD800 && code < 0xDC00 && word("\\u"))
+            code = 0x10000 + ((code - 0xD800) << 10) + hex() - 0xDC00;
           append(text, code);
         } else {
           const std::string_view from = "bfnrt";

@@ -92,7 +92,10 @@ ConnectionHandle openRepositoryFile(const std::filesystem::path& path) {
     step(prepare(raw, "PRAGMA query_only = 1").get());
     step(prepare(raw, "PRAGMA cache_size = -65536").get());
     step(prepare(raw, "PRAGMA temp_store = 2").get());
-    step(prepare(raw, "SELECT (SELECT max(position) FROM \"kestrelix$column\"), (SELECT max(value) FROM \"kestrelix$setting\")").get());
+    step(prepare(raw,
+                 "SELECT (SELECT max(position) FROM \"kestrelix$column\"), (SELECT max(value) FROM "
+                 "\"kestrelix$setting\")")
+             .get());
   } catch (const DatabaseError& error) {
     refuse(path, std::string("is damaged: ") + error.what());
   }

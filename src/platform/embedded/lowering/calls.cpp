@@ -35,7 +35,8 @@ Piece lowerCall(Emitter& emitter, const sql::Call& call) {
   std::vector<Piece> arguments;
   for (const sql::Expr* argument : call.args) arguments.push_back(emitter.expression(*argument));
   if (!call.option.empty()) {
-    // TRIM(LEADING x FROM y) and EXTRACT(YEAR FROM d): the word goes behind as a text; without an x it is a blank.
+    // TRIM(LEADING x FROM y) and EXTRACT(YEAR FROM d): the word goes behind as a text; without an x it is a
+    // blank.
     if (call.name == "TRIM" && arguments.size() == 1) arguments.push_back(text(" "));
     arguments.push_back(text(call.option));
   }
