@@ -15,6 +15,7 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
+    {"demo", "make a repository to try the program on", kestrelix::demoCommand},
     {"query", "run an Oracle query on a repository file and print CSV", kestrelix::queryCommand},
 };
 

@@ -3,12 +3,15 @@
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <optional>
 
 #include "oracle_sql/number.h"
 
 namespace kestrelix::embedded {
 
 namespace {
+
+using oracle_sql::Number;
 
 int hexDigit(char c) {
   if (c >= '0' && c <= '9') return c - '0';
@@ -63,20 +66,27 @@ Cell Cell::raw(std::string_view bytes) {
 }
 
 Cell Cell::decimal(std::int64_t unscaled, int scale) {
-  std::string text = std::to_string(unscaled);
   if (scale == 0) return Cell(unscaled);
-  return numberFromText(text + "E-" + std::to_string(scale));
+  return numberFromText(std::to_string(unscaled) + "E-" + std::to_string(scale));
 }
 
 Cell Cell::numberFromText(std::string_view text) {
-  const auto number = oracle_sql::Number::parse(text);
+  std::int64_t whole = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), whole);
+  if (error == std::errc() && end == text.data() + text.size()) return Cell(whole);
+  std::optional<Number> number;
+  try {
+    number = Number::parse(text);
+  } catch (const std::exception&) {
+    throw BadValue("a number too large for a NUMBER");
+  }
   if (!number) throw BadValue("not a number");
-  if (const auto whole = number->toInt64()) return Cell(*whole);
-  std::array<std::uint8_t, oracle_sql::Number::kMaxBytes> bytes{};
+  if (const auto fits = number->toInt64()) return Cell(*fits);
   Cell cell;
   cell.kind_ = Kind::Number;
+  std::array<std::uint8_t, Number::kMaxBytes> bytes{};
   cell.numberSize_ = static_cast<std::uint8_t>(number->toBytes(bytes));
-  std::ranges::transform(bytes, cell.number_.begin(), [](std::uint8_t byte) { return static_cast<char>(byte); });
+  std::copy_n(bytes.begin(), cell.numberSize_, cell.number_.begin());
   return cell;
 }
 

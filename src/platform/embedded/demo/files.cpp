@@ -1,0 +1,142 @@
+// I/O of data files and temporary files.
+#include "platform/embedded/demo/histogram.h"
+#include "platform/embedded/demo/storage.h"
+#include "platform/embedded/demo/topic.h"
+
+namespace kestrelix::embedded::demo {
+
+namespace {
+
+struct File {
+  std::string tablespace;
+  std::string name;
+  int number = 0;
+  bool temporary = false;
+  int readShare = 0;  // thousandths, of its kind of file
+  int writeShare = 0;
+  std::int64_t reads = 0, writes = 0, singleReads = 0, readBlocks = 0, writeBlocks = 0;
+  std::int64_t readMicros = 0, writeMicros = 0, singleMicros = 0, waits = 0, waitMicros = 0;
+  Histogram histogram{};
+};
+
+class Files : public Topic {
+ public:
+  explicit Files(const Setting& setting)
+      : database_(setting.database()),
+        random_(setting.random),
+        data_(setting.tables.perSnapshot(database_, "stats$filestatxs", kColumns)),
+        temporary_(setting.tables.perSnapshot(database_, "stats$tempstatxs", kColumns)),
+        dataHistogram_(setting.tables.perSnapshot(database_, "stats$file_histogram", kBuckets)),
+        temporaryHistogram_(setting.tables.perSnapshot(database_, "stats$temp_histogram", kBuckets)) {
+    int number = 0;
+    for (const Tablespace& space : tablespacesOf(setting.instance)) {
+      for (int i = 1; i <= space.files; ++i) {
+        // The first file of a tablespace is the fullest.
+        const auto share = [&](int whole) {
+          const int rest = whole / (space.files + 1);
+          return i == 1 ? whole - rest * (space.files - 1) : rest;
+        };
+        add(space.name, i, ++number, false, share(space.readShare), share(space.writeShare));
+      }
+    }
+    add("TEMP", 1, 1, true, 600, 600);
+    add("TEMP", 2, 2, true, 400, 400);
+  }
+
+  void restart() override {
+    for (File& file : files_) {
+      file.reads = file.writes = file.singleReads = file.readBlocks = file.writeBlocks = 0;
+      file.readMicros = file.writeMicros = file.singleMicros = file.waits = file.waitMicros = 0;
+      file.histogram = {};
+    }
+  }
+
+  void advance(const Work& w) override {
+    give(w.singleReads + w.multiRequests + w.directRequests, false, &File::reads, &File::readShare);
+    give(w.singleReads + w.multiReads + w.directReads, false, &File::readBlocks, &File::readShare);
+    give(w.singleRead.micros + w.multiRead.micros + w.directRead.micros, false, &File::readMicros,
+         &File::readShare);
+    give(w.writeRequests + w.directWriteRequests, false, &File::writes, &File::writeShare);
+    give(w.writes + w.directWrites, false, &File::writeBlocks, &File::writeShare);
+    give(w.writeRequests * 1900 + w.directWrite.micros, false, &File::writeMicros, &File::writeShare);
+    give(w.bufferBusy.waits + w.otherRead.waits, false, &File::waits, &File::readShare);
+    give(w.bufferBusy.micros + w.otherRead.micros, false, &File::waitMicros, &File::readShare);
+    give(w.tempReadRequests, true, &File::reads, &File::readShare);
+    give(w.tempReads, true, &File::readBlocks, &File::readShare);
+    give(w.tempRead.micros, true, &File::readMicros, &File::readShare);
+    give(w.tempWriteRequests, true, &File::writes, &File::writeShare);
+    give(w.tempWrites, true, &File::writeBlocks, &File::writeShare);
+    give(w.tempWrite.micros, true, &File::writeMicros, &File::writeShare);
+    for (File& file : files_) addSingleReads(file, w);
+  }
+
+  void write(const Snapshot& snapshot) override {
+    for (const File& file : files_) {
+      Rows& rows = file.temporary ? temporary_ : data_;
+      rows.at(snapshot, file.tablespace, file.name, file.reads, file.writes, file.singleReads,
+              file.readMicros / 10000, file.writeMicros / 10000, file.singleMicros / 10000, file.readBlocks,
+              file.writeBlocks, file.waits, file.waitMicros / 10000, file.number);
+      Rows& histogram = file.temporary ? temporaryHistogram_ : dataHistogram_;
+      for (std::size_t i = 0; i < file.histogram.size(); ++i)
+        if (file.histogram[i] > 0) histogram.at(snapshot, file.number, bucketMillis(i), file.histogram[i]);
+    }
+  }
+
+ private:
+  static constexpr const char* kColumns =
+      "tsname filename phyrds phywrts singleblkrds readtim writetim singleblkrdtim phyblkrd phyblkwrt "
+      "wait_count time file#";
+  static constexpr const char* kBuckets = "file# singleblkrdtim_milli singleblkrds";
+
+  void add(const std::string& tablespace, int part, int number, bool temporary, int reads, int writes) {
+    std::string name;
+    for (const char c : tablespace) name += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    const std::string two = (part < 10 ? "0" : "") + std::to_string(part);
+    File file;
+    file.tablespace = tablespace;
+    file.name = database_.has(10) ? "+DATA/" + database_.name + (temporary ? "/tempfile/" : "/datafile/") +
+                                        name + "_" + two + ".dbf"
+                                  : "/u02/oradata/" + database_.name + "/" + name + two + ".dbf";
+    file.number = number;
+    file.temporary = temporary;
+    file.readShare = reads;
+    file.writeShare = writes;
+    files_.push_back(std::move(file));
+  }
+
+  // Deals `whole` out by the shares; what rounding leaves goes to the largest data file.
+  void give(std::int64_t whole, bool temporary, std::int64_t File::*counter, int File::*share) {
+    std::int64_t left = whole;
+    File* largest = nullptr;
+    for (File& file : files_) {
+      if (file.temporary != temporary) continue;
+      if (largest == nullptr || file.*share > largest->*share) largest = &file;
+      const std::int64_t part = scaled(whole, file.*share, 1000);
+      file.*counter += part;
+      left -= part;
+    }
+    largest->*counter += left;
+  }
+
+  void addSingleReads(File& file, const Work& w) {
+    const Waited& kind = file.temporary ? w.tempRead : w.singleRead;
+    const std::int64_t count = file.temporary ? scaled(w.tempReadRequests, file.readShare, 4000)
+                                              : scaled(w.singleReads, file.readShare, 1000);
+    if (count == 0) return;
+    const std::int64_t micros = count * (kind.micros / std::max<std::int64_t>(1, kind.waits));
+    file.singleReads += count;
+    file.singleMicros += micros;
+    addSpread(file.histogram, count, micros, random_);
+  }
+
+  const Database& database_;
+  Random random_;
+  Rows data_, temporary_, dataHistogram_, temporaryHistogram_;
+  std::vector<File> files_;
+};
+
+}  // namespace
+
+TopicPtr makeFiles(const Setting& setting) { return std::make_unique<Files>(setting); }
+
+}  // namespace kestrelix::embedded::demo

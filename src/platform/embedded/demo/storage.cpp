@@ -1,0 +1,33 @@
+#include "platform/embedded/demo/storage.h"
+
+namespace kestrelix::embedded::demo {
+
+std::vector<Tablespace> tablespacesOf(const Instance& instance) {
+  const Database& database = *instance.database;
+  const std::string& owner = database.owner;
+  std::vector<Tablespace> list;
+  list.push_back({"SYSTEM", 0, 1, 18, 12});
+  for (int number = 1; number <= database.instances; ++number) {
+    const bool own = number == instance.number;
+    list.push_back(
+        {"UNDOTBS" + std::to_string(number), number == 1 ? 1 : 4, 2, own ? 24 : 3, own ? 190 : 0, number});
+  }
+  if (database.has(10)) list.push_back({"SYSAUX", 2, 1, 9, 11});
+  list.push_back({"USERS", 5, 1, 3, 2});
+  list.push_back({owner + "_DATA", kDataTablespace, 5, 640, 430});
+  list.push_back({owner + "_IDX", kIndexTablespace, 3, 250, 310});
+  list.push_back({owner + "_LOB", 8, 1, 38, 26});
+  list.push_back({"PERFSTAT", 9, 1, 0, 0});
+  // What is left of the thousand is the repository's own.
+  int reads = 1000;
+  int writes = 1000;
+  for (const Tablespace& space : list) {
+    reads -= space.readShare;
+    writes -= space.writeShare;
+  }
+  list.back().readShare = reads;
+  list.back().writeShare = writes;
+  return list;
+}
+
+}  // namespace kestrelix::embedded::demo

@@ -1,0 +1,28 @@
+// Where the demo's databases keep their data.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/embedded/demo/scene.h"
+
+namespace kestrelix::embedded::demo {
+
+struct Tablespace {
+  std::string name;
+  int number = 0;
+  int files = 1;
+  int readShare = 0;   // thousandths of the instance's reads
+  int writeShare = 0;  // thousandths of its writes
+  int undoOf = 0;      // the instance whose undo it holds
+};
+
+/// In the order of their numbers, without the temporary one; the shares of an instance's tablespaces add up
+/// to 1000.
+std::vector<Tablespace> tablespacesOf(const Instance& instance);
+
+inline constexpr int kTemporaryTablespace = 3;
+inline constexpr int kDataTablespace = 6;
+inline constexpr int kIndexTablespace = 7;
+
+}  // namespace kestrelix::embedded::demo
