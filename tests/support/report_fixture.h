@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "navigation/ModuleLoadCommon.h"
-#include "platform/embedded/local_database.h"
+#include "platform/embedded/local_session.h"
 #include "report/ModuleDispCommon.h"
 #include "sections/SectionList.h"
 #include "support/fixture_repository.h"

@@ -7,7 +7,7 @@
 #include "navigation/ModuleRangeCommon.h"
 #include "navigation/version_gate.h"
 #include "platform/ascii.h"
-#include "platform/embedded/local_database.h"
+#include "platform/embedded/local_session.h"
 #include "platform/guarded.h"
 #include "report/ModuleDispCommon.h"
 #include "sections/SectionList.h"
