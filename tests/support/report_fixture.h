@@ -35,7 +35,7 @@ inline std::string printed(const Grid& grid) {
 class ReportFixture {
  public:
   explicit ReportFixture(const std::string& path) : workspace_(boxes_) {
-    workspace_.gOraSession = std::make_unique<embedded::LocalFileSession>(path);
+    workspace_.gOraSession = embedded::localSession(path);
     workspace_.gOraDatabase =
         workspace_.gOraSession->OpenDatabase("FIXTURE", "PERFSTAT/perfstat", kDatabaseOptions);
     addButtons();
