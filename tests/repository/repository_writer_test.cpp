@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "platform/embedded/writing/password_hash.h"
+#include "repository/sqlite_reading.h"
 #include "support/fixture_repository.h"
 
 namespace kestrelix::embedded {
@@ -15,25 +16,6 @@ namespace {
 
 using statspack::Type;
 using testing_support::FixtureRepository;
-
-/// First column of every row of a SQLite query, as text.
-std::vector<std::string> ask(const std::filesystem::path& path, const std::string& sql) {
-  sqlite3* connection = nullptr;
-  sqlite3_stmt* statement = nullptr;
-  sqlite3_open_v2(path.c_str(), &connection, SQLITE_OPEN_READONLY, nullptr);
-  std::vector<std::string> result;
-  if (sqlite3_prepare_v2(connection, sql.c_str(), -1, &statement, nullptr) != SQLITE_OK)
-    result.emplace_back(sqlite3_errmsg(connection));
-  while (statement != nullptr && sqlite3_step(statement) == SQLITE_ROW) {
-    const unsigned char* text = sqlite3_column_text(statement, 0);
-    result.emplace_back(text == nullptr ? "(null)" : reinterpret_cast<const char*>(text));
-  }
-  sqlite3_finalize(statement);
-  sqlite3_close(connection);
-  return result;
-}
-
-using Texts = std::vector<std::string>;
 
 class RepositoryWriterTest : public ::testing::Test {
  protected:
@@ -94,17 +76,18 @@ TEST_F(RepositoryWriterTest, namesAreInLowerCaseAndValuesInTheirForm) {
   table.insert(std::array<Cell, 4>{7, "x", 0, Cell::raw("\x01\x02")});
   table.insert(std::array<Cell, 1>{8});
   writer.finish();
-  EXPECT_EQ(ask(path_, R"(select typeof("n#")||typeof(s)||typeof(d)||typeof(r) from "stats$t")"),
+  EXPECT_EQ(readTexts(path_, R"(select typeof("n#")||typeof(s)||typeof(d)||typeof(r) from "stats$t")"),
             (Texts{"integertextintegerblob", "integernullnullnull"}));
-  EXPECT_EQ(ask(path_, R"(select position||column_name||oracle_type||integral from "kestrelix$column")"),
-            (Texts{"1n#NUMBER1", "2sVARCHAR20", "3dDATE0", "4rRAW0"}));
+  EXPECT_EQ(
+      readTexts(path_, R"(select position||column_name||oracle_type||integral from "kestrelix$column")"),
+      (Texts{"1n#NUMBER1", "2sVARCHAR20", "3dDATE0", "4rRAW0"}));
 }
 
 TEST_F(RepositoryWriterTest, theAccountIsKeptWithASaltedHash) {
   RepositoryWriter writer(path_, {"scott", "tiger", {}}, "a test");
   writer.finish();
   const auto setting = [&](const std::string& name) {
-    return ask(path_, "select value from \"kestrelix$setting\" where name = '" + name + "'").at(0);
+    return readTexts(path_, "select value from \"kestrelix$setting\" where name = '" + name + "'").at(0);
   };
   EXPECT_EQ(setting("user_name"), "SCOTT");
   EXPECT_EQ(setting("created_by"), "a test");
@@ -142,11 +125,12 @@ TEST(Fixture, aSnapshotIsFoundByTheIndexOfItsKey) {
   fixture.without("stats$thread");
   const auto path = fixture.write();
   EXPECT_EQ(
-      ask(path, R"(select dbid||instance_number||snap_id||snap_time||snap_level from "stats$snapshot")"),
+      readTexts(path,
+                R"(select dbid||instance_number||snap_id||snap_time||snap_level from "stats$snapshot")"),
       (Texts{"12536007", "12672007"}));
-  EXPECT_EQ(ask(path, R"(select name||value from "stats$sysstat")"), (Texts{"redo size100"}));
-  EXPECT_EQ(ask(path, R"(select 1 from "stats$thread")"), (Texts{"no such table: stats$thread"}));
-  EXPECT_EQ(ask(path, "select 1 from pragma_table_list where name = 'stats$osstat'"), (Texts{"1"}));
+  EXPECT_EQ(readTexts(path, R"(select name||value from "stats$sysstat")"), (Texts{"redo size100"}));
+  EXPECT_EQ(readTexts(path, R"(select 1 from "stats$thread")"), (Texts{"no such table: stats$thread"}));
+  EXPECT_EQ(readTexts(path, "select 1 from pragma_table_list where name = 'stats$osstat'"), (Texts{"1"}));
 }
 
 // Every table of every release that has the three columns is searched and not scanned by them.

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "commands.h"
+#include "interrupt.h"
 #include "progress.h"
 
 namespace kestrelix {
@@ -74,7 +75,11 @@ int demoCommand(std::span<const std::string> arguments) {
     return kExitFailed;
   }
   ProgressBar bar("snapshots");
-  embedded::demo::makeDemo(file, options, [&](std::int64_t done, std::int64_t all) { bar.show(done, all); });
+  watchInterrupts();
+  embedded::demo::makeDemo(file, options, [&](std::int64_t done, std::int64_t all) {
+    checkInterrupts();
+    bar.show(done, all);
+  });
   return kExitDone;
 }
 

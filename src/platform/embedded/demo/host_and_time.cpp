@@ -13,7 +13,7 @@ struct TimeStatistic {
 };
 
 std::int64_t backgroundElapsed(const Work& w) {
-  return w.backgroundCpu + w.commit.micros * 7 / 10 + w.writeRequests * 900 + w.seconds * 4000;
+  return w.backgroundCpu + w.logWrite.micros + w.writeRequests * 900 + w.seconds * 4000;
 }
 
 constexpr auto kTimeModel = std::to_array<TimeStatistic>({
@@ -215,7 +215,7 @@ class HostAndTime : public Topic {
       writes(0, w.seconds / 2, w.seconds * 8, w.seconds * 2, w.seconds * 2048);
     }
     writes(1, w.writeRequests, w.writes * block, 0, 0);
-    reads(2, w.seconds / 10, w.seconds / 10 * 16, 0, 0, w.redoWrites, w.commit.micros * 7 / 10);
+    reads(2, w.seconds / 10, w.seconds / 10 * 16, 0, 0, w.redoWrites, w.logWrite.micros);
     writes(2, w.redoWrites, w.redoBytes / kKb, w.redoBytes / 209715200, w.redoBytes / kKb / 50);
     reads(3, w.seconds / 60, w.seconds / 4, w.redoBytes / 1048576, w.redoBytes / kKb, w.redoBytes / 1048576,
           w.redoBytes / 200);

@@ -171,7 +171,7 @@ constexpr auto kStatistics = std::to_array<Statistic>({
     {"redo synch time", [](const Work& w) { return w.commit.micros / 10000; }},
     {"redo synch writes", [](const Work& w) { return w.commit.waits; }},
     {"redo wastage", [](const Work& w) { return w.redoWrites * 248; }},
-    {"redo write time", [](const Work& w) { return w.commit.micros * 7 / 100000; }},
+    {"redo write time", [](const Work& w) { return w.logWrite.micros / 10000; }},
     {"redo writes", [](const Work& w) { return w.redoWrites; }},
     {"rollback changes - undo records applied", [](const Work& w) { return w.rollbacks * 5; }},
     {"rollbacks only - consistent read gets", [](const Work& w) { return w.changes / 800; }},

@@ -62,7 +62,7 @@ constexpr auto kEvents = std::to_array<Event>({
     {"gc buffer busy acquire", Foreground, [](const Work& w) { return part(w.globalBusy, 75); }, 0, 11},
     {"gc buffer busy release", Foreground, [](const Work& w) { return part(w.globalBusy, 25); }, 0, 11},
     // The background's.
-    {"log file parallel write", Background, [](const Work& w) { return Waited{w.redoWrites, w.commit.micros * 7 / 10}; }},
+    {"log file parallel write", Background, [](const Work& w) { return w.logWrite; }},
     {"db file parallel write", Background, [](const Work& w) { return each(w.writeRequests / 3 + 1, 1900); }},
     {"control file parallel write", Background, [](const Work& w) { return each(w.seconds / 3 + 1, 2300); }},
     {"control file sequential read", Background, [](const Work& w) { return each(w.seconds * 2, 310); }},

@@ -64,7 +64,7 @@ StatementWork Workload::run(const Statement& statement, std::int64_t thousandths
   StatementWork work;
   // Half of the processors at full pace, so that the peak leaves air and a bad hour does not.
   const std::int64_t budget = scaled(database_.cpus * kHour * 500000, statement.share, 1000);
-  const std::int64_t cpuEach = 220 + statement.gets * 7LL + statement.rows * 2LL + statement.changes * 9LL;
+  const std::int64_t cpuEach = 560 + statement.gets * 7LL + statement.rows * 2LL + statement.changes * 9LL;
   const std::int64_t wanted = scaled(budget, random_.around(thousandthsOfHours, 60), 1000);
   work.executions = wanted / cpuEach;
   // A statement that takes longer than its share runs in some hours and not in others.
@@ -183,8 +183,10 @@ void Workload::addIo(Work& work) {
   work.undoBlocks = work.changes / 26 + work.seconds / 60;
   work.redoEntries = scaled(work.changes, 54, 100) + work.commits;
   work.redoBytes = work.redoEntries * random_.between(268, 282) + work.commits * 180;
+  // One writer serves many commits at once, the more the busier it is.
+  const std::int64_t commitsPerSecond = work.commits / std::max<std::int64_t>(1, work.seconds);
   work.redoWrites =
-      std::min(work.commits, work.commits * 7 / 10 + work.seconds / 3) + work.redoBytes / 4000000;
+      work.commits * 400 / (400 + commitsPerSecond) + work.redoBytes / 4000000 + work.seconds / 3;
   work.redoSpaceRequests = work.redoBytes / 900000000;
 
   work.writes = work.changes / 11 + work.seconds / 2;
@@ -207,7 +209,8 @@ void Workload::addWaits(Work& work) {
   work.directWrite = waited(work.directWriteRequests / 2, disk(70));
   work.otherRead = waited(work.bad ? work.multiRequests / 6 : work.multiRequests / 260, disk(110));
 
-  work.commit = waited(work.commits * 97 / 100, random_.around(1400 + slow * 2, 60));
+  work.commit = waited(work.commits * 97 / 100, random_.around(700 + slow * 6 / 10, 60));
+  work.logWrite = waited(work.redoWrites, random_.around(380 + slow * 3 / 10, 60));
   const std::int64_t pressure = work.load + (work.bad ? 900 : 0);
   work.rowLock = waited(work.commits * pressure / 14000000 + random_.between(0, 2),
                         random_.between(160000, 420000) + (work.bad ? 900000 : 0));
