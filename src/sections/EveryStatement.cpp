@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "sections/SectionList.h"
+#include "sections/sql/clsSQLPlan.h"
+#include "sections/sql/clsSQLText.h"
 
 namespace kestrelix {
 namespace {
@@ -55,6 +57,9 @@ std::vector<SentStatement> everyStatement() {
     else
       same->listed |= entry.versions;
   }
+  // The panels behind the SQL rankings are no Sections of their own.
+  classes.push_back({make<clsSQLText>(), kAllVersions});
+  classes.push_back({make<clsSQLPlan>(), kAllVersions});
   std::vector<SentStatement> sent;
   for (const Class& known : classes) append(sent, *known.object, known.listed);
   return sent;

@@ -8,25 +8,23 @@
 #include "sections/SectionList.h"
 #include "sections/sql/sqlRankings.h"
 #include "support/recording_boxes.h"
-#include "support/scripted_database.h"
+#include "support/snapshots.h"
 
 namespace kestrelix {
 namespace {
 
-using testing_support::RecordingBoxes;
-using testing_support::ScriptedDatabase;
+using namespace testing_support;
 
 class SqlRankingColumns : public testing::Test {
  protected:
   void SetUp() override {
     for (const char* key : {"GRID", "SQL", "PLAN"}) workspace.controls.ToolbarTop.Add(key, key, "");
-    auto scripted = std::make_unique<ScriptedDatabase>(
-        std::vector<ScriptedDatabase::Snapshot>{{"41", "2026-01-05 10:00:00", "2026-01-01 00:00:00"},
-                                                {"42", "2026-01-05 11:00:00", "2026-01-01 00:00:00"},
-                                                {"43", "2026-01-05 12:00:00", "2026-01-05 11:30:00"}});
-    database = scripted.get();
-    workspace.gOraDatabase = std::move(scripted);
-    ASSERT_TRUE(gDispSnapId_Load(workspace, "1", "1", false));
+    laySnapshots(server, {{"41", "2026-01-05 10:00:00", "7", "2026-01-01 00:00:00"},
+                          {"42", "2026-01-05 11:00:00", "7", "2026-01-01 00:00:00"},
+                          {"43", "2026-01-05 12:00:00", "7", "2026-01-05 11:30:00"}});
+    server.answer("stats$sql_summary");  // no rows
+    workspace.gOraDatabase = std::make_unique<FakeDatabase>(server);
+    ASSERT_TRUE(gDispSnapId_Load(workspace, "1001", "1", false));
   }
 
   void all(const std::string& section, const std::string& version, int pair = 0) {
@@ -36,7 +34,7 @@ class SqlRankingColumns : public testing::Test {
       if (list.List(i) == section) list.ListIndex(i);
     ASSERT_EQ(list.Text(), section);
     workspace.controls.ListSnapId.ListIndex(pair);
-    database->sent.clear();
+    server.asked.clear();
     gDispSectionAll(workspace, sectionList(), version);
   }
   /// The Col view of a row with that hash in the key cell.
@@ -44,7 +42,7 @@ class SqlRankingColumns : public testing::Test {
     grid().Rows(2);
     grid().TextMatrix(1, 1, hash);
     grid().Row(1);
-    database->sent.clear();
+    server.asked.clear();
     gDispSectionCol(workspace, sectionList(), version);
   }
   Grid& grid() { return workspace.controls.MSFlexGridMain; }
@@ -54,9 +52,9 @@ class SqlRankingColumns : public testing::Test {
     return line;
   }
 
+  FakeServer server;
   RecordingBoxes boxes;
   Workspace workspace{boxes};
-  ScriptedDatabase* database = nullptr;
 };
 
 TEST_F(SqlRankingColumns, theCountsOfColumnsByVersionAndView) {
@@ -224,39 +222,34 @@ TEST_F(SqlRankingColumns, aPairAcrossARestartShowsHeadingsAndAsksNothing) {
   all("SQL ordered by Executions", "11", 1);
   EXPECT_EQ(grid().Rows(), 1);
   EXPECT_EQ(grid().Cols(), 26);
-  EXPECT_TRUE(database->sent.empty());
+  EXPECT_TRUE(server.asked.empty());
 }
 
 TEST_F(SqlRankingColumns, theListAsksForOnePercentAnd65RowsAndTheColViewForTheHash) {
-  using Binds = std::vector<std::pair<std::string, std::string>>;
+  const auto sent = [this] {
+    std::string line;
+    for (const auto& [name, bind] : server.asked.at(0).binds) {
+      EXPECT_EQ(bind.first, ServerType::Number) << name;
+      line += name + "=" + bind.second + " ";
+    }
+    return line;
+  };
   all("SQL ordered by CPU TOTAL", "11");
-  ASSERT_EQ(database->sent.size(), 1u);
-  EXPECT_EQ(database->sent[0].binds, (Binds{{"B1", "1"},
-                                            {"B2", "1"},
-                                            {"B3", "41"},
-                                            {"B4", "42"},
-                                            {"B5", "0"},
-                                            {"PAR", "1"},
-                                            {"TOP_NUM", "65"}}));
+  ASSERT_EQ(server.asked.size(), 1u);
+  EXPECT_EQ(sent(), "B1=1001 B2=1 B3=41 B4=42 B5=0 PAR=1 TOP_NUM=65 ");
   EXPECT_EQ(workspace.gOraDatabase->parameters().count(), 0u);
   col("11", "815");
-  ASSERT_EQ(database->sent.size(), 1u);  // the second pair goes across a restart
-  EXPECT_EQ(database->sent[0].binds, (Binds{{"B1", "1"},
-                                            {"B2", "1"},
-                                            {"B3", "41"},
-                                            {"B4", "42"},
-                                            {"B5", "815"},
-                                            {"PAR", "0"},
-                                            {"TOP_NUM", "0"}}));
+  ASSERT_EQ(server.asked.size(), 1u);  // the second pair goes across a restart
+  EXPECT_EQ(sent(), "B1=1001 B2=1 B3=41 B4=42 B5=815 PAR=0 TOP_NUM=0 ");
 }
 
 TEST_F(SqlRankingColumns, totalAndExecSendTheirOwnStatement) {
   for (const std::string version : {"10", "11"})
     for (const std::string name : {"CPU", "Elapsed", "Gets", "Reads", "I/O Wait", "Cluster"}) {
       all("SQL ordered by " + name + " TOTAL", version);
-      const std::string total = database->sent.at(0).sql;
+      const std::string total = server.asked.at(0).statement;
       all("SQL ordered by " + name + " EXEC", version);
-      EXPECT_NE(database->sent.at(0).sql, total) << name;
+      EXPECT_NE(server.asked.at(0).statement, total) << name;
     }
 }
 
@@ -273,14 +266,15 @@ TEST(SqlRankings, thereAre26StatementsForOracle11And10And14ForOracle9) {
 }
 
 TEST(SqlRankings, aMemberThatVersion9LacksDoesNothingAndSucceeds) {
+  FakeServer server;  // fails for any statement
   RecordingBoxes boxes;
-  ScriptedDatabase database({});
+  FakeDatabase database(server);
   clsSnapId pairs;
   clsSQLorderedby object;
   object.Initialize(database, pairs, boxes, "9");
   EXPECT_TRUE(object.get("getSQL_ORDERED_BY_CPU_TOTAL", 0));
   EXPECT_EQ(object.rownum(), 0);
-  EXPECT_TRUE(database.sent.empty());
+  EXPECT_TRUE(server.asked.empty());
 }
 
 }  // namespace

@@ -73,7 +73,7 @@ class FakeDatabase : public Database {
 
   std::unique_ptr<Dynaset> DbCreateDynaset(const std::string& sql, long) override {
     FakeServer::Asked asked{sql, {}};
-    for (const char* name : {"B1", "B2", "B3", "B4"})
+    for (const char* name : {"B1", "B2", "B3", "B4", "B5", "PAR", "TOP_NUM"})
       if (const Parameter* bind = parameters().find(name))
         asked.binds[name] = {bind->serverType(), bind->value()};
     server_.asked.push_back(asked);

@@ -48,6 +48,20 @@ void section(const Options& options, StderrBoxes& boxes) {
   if (!boxes.critical()) print(std::cout, cells(run.workspace().controls.MSFlexGridMain), options.csv);
 }
 
+void sql(const Options& options, StderrBoxes& boxes) {
+  ReportRun run(boxes, options);
+  run.showAll();
+  if (!boxes.critical()) run.showSqlText();
+  if (!boxes.critical()) print(std::cout, cells(run.workspace().controls.MSFlexGridSql), options.csv);
+}
+
+void plan(const Options& options, StderrBoxes& boxes) {
+  ReportRun run(boxes, options);
+  run.showAll();
+  if (!boxes.critical()) run.showSqlPlan();
+  if (!boxes.critical()) print(std::cout, cells(run.workspace().controls.MSFlexGridPlan), options.csv);
+}
+
 /// What the program can send, for whoever has to know what a tool runs on a server.
 void statements(const Options& options, StderrBoxes&) {
   const Versions wanted = options.version.empty() ? kAllVersions : versionOf(options.version);
@@ -65,11 +79,10 @@ void statements(const Options& options, StderrBoxes&) {
 }
 
 using Command = void (*)(const Options&, StderrBoxes&);
-const std::map<std::string, Command> kCommands{{"instances", instances},
-                                               {"pairs", pairs},
-                                               {"sections", sections},
-                                               {"section", section},
-                                               {"statements", statements}};
+const std::map<std::string, Command> kCommands{
+    {"instances", instances},  {"pairs", pairs}, {"sections", sections},
+    {"section", section},      {"sql", sql},     {"plan", plan},
+    {"statements", statements}};
 
 }  // namespace
 

@@ -25,6 +25,11 @@ commands
                           the All view of a Section for a pair; with --row the
                           series that row R of that view leads to, over all pairs
                           or over those from P1 to P2
+  sql NAME --instance I --pair P --row R [--shaped]
+                          the stored text of the SQL in row R of an SQL ranking,
+                          by its pieces or, shaped, by the statement's own lines
+  plan NAME --instance I --pair P --row R
+                          the execution plans that it used in the pair
   statements [--version V]
                           every statement that the program can send, for all
                           versions or for 9, 10 or 11; needs no repository

@@ -11,6 +11,8 @@
 #include "platform/guarded.h"
 #include "report/ModuleDispCommon.h"
 #include "sections/SectionList.h"
+#include "sections/sql/ModuleDispSQLPanels.h"
+#include "sections/sql/ModuleDispSQLShaping.h"
 
 namespace kestrelix::report_tool {
 namespace {
@@ -123,14 +125,38 @@ void ReportRun::showAll() {
   gDispSectionAll(workspace_, sectionList(), version_);
 }
 
-void ReportRun::showCol() {
+void ReportRun::selectRow() {
   Grid& grid = workspace_.controls.MSFlexGridMain;
-  const int row = *options_.row;
+  const int row = needed(options_.row, "--row");
   if (row < 1 || row >= grid.Rows())
     throw UsageError("the view has no row " + std::to_string(row) + ", they go from 1 to " +
                      std::to_string(grid.Rows() - 1));
   grid.Row(row);
+}
+
+void ReportRun::showCol() {
+  selectRow();
   gDispSectionCol(workspace_, sectionList(), version_);
+}
+
+void ReportRun::selectSqlRow() {
+  if (!workspace_.controls.ToolbarTop.Enabled("SQL"))
+    throw UsageError("'" + options_.name + "' lists no SQL statements");
+  selectRow();
+}
+
+void ReportRun::showSqlText() {
+  selectSqlRow();
+  gDispSqlText(workspace_, version_);
+  if (!options_.shaped) return;
+  clsSQLShaping shaping(workspace_.boxes);
+  bool shaped = false;
+  gDispSqlShapingToggle(shaped, shaping, workspace_.controls.MSFlexGridSql);
+}
+
+void ReportRun::showSqlPlan() {
+  selectSqlRow();
+  gDispSQLPlan(workspace_, version_);
 }
 
 }  // namespace kestrelix::report_tool

@@ -25,10 +25,15 @@ class ReportRun {
   void showAll();
   /// The Col view that grid row --row leads to.
   void showCol();
+  /// The text, or the plans, of the SQL in row --row of the ranking that showAll has shown.
+  void showSqlText();
+  void showSqlPlan();
 
  private:
   int pairIndex() const;
   void selectSection();
+  void selectRow();
+  void selectSqlRow();
   void narrow();
   void connect();
 

@@ -71,11 +71,9 @@ std::string activeStatements() {
 
 /// The one row of the system's total: AA.
 std::string total(const SqlTotal& total) {
-  if (total.source == SqlTotal::Source::Parameter)
-    return "(select e.VALUE AS TOTAL from " + sqlTotalAt(total, ":B4") + " e) AA";
-  return "(select b.END_VALUE - a.START_VALUE AS TOTAL from (select VALUE AS START_VALUE from " +
-         sqlTotalAt(total, ":B3") + ") a, (select VALUE AS END_VALUE from " + sqlTotalAt(total, ":B4") +
-         ") b) AA";
+  if (total.source == SqlTotal::Source::Parameter) return sqlTotalAt(total, ":B4", "TOTAL") + " AA";
+  return "(select b.END_VALUE - a.START_VALUE AS TOTAL from " + sqlTotalAt(total, ":B3", "START_VALUE") +
+         " a, " + sqlTotalAt(total, ":B4", "END_VALUE") + " b) AA";
 }
 
 std::string perExecution(const std::string& figure) {

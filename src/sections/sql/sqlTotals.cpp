@@ -4,9 +4,9 @@ namespace kestrelix {
 namespace {
 
 /// `from` names one table beside stats$snapshot, joined as `v`.
-std::string figure(const std::string& value, const std::string& from, const std::string& bind,
+std::string figure(const std::string& select, const std::string& from, const std::string& bind,
                    const std::string& name) {
-  return "(select st.DBID, st.INSTANCE_NUMBER, st.SNAP_ID, " + value + R"sql( AS VALUE
+  return "(select st.DBID, st.INSTANCE_NUMBER, st.SNAP_ID, " + select + R"sql(
              from stats$snapshot st, )sql" +
          from + R"sql(
             where st.DBID = v.DBID
@@ -22,15 +22,15 @@ std::string figure(const std::string& value, const std::string& from, const std:
 
 }  // namespace
 
-std::string sqlTotalAt(const SqlTotal& total, const std::string& bind) {
+std::string sqlTotalAt(const SqlTotal& total, const std::string& bind, const std::string& value) {
   switch (total.source) {
     case SqlTotal::Source::TimeModel:
-      return figure("v.VALUE", "stats$sys_time_model v, stats$time_model_statname n", bind,
+      return figure("v.VALUE AS " + value, "stats$sys_time_model v, stats$time_model_statname n", bind,
                     "v.STAT_ID = n.STAT_ID and n.STAT_NAME = '" + total.name + "')");
     case SqlTotal::Source::Statistics:
-      return figure("v.VALUE", "stats$sysstat v", bind, "v.NAME in ('" + total.name + "'))");
+      return figure("v.VALUE AS " + value, "stats$sysstat v", bind, "v.NAME in ('" + total.name + "'))");
     case SqlTotal::Source::Parameter:
-      return figure("MAX(v.VALUE)", "stats$parameter v", bind,
+      return figure("MAX(v.VALUE) AS " + value, "stats$parameter v", bind,
                     "v.NAME in ('__' || '" + total.name + "', '" + total.name +
                         "') group by st.DBID,st.INSTANCE_NUMBER,st.SNAP_TIME,st.SNAP_ID)");
     case SqlTotal::Source::None:

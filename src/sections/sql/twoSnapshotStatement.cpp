@@ -78,11 +78,9 @@ std::string totalName(const SqlTotal& total) {
 
 /// The system's total in the pair: BB.
 std::string total(const SqlTotal& total) {
-  if (total.source == SqlTotal::Source::Parameter)
-    return "(select e.DBID, e.INSTANCE_NUMBER, e.SNAP_ID, e.VALUE AS " + totalName(total) + " from " +
-           sqlTotalAt(total, ":B4") + " e) BB";
+  if (total.source == SqlTotal::Source::Parameter) return sqlTotalAt(total, ":B4", totalName(total)) + " BB";
   return "(select b.DBID, b.INSTANCE_NUMBER, b.SNAP_ID, b.VALUE - a.VALUE AS " + totalName(total) + " from " +
-         sqlTotalAt(total, ":B3") + " a, " + sqlTotalAt(total, ":B4") +
+         sqlTotalAt(total, ":B3", "VALUE") + " a, " + sqlTotalAt(total, ":B4", "VALUE") +
          " b where a.DBID = b.DBID and a.INSTANCE_NUMBER = b.INSTANCE_NUMBER) BB";
 }
 
