@@ -85,8 +85,9 @@ class Emitter {
   std::vector<Wrap*>& wraps() { return wraps_; }
   /// ROWNUM's text in the block that is being lowered; empty where it cannot stand.
   std::string& rownum() { return rownum_; }
+  /// The select list that names in ORDER BY may stand for, while that is lowered; else null.
+  const std::vector<Piece>*& outputs() { return outputs_; }
   const LoweringFacts& facts() const { return facts_; }
-  const std::string& withText() const { return with_; }
 
  private:
   const sql::Tree& tree_;
@@ -97,7 +98,7 @@ class Emitter {
   std::unordered_map<const sql::Expr*, Piece> replacements_;
   std::vector<Wrap*> wraps_;
   std::string rownum_;
-  std::string with_;
+  const std::vector<Piece>* outputs_ = nullptr;
 };
 
 /// The facts of a value that is one of several; NULL adds none.

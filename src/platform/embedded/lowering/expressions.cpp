@@ -19,6 +19,8 @@ constexpr CallRule kCallRules[] = {
 };
 
 Piece lowerColumn(Emitter& emitter, const sql::ColumnRef& ref) {
+  if (!ref.source && ref.output >= 0 && emitter.outputs())
+    return emitter.outputs()->at(static_cast<std::size_t>(ref.output));
   if (!ref.source) throw sql::SqlError::internal("a column without a source", ref.place);
   return emitter.column(ref.source, ref.column);
 }

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
@@ -10,6 +12,7 @@ std::string sortKey(const Piece& piece) {
 std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,
                        const std::vector<Piece>* outputs) {
   std::string text;
+  const auto* around = std::exchange(emitter.outputs(), outputs ? outputs : emitter.outputs());
   for (const auto& item : items) {
     const bool isOutput = outputs && item.output >= 0;
     const Piece piece =
@@ -20,6 +23,7 @@ std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,
     text += (text.empty() ? " ORDER BY " : ", ") + key + (item.descending ? " DESC" : "") +
             (item.nullsFirst() ? " NULLS FIRST" : " NULLS LAST");
   }
+  emitter.outputs() = around;
   return text;
 }
 
