@@ -58,7 +58,7 @@ TableWriter::TableWriter(sqlite3* connection, std::string name, std::vector<NewC
       sqlite3_prepare_v3(connection_, insert.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &statement_, nullptr) !=
           SQLITE_OK)
     throw RepositoryError("table " + name_ + ": " + failure(connection_));
-  integral_.assign(columns_.size(), true);
+  numbers_.resize(columns_.size());
 }
 
 TableWriter::~TableWriter() { sqlite3_finalize(statement_); }
@@ -76,12 +76,13 @@ void TableWriter::insert(std::span<const Cell> cells) {
         break;
       case Cell::Kind::Integer:
         sqlite3_bind_int64(statement_, i + 1, cell.integer());
+        numbers_[static_cast<std::size_t>(i)].see(cell.integer());
         break;
       case Cell::Kind::Text:
         sqlite3_bind_text(statement_, i + 1, view.data(), size, SQLITE_STATIC);
         break;
       case Cell::Kind::Number:
-        integral_[static_cast<std::size_t>(i)] = false;
+        numbers_[static_cast<std::size_t>(i)].integral = false;
         [[fallthrough]];
       case Cell::Kind::Raw:
         sqlite3_bind_blob(statement_, i + 1, view.data(), size, SQLITE_STATIC);
@@ -155,13 +156,15 @@ TableWriter* RepositoryWriter::table(std::string_view name) {
 
 void RepositoryWriter::writeColumns() {
   TableWriter catalogue(connection_, "kestrelix$column",
-                        {{"table_name"}, {"column_name"}, {"position"}, {"oracle_type"}, {"integral"}});
+                        {{"table_name"}, {"column_name"}, {"position"}, {"oracle_type"}, {"integral"},
+                         {"largest"}});
   for (const auto& [name, table] : tables_) {
     for (std::size_t i = 0; i < table->columns_.size(); ++i) {
       const NewColumn& column = table->columns_[i];
-      const bool integral = column.type == statspack::Type::Number && table->integral_[i];
-      catalogue.insert(
-          std::array<Cell, 5>{name, column.name, i + 1, statspack::typeName(column.type), integral ? 1 : 0});
+      const NumbersSeen& numbers = table->numbers_[i];
+      const bool integral = column.type == statspack::Type::Number && numbers.integral;
+      catalogue.insert(std::array<Cell, 6>{name, column.name, i + 1, statspack::typeName(column.type),
+                                           integral ? 1 : 0, integral ? Cell(numbers.largest) : Cell()});
     }
   }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <filesystem>
 #include <map>
 #include <memory>
@@ -38,6 +39,17 @@ struct NewColumn {
   statspack::Type type = statspack::Type::Number;
 };
 
+/// What the values of a column have in common.
+struct NumbersSeen {
+  bool integral = true;      ///< all are whole and fit 64 bits
+  std::int64_t largest = 0;  ///< the largest absolute value of them
+
+  void see(std::int64_t value) {
+    const std::int64_t size = value == INT64_MIN ? INT64_MAX : value < 0 ? -value : value;
+    if (size > largest) largest = size;
+  }
+};
+
 /// Fills one table of a file in the making.
 class TableWriter {
  public:
@@ -57,7 +69,7 @@ class TableWriter {
   sqlite3* connection_;
   std::string name_;
   std::vector<NewColumn> columns_;
-  std::vector<bool> integral_;
+  std::vector<NumbersSeen> numbers_;
   sqlite3_stmt* statement_ = nullptr;
 };
 
