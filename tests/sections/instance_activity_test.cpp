@@ -73,7 +73,8 @@ TEST(InstanceActivity, theFourLevelsShowAmongThemselvesIfEitherEndIsAboveZero) {
 TEST(InstanceActivity, aSeriesFollowsOneStatisticAndIsBlankAcrossARestart) {
   InstanceRepository repository("10");
   withTransactions(repository).sysstat("redo size", "1000", "8200");
-  repository.rows("stats$sysstat", {"snap_id", "name", "value"}, {{"3", "redo size", "60"}, {"4", "redo size", "600"}});
+  repository.rows("stats$sysstat", {"snap_id", "name", "value"},
+                  {{"3", "redo size", "60"}, {"4", "redo size", "600"}});
   OpenReport report(repository);
   report.all("Instance Activity Stats[1]", 0);
   // 540 in 5400 seconds; no transaction to divide by.

@@ -14,8 +14,8 @@ class OsRepository : public InstanceRepository {
   using InstanceRepository::InstanceRepository;
 
   /// A statistic with its values at snapshots 1 and 2. Release 10 doesn't know whether it is cumulative.
-  OsRepository& osstat(std::string_view id, std::string_view name, std::string_view start, std::string_view end,
-                       std::string_view cumulative = "") {
+  OsRepository& osstat(std::string_view id, std::string_view name, std::string_view start,
+                       std::string_view end, std::string_view cumulative = "") {
     if (cumulative.empty())
       row("stats$osstatname", {{"osstat_id", id}, {"stat_name", name}});
     else
@@ -80,7 +80,8 @@ TEST(OsStatistics, aSeriesFollowsOneStatistic) {
   for (const char* major : {"10", "11"}) {
     OsRepository repository(major);
     repository.osstat("1", "IDLE_TIME", "1000", "5000").osstat("2", "BUSY_TIME", "500", "900");
-    repository.rows("stats$osstat", {"snap_id", "osstat_id", "value"}, {{"3", "2", "900"}, {"4", "2", "901"}});
+    repository.rows("stats$osstat", {"snap_id", "osstat_id", "value"},
+                    {{"3", "2", "900"}, {"4", "2", "901"}});
     OpenReport report(repository);
     report.all("OS Statistics", 0);
     EXPECT_EQ(report.col(1),
