@@ -28,9 +28,7 @@ def number(value):
     """The NUMBER nearest to an exact value, or the error that there is none."""
     if not value:
         return ZERO
-    last = (value.adjusted() // 2 - (DIGITS - 1)) * 2
-    if value.as_tuple().exponent < last:
-        value = EXACT.quantize(value, UNIT[last])
+    value = EXACT.quantize(value, UNIT[(value.adjusted() // 2 - (DIGITS - 1)) * 2])
     adjusted = value.adjusted()
     if adjusted >= 126:
         return "!1426"
@@ -39,8 +37,8 @@ def number(value):
 
 def significant(value):
     """Its digits without trailing zeros, and the power of ten of the first."""
-    digits = "".join(map(str, value.as_tuple().digits)).rstrip("0")
-    return digits, value.adjusted()
+    mantissa, _, exponent = f"{abs(value):E}".partition("E")
+    return mantissa.replace(".", "").rstrip("0"), int(exponent)
 
 
 def text(value):
@@ -67,54 +65,56 @@ class Operands:
     """Draws operands of many shapes: small, long, near to one another, at the edges of the ranges."""
 
     def __init__(self, seed):
-        self.random = random.Random(seed)
+        self.random = random.Random(seed).random  # its integers would take longer than the arithmetic
+
+    def below(self, bound):
+        return int(self.random() * bound)
+
+    def pick(self, choices):
+        return choices[int(self.random() * len(choices))]
 
     def digits(self):
-        r = self.random
-        count = r.choice((1, 2, 3, 5, 9, 18, 19, 20, 37, 38, 39, 40))
-        shape = r.randrange(6)
+        count = self.pick((1, 2, 3, 5, 9, 18, 19, 20, 37, 38, 39, 40))
+        shape = self.below(6)
         if shape == 0:
             return "9" * count
         if shape == 1:
             return "1" + "0" * (count - 1)
         if shape == 2:
-            return "".join(r.choice("059") for _ in range(count)).lstrip("0") or "5"
-        return str(r.randrange(10 ** (count - 1), 10**count))
+            return "".join(self.pick("059") for _ in range(count)).lstrip("0") or "5"
+        return "".join(f"{self.below(10**10):010d}" for _ in range(4))[:count].lstrip("0") or "1"
 
     def exponent(self, count):
-        r = self.random
-        shape = r.randrange(8)
+        shape = self.below(8)
         if shape == 0:
-            return r.randrange(-130, 126)
+            return self.below(256) - 130
         if shape == 1:
-            return r.choice((-130, -129, -65, -64, 60, 61, 62, 63, 124, 125))
+            return self.pick((-130, -129, -65, -64, 60, 61, 62, 63, 124, 125))
         if shape < 4:
             return count - 1
-        return r.randrange(-6, 20)
+        return self.below(26) - 6
 
     def draw(self):
-        r = self.random
-        if r.randrange(40) == 0:
-            return Decimal(r.choice((0, 1, -1, 2**63 - 1, -(2**63), 2**63, 2**64, 10**18, 3)))
+        if self.below(40) == 0:
+            return Decimal(self.pick((0, 1, -1, 2**63 - 1, -(2**63), 2**63, 2**64, 10**18, 3)))
         while True:
             digits = self.digits()
             exponent = self.exponent(len(digits)) - len(digits) + 1
-            value = number(Decimal((r.randrange(2), tuple(map(int, digits)), exponent)))
+            value = number(Decimal(f"{self.pick('+-')}{digits}E{exponent}"))
             if not isinstance(value, str):
                 return value
 
     def pair(self):
         a = self.draw()
-        shape = self.random.randrange(10)
+        shape = self.below(10)
         if shape == 0:
-            b = a if self.random.randrange(2) else -a
+            b = a if self.below(2) else -a
         elif shape == 1 and a:
-            last = a.as_tuple().exponent
-            b = number(EXACT.add(a, UNIT[last]))
+            b = number(EXACT.add(a, UNIT[a.adjusted() - self.below(40)]))
             b = a if isinstance(b, str) else b
         else:
             b = self.draw()
-        return a, b, self.random.choice((-40, -19, -18, -3, -2, -1, 0, 0, 0, 1, 2, 2, 3, 5, 10, 38, 39, 100))
+        return a, b, self.pick((-40, -19, -18, -3, -2, -1, 0, 0, 0, 1, 2, 2, 3, 5, 10, 38, 39, 100))
 
 
 def expected(a, b, places):
