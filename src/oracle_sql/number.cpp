@@ -33,28 +33,24 @@ std::optional<std::uint64_t> wholeMagnitude(const std::uint8_t* digits, int coun
 }  // namespace
 
 Number Number::fromDigits(std::span<const std::uint8_t> digits, int exponent, bool negative) {
-  const std::uint8_t* first = digits.data();
-  int count = static_cast<int>(digits.size());
-  while (count > 0 && *first == 0) {
-    ++first;
-    --count;
+  while (!digits.empty() && digits.front() == 0) {
+    digits = digits.subspan(1);
     --exponent;
   }
   Number result;
-  if (count == 0) {
+  if (digits.empty()) {
     return result;
   }
   std::uint8_t kept[kMaxDigits];
-  const bool up = count > kMaxDigits && first[kMaxDigits] >= 50;
-  count = std::min(count, kMaxDigits);
-  std::memcpy(kept, first, static_cast<std::size_t>(count));
+  const bool up = digits.size() > kMaxDigits && digits[kMaxDigits] >= 50;
+  std::size_t count = std::min<std::size_t>(digits.size(), kMaxDigits);
+  std::memcpy(kept, digits.data(), count);
   if (up) {
     while (count > 0 && kept[count - 1] == 99) {
       --count;
     }
     if (count == 0) {
-      kept[0] = 1;
-      count = 1;
+      kept[count++] = 1;
       ++exponent;
     } else {
       ++kept[count - 1];
@@ -65,7 +61,7 @@ Number Number::fromDigits(std::span<const std::uint8_t> digits, int exponent, bo
   }
   const std::uint64_t limit =
       static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()) + (negative ? 1 : 0);
-  if (const auto whole = wholeMagnitude(kept, count, exponent, limit)) {
+  if (const auto whole = wholeMagnitude(kept, static_cast<int>(count), exponent, limit)) {
     result.whole_ = static_cast<std::int64_t>(negative ? std::uint64_t{0} - *whole : *whole);
     return result;
   }
@@ -75,7 +71,7 @@ Number Number::fromDigits(std::span<const std::uint8_t> digits, int exponent, bo
   if (exponent < kMinExponent) {
     return result;
   }
-  std::memcpy(result.digits_, kept, static_cast<std::size_t>(count));
+  std::memcpy(result.digits_, kept, count);
   result.count_ = static_cast<std::uint8_t>(count);
   result.exponent_ = static_cast<std::int8_t>(exponent);
   result.form_ = negative ? -1 : 1;
@@ -92,8 +88,8 @@ NumberParts Number::parts() const {
     return parts;
   }
   parts.negative = whole_ < 0;
-  std::uint64_t rest = parts.negative ? std::uint64_t{0} - static_cast<std::uint64_t>(whole_)
-                                      : static_cast<std::uint64_t>(whole_);
+  const auto bits = static_cast<std::uint64_t>(whole_);
+  std::uint64_t rest = parts.negative ? std::uint64_t{0} - bits : bits;
   std::uint8_t reversed[10];
   int count = 0;
   while (rest != 0) {

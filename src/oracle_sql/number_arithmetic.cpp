@@ -125,8 +125,19 @@ Number multiply(const NumberParts& a, const NumberParts& b) {
                             a.negative != b.negative);
 }
 
-// Of two whole numbers: the quotient, then nine digits of the fraction at a time.
-Number divideWhole(std::uint64_t a, std::uint64_t b, bool negative) {
+// The digits of a number that has few of them, as one whole number.
+constexpr int kShortDigits = 9;
+
+std::uint64_t shortDigits(const NumberParts& p) {
+  std::uint64_t value = 0;
+  for (int i = 0; i < p.count; ++i) {
+    value = value * 100 + p.digit[i];
+  }
+  return value;
+}
+
+// Of two whole numbers, times 100^shift: the quotient, then nine digits of the fraction at a time.
+Number divideWhole(std::uint64_t a, std::uint64_t b, int shift, bool negative) {
   constexpr std::uint64_t kStep = 1000000000000000000;  // 100^9
   constexpr int kSignificant = 21;                      // one more than kept: it decides the rounding
   std::uint8_t digits[10 + 9 * 5];
@@ -138,18 +149,17 @@ Number divideWhole(std::uint64_t a, std::uint64_t b, bool negative) {
     quotient /= 100;
   }
   std::memmove(digits, digits + 10 - count, static_cast<std::size_t>(count));
-  const int exponent = count - 1;
+  const int exponent = count - 1 + shift;
   int significant = count;
   while (rest != 0 && significant < kSignificant) {
     const UnsignedWide scaled = static_cast<UnsignedWide>(rest) * kStep;
-    auto chunk = static_cast<std::uint64_t>(scaled / b);
+    const auto chunk = static_cast<std::uint64_t>(scaled / b);
     rest = static_cast<std::uint64_t>(scaled - static_cast<UnsignedWide>(chunk) * b);
     const bool leading = significant == 0;
-    std::uint64_t left = chunk;
-    for (int i = 8; i >= 0; --i) {
-      digits[count + i] = static_cast<std::uint8_t>(left % 100);
-      left /= 100;
-    }
+    const std::uint64_t high = chunk / kBase;
+    digits[count] = static_cast<std::uint8_t>(high / kBase);
+    unpack(high % kBase, digits + count + 1);
+    unpack(chunk % kBase, digits + count + 5);
     if (leading) {
       const std::uint8_t* begin = digits + count;
       significant =
@@ -273,9 +283,15 @@ Number operator/(const Number& a, const Number& b) {
     return a;
   }
   if (a.form_ == 0 && b.form_ == 0) {
-    return divideWhole(magnitude(a.whole_), magnitude(b.whole_), a.isNegative() != b.isNegative());
+    return divideWhole(magnitude(a.whole_), magnitude(b.whole_), 0, a.isNegative() != b.isNegative());
   }
-  return divide(a.parts(), b.parts());
+  const NumberParts x = a.parts();
+  const NumberParts y = b.parts();
+  if (x.count <= kShortDigits && y.count <= kShortDigits) {
+    const int shift = (x.exponent - x.count) - (y.exponent - y.count);
+    return divideWhole(shortDigits(x), shortDigits(y), shift, x.negative != y.negative);
+  }
+  return divide(x, y);
 }
 
 }  // namespace oracle_sql
