@@ -13,7 +13,3 @@ struct Place {
 };
 
 }  // namespace oracle_sql
-
-namespace kestrelix::oracle_sql {
-using namespace ::oracle_sql;
-}  // namespace kestrelix::oracle_sql
