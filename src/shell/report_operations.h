@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/controls.h"
+#include "navigation/workspace.h"
 
 namespace kestrelix {
 
@@ -28,5 +28,8 @@ struct ReportOperations {
   std::function<void(bool& shaped, Grid& sqlGrid)> toggleShaping;
   GraphOperations graph;
 };
+
+/// All of them, on that workspace, which must outlive them.
+ReportOperations reportOperations(Workspace& workspace);
 
 }  // namespace kestrelix

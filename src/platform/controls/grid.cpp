@@ -125,7 +125,9 @@ std::string Grid::Clip() const {
 }
 
 void Grid::TopRow(int row) {
-  topRow_ = std::clamp(row, fixedRows_, lastTopRow());
+  row = std::clamp(row, fixedRows_, lastTopRow());
+  if (row == topRow_) return;
+  topRow_ = row;
   changed();
 }
 

@@ -7,11 +7,13 @@ namespace kestrelix {
 void ListBox::Clear() {
   items_.clear();
   index_ = -1;
+  ++entries_;
   changed();
 }
 
 void ListBox::AddItem(std::string text, long itemData) {
   items_.push_back({std::move(text), itemData});
+  ++entries_;
   changed();
 }
 

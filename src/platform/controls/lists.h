@@ -28,6 +28,9 @@ class ListBox : public Control {
   /// The selected text, empty if nothing is selected.
   std::string Text() const { return index_ < 0 ? std::string() : List(index_); }
 
+  /// Grows with every change of the entries, so that a mirror can tell it from a mere move of the selection.
+  unsigned long entries() const { return entries_; }
+
   Signal<> Click;
 
  private:
@@ -37,6 +40,7 @@ class ListBox : public Control {
   };
   std::vector<Item> items_;
   int index_ = -1;
+  unsigned long entries_ = 0;
 };
 
 /// A drop-down list: the same, shown one entry at a time.

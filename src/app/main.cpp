@@ -1,0 +1,37 @@
+// The desktop program. It takes no arguments and has no settings.
+#include <filesystem>
+#include <iostream>
+
+#include "platform/embedded/local_session.h"
+#include "platform/qt/Desktop.h"
+#include "platform/qt/desktop_services.h"
+#include "sections/SectionList.h"
+#include "shell/BackEndChain.h"
+
+namespace {
+
+std::filesystem::path programFolder() {
+  return std::filesystem::read_symlink("/proc/self/exe").parent_path();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  using namespace kestrelix;
+  try {
+    QtMessageBoxes boxes;
+    QtClipboard clipboard;
+    QtHelpViewer help;
+    const std::filesystem::path folder = programFolder();
+    const auto makeSession = [folder] {
+      return std::make_unique<BackEndChain>(
+          std::vector<BackEnd>{localRepositories(folder, embedded::localSession)});
+    };
+    return runDesktop(argc, argv, [&] {
+      return DesktopParts{boxes, {clipboard, help, folder, makeSession, sectionList()}, reportOperations};
+    });
+  } catch (const std::exception& error) {
+    std::cerr << "kestrelix: " << error.what() << std::endl;
+    return 1;
+  }
+}

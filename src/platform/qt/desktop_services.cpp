@@ -1,0 +1,25 @@
+#include "platform/qt/desktop_services.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMessageBox>
+#include <iostream>
+
+#include "platform/qt/mirror.h"
+
+namespace kestrelix {
+
+void QtMessageBoxes::show(BoxIcon icon, const std::string& message, const std::string& underlying) {
+  if (!underlying.empty()) std::cerr << message << ": " << underlying << std::endl;
+  QMessageBox box(icon == BoxIcon::Critical ? QMessageBox::Critical : QMessageBox::Warning, "Kestrelix",
+                  text(message), QMessageBox::Ok, QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setObjectName("MessageBox");
+  box.setAccessibleName("MessageBox");
+  box.exec();
+}
+
+void QtClipboard::Clear() { QApplication::clipboard()->clear(); }
+void QtClipboard::SetText(const std::string& copied) { QApplication::clipboard()->setText(text(copied)); }
+
+}  // namespace kestrelix

@@ -1,0 +1,53 @@
+// The look of grids and lists: their own light colours on every desktop, so that the two views of a report
+// can be told apart, and the painting of cells and headings.
+#pragma once
+
+#include <QColor>
+#include <QHeaderView>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include "platform/controls/control.h"
+
+namespace kestrelix::grid_style {
+
+inline constexpr int kMargin = 3;  // pixels at the left and right of a text
+inline const QColor kText(0x1c, 0x1c, 0x1c);
+inline const QColor kBase(0xff, 0xff, 0xff);
+inline const QColor kEmptyArea(0xf6, 0xf6, 0xf6);
+inline const QColor kHeading(0xe4, 0xe9, 0xf0);
+inline const QColor kLine(0xcc, 0xcf, 0xd4);
+inline const QColor kHeadingLine(0xb4, 0xbc, 0xc8);
+inline const QColor kSelection(0x2f, 0x65, 0xa7);
+inline const QColor kSelectedText(0xff, 0xff, 0xff);
+
+/// A colour of the controls as one of the screen.
+QColor colour(Colour bgr);
+
+/// Paints a cell: text in one line, a line right and below, the current cell with an edge.
+class CellDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+/// Paints an entry of a list, its text beginning kMargin pixels in.
+class EntryDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+/// The headings of a grid, flat.
+class Headings final : public QHeaderView {
+ public:
+  using QHeaderView::QHeaderView;
+
+ protected:
+  void paintSection(QPainter* painter, const QRect& rect, int section) const override;
+};
+
+void paintHeading(QPainter& painter, const QRect& rect, const QString& text, Qt::Alignment alignment);
+
+}  // namespace kestrelix::grid_style
