@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "sections/sql/ModuleDispSQLorderedby.h"
-#include "sections/sql_fixture.h"
 #include "support/report_fixture.h"
+#include "support/sql_repository.h"
 
 namespace kestrelix {
 namespace {
