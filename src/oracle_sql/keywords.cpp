@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 
+#include "oracle_sql/ascii_case.h"
+
 namespace oracle_sql {
 
 namespace {
@@ -206,14 +208,12 @@ constexpr std::array<std::uint8_t, 27> kFirst = [] {
   return first;
 }();
 
-constexpr char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
 }  // namespace
 
 Word wordOf(std::string_view text) {
   if (text.size() < 2 || text.size() > kLongest) return {};
   char buffer[kLongest];
-  for (std::size_t i = 0; i < text.size(); ++i) buffer[i] = upper(text[i]);
+  for (std::size_t i = 0; i < text.size(); ++i) buffer[i] = asciiUpper(text[i]);
   const std::string_view word(buffer, text.size());
   if (word[0] < 'A' || word[0] > 'Z') return {};
   const auto letter = static_cast<std::size_t>(word[0] - 'A');
@@ -230,7 +230,7 @@ bool startsOtherStatement(std::string_view word) {
   };
   char buffer[kLongest];
   if (word.empty() || word.size() > kLongest) return false;
-  for (std::size_t i = 0; i < word.size(); ++i) buffer[i] = upper(word[i]);
+  for (std::size_t i = 0; i < word.size(); ++i) buffer[i] = asciiUpper(word[i]);
   const std::string_view given(buffer, word.size());
   return std::any_of(std::begin(kStarts), std::end(kStarts), [&](std::string_view w) { return w == given; });
 }

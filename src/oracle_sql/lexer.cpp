@@ -1,5 +1,6 @@
 #include <cstddef>
 
+#include "oracle_sql/ascii_case.h"
 #include "oracle_sql/error.h"
 #include "oracle_sql/token.h"
 
@@ -7,12 +8,9 @@ namespace oracle_sql {
 
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 // Bytes of characters beyond ASCII count as letters, as Oracle takes the letters of its character set.
-bool isLetter(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || static_cast<unsigned char>(c) >= 0x80;
-}
-bool isNamePart(char c) { return isLetter(c) || isDigit(c) || c == '_' || c == '$' || c == '#'; }
+bool isLetter(char c) { return isAsciiLetter(c) || static_cast<unsigned char>(c) >= 0x80; }
+bool isNamePart(char c) { return isLetter(c) || isAsciiDigit(c) || c == '_' || c == '$' || c == '#'; }
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f' || c == '\v'; }
 
 class Lexer {
@@ -98,7 +96,7 @@ class Lexer {
       if ((c == 'n' || c == 'N') && at(1) == '\'') return string(1);
       return name();
     }
-    if (isDigit(c) || (c == '.' && isDigit(at(1)))) return number();
+    if (isAsciiDigit(c) || (c == '.' && isAsciiDigit(at(1)))) return number();
     if (c == '\'') return string(0);
     if (c == '"') return quotedName();
     if (c == ':') return bind();
@@ -154,16 +152,16 @@ class Lexer {
   }
 
   void number() {
-    while (isDigit(at())) step();
+    while (isAsciiDigit(at())) step();
     if (at() == '.' && at(1) != '.') {
       step();
-      while (isDigit(at())) step();
+      while (isAsciiDigit(at())) step();
     }
     if (at() == 'e' || at() == 'E') {
       const std::size_t sign = at(1) == '+' || at(1) == '-' ? 1 : 0;
-      if (isDigit(at(1 + sign))) {
+      if (isAsciiDigit(at(1 + sign))) {
         step(1 + sign);
-        while (isDigit(at())) step();
+        while (isAsciiDigit(at())) step();
       }
     }
     const char suffix = at();
@@ -276,9 +274,7 @@ std::vector<BindUse> bindUses(std::string_view statement) {
   for (const Token& token : tokenize(statement)) {
     if (token.kind != TokenKind::Bind) continue;
     BindUse& use = uses.emplace_back();
-    use.name = token.text.substr(1);
-    for (char& c : use.name)
-      if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    use.name = asciiUpper(token.text.substr(1));
     use.offset = token.place.offset;
     use.length = static_cast<std::uint32_t>(token.text.size());
   }

@@ -1,5 +1,6 @@
 #include "oracle_sql/parser.h"
 
+#include "oracle_sql/ascii_case.h"
 #include "oracle_sql/parser_state.h"
 
 namespace oracle_sql {
@@ -30,11 +31,7 @@ Parser::Parser(Tree& tree, std::vector<Token> tokens) : tree_(tree), tokens_(std
 bool Parser::isWord(std::string_view upperCase, std::size_t ahead) const {
   const Token& token = now(ahead);
   if (token.kind != TokenKind::Name || token.text.size() != upperCase.size()) return false;
-  for (std::size_t i = 0; i < upperCase.size(); ++i) {
-    const char c = token.text[i];
-    if ((c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c) != upperCase[i]) return false;
-  }
-  return true;
+  return startsWithAnyCase(token.text, upperCase);
 }
 
 std::string_view Parser::nameOf(const Token& token) {
@@ -47,10 +44,7 @@ std::string_view Parser::nameOf(const Token& token) {
   bool lower = false;
   for (char c : text) lower = lower || (c >= 'a' && c <= 'z');
   if (!lower) return text;
-  std::string upper(text);
-  for (char& c : upper)
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  return tree_.copy(upper);
+  return tree_.copy(asciiUpper(text));
 }
 
 std::string_view Parser::takeName(int oraCode, const char* message) {

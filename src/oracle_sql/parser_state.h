@@ -44,7 +44,7 @@ class Parser {
   FromItem* pivot(FromItem* source);
   bool tableAliasFollows() const;
 
-  // parser_expression.cpp: values and conditions
+  // parser_condition.cpp and parser_value.cpp
   Expr* condition();
   Expr* value();
   Expr* orTerms();

@@ -5,8 +5,19 @@
 
 #include "oracle_sql/ascii_case.h"
 #include "oracle_sql/resolver_state.h"
+#include "oracle_sql/walk.h"
 
 namespace oracle_sql {
+
+namespace {
+
+const Query* anyQuery(const Expr& e) {
+  const Query* found = queryOf(e);
+  forEachOperand(e, [&](const Expr& o) { found = found ? found : anyQuery(o); });
+  return found;
+}
+
+}  // namespace
 
 void resolve(Tree& tree, const Catalogue& catalogue, const BindTypes& binds) {
   Resolver(tree, catalogue, binds).statement();
@@ -121,7 +132,10 @@ void Resolver::block(SelectBlock& b, const Scope* outer, const WithScope* with, 
     checkOuterMarks(b);
   }
   b.grouped = !b.groupBy.empty() || b.having != nullptr;
-  for (Expr* g : b.groupBy) value(*g, {.scope = &scope});
+  for (Expr* g : b.groupBy) {
+    value(*g, {.scope = &scope});
+    if (const Query* q = anyQuery(*g)) fail(22818, "Subquery expressions not allowed here", q->place);
+  }
   selectList(b, scope);
   if (b.having) condition(*b.having, {.scope = &scope, .aggregates = true});
   if (orderBy) orderBlock(b, scope, *orderBy);

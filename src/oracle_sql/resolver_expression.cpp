@@ -1,4 +1,6 @@
 // Types of expressions, and what may be compared with what.
+#include "oracle_sql/function_error.h"
+#include "oracle_sql/number.h"
 #include "oracle_sql/resolver_state.h"
 
 namespace oracle_sql {
@@ -20,6 +22,16 @@ bool isWhole(std::string_view number) {
   return number.find_first_not_of("0123456789") == std::string_view::npos && number.size() <= 18;
 }
 
+// ORA-01426 for 1E200.
+void checkNumber(std::string_view text, Place place) {
+  try {
+    if (Number::parse(text)) return;
+  } catch (const FunctionError& e) {
+    throw SqlError::wrong(e.code(), e.what(), place);
+  }
+  throw SqlError::wrong(1722, "invalid number", place);
+}
+
 }  // namespace
 
 Type Resolver::value(Expr& e, const Env& env) { return e.type = resolved(e, env); }
@@ -32,8 +44,12 @@ Type Resolver::resolved(Expr& e, const Env& env) {
   switch (e.kind) {
     case ExprKind::Null:
       return {TypeKind::Null};
-    case ExprKind::Number:
-      return {TypeKind::Number, isWhole(static_cast<NumberLiteral&>(e).text)};
+    case ExprKind::Number: {
+      const std::string_view text = static_cast<NumberLiteral&>(e).text;
+      if (isWhole(text)) return {TypeKind::Number, true};
+      checkNumber(text, e.place);
+      return {TypeKind::Number};
+    }
     case ExprKind::String: {
       const std::size_t bytes = static_cast<StringLiteral&>(e).value.size();
       if (bytes > kMaxTextLiteral) fail(1704, "string literal too long", e.place);
@@ -259,8 +275,7 @@ void Resolver::checkDate(const DateLiteral& d) const {
       fail(1861, "literal does not match format string", d.place);
   }
   const auto [year, month, day] = parts;
-  if (year < 1 || year > 4712 + 5287)
-    fail(1841, "(full) year must be between -4713 and +9999, and not be 0", d.place);
+  if (year < 1) fail(1841, "(full) year must be between -4713 and +9999, and not be 0", d.place);
   if (month < 1 || month > 12) fail(1843, "not a valid month", d.place);
   const bool leap = year % 4 == 0 && (year < 1583 || year % 100 != 0 || year % 400 == 0);
   const int days[] = {31, leap ? 29 : 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};

@@ -128,9 +128,9 @@ struct SelectBlock {
   Expr* having = nullptr;
 
   // Resolved.
-  List<OutputColumn> columns;  ///< the select list with stars replaced by the columns they stand for
-  bool grouped = false;        ///< GROUP BY or an aggregate
-  bool windowed = false;       ///< a window function in the select list or in ORDER BY
+  List<OutputColumn> columns;     ///< the select list with stars replaced by the columns they stand for
+  bool grouped = false;           ///< GROUP BY or an aggregate
+  bool windowed = false;          ///< a window function in the select list or in ORDER BY
   bool nestedAggregates = false;  ///< as in SUM(AVG(x)): one row over the groups
   bool usesRownum = false;
   bool outerMarks = false;  ///< (+) in WHERE
