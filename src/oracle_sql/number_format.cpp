@@ -22,7 +22,21 @@ struct Parts {
   bool negative = false;
 };
 
-std::string_view currencyText(Currency currency) { return currency == Currency::Iso ? "USD" : "$"; }
+std::string_view currencyText(Currency currency, const NumberSymbols& symbols) {
+  switch (currency) {
+    case Currency::None:
+      return {};
+    case Currency::Dollar:
+      return "$";
+    case Currency::Local:
+      return symbols.local;
+    case Currency::Iso:
+      return symbols.iso;
+    case Currency::Dual:
+      break;
+  }
+  return symbols.dual;
+}
 
 // The room that the model keeps for a currency: the dollar sign its own, the others that of the longest.
 std::size_t currencyWidth(Currency currency) {
@@ -42,9 +56,10 @@ std::size_t currencyWidth(Currency currency) {
 
 std::size_t signWidth(Sign sign) { return sign == Sign::Brackets ? 2 : 1; }
 
-std::string dressed(const NumberModel& model, const Parts& parts, std::size_t width) {
+std::string dressed(const NumberModel& model, const NumberSymbols& symbols, const Parts& parts,
+                    std::size_t width) {
   std::string text;
-  const bool inFront = model.currency != Currency::None && !model.currencyBehind;
+  const std::string_view currency = currencyText(model.currency, symbols);
   if (model.sign == Sign::Brackets) {
     text += parts.negative ? "<" : model.filled ? " " : "";
   } else if (model.sign == Sign::Leading) {
@@ -52,9 +67,9 @@ std::string dressed(const NumberModel& model, const Parts& parts, std::size_t wi
   } else if (model.sign == Sign::Default) {
     text += parts.negative ? "-" : model.filled ? " " : "";
   }
-  text += inFront ? currencyText(model.currency) : "";
+  text += model.currencyBehind ? std::string_view() : currency;
   text += parts.digits;
-  text += model.currencyBehind ? currencyText(model.currency) : "";
+  text += model.currencyBehind ? currency : std::string_view();
   if (model.sign == Sign::Brackets) {
     text += parts.negative ? ">" : model.filled ? " " : "";
   } else if (model.sign == Sign::Trailing) {
@@ -70,20 +85,21 @@ std::string dressed(const NumberModel& model, const Parts& parts, std::size_t wi
 
 std::string hashes(std::size_t width) { return std::string(width, '#'); }
 
-// The digits before the point in the places of the model; empty where the model leaves them out.
-std::string groupedWhole(const NumberModel& model, std::string_view digits, bool blank) {
-  const auto places = static_cast<std::size_t>(
-      std::count_if(model.whole.begin(), model.whole.end(), [](char c) { return c != ','; }));
+// The digits before the point in the places of the model.
+std::string groupedWhole(const NumberModel& model, const NumberSymbols& symbols, std::string_view digits) {
+  const std::size_t places = model.wholePlaces();
   std::string text;
   std::size_t place = 0;
   bool started = false;
   for (const char c : model.whole) {
-    if (c == ',') {
-      text += started ? "," : "";
+    if (isGroup(c)) {
+      if (started) {
+        text += c == 'G' ? symbols.group : ',';
+      }
       continue;
     }
     const bool present = place + digits.size() >= places;
-    started = !blank && (started || present || c == '0');
+    started = started || present || c == '0';
     if (started) {
       text += present ? digits[place + digits.size() - places] : '0';
     }
@@ -92,8 +108,14 @@ std::string groupedWhole(const NumberModel& model, std::string_view digits, bool
   return text;
 }
 
-std::string formatFixed(const Number& number, const NumberModel& model) {
-  const std::size_t width = model.whole.size() + (model.point ? 1 : 0) + model.fraction.size() +
+void appendPoint(std::string& text, const NumberModel& model, const NumberSymbols& symbols) {
+  if (model.point != 0) {
+    text += model.point == 'D' ? symbols.point : '.';
+  }
+}
+
+std::string formatFixed(const Number& number, const NumberModel& model, const NumberSymbols& symbols) {
+  const std::size_t width = model.whole.size() + (model.point != 0 ? 1 : 0) + model.fraction.size() +
                             signWidth(model.sign) + currencyWidth(model.currency);
   Number value = number;
   if (model.shift != 0) {
@@ -109,8 +131,7 @@ std::string formatFixed(const Number& number, const NumberModel& model) {
   if (whole == "0") {
     whole.clear();
   }
-  const auto places = static_cast<std::size_t>(
-      std::count_if(model.whole.begin(), model.whole.end(), [](char c) { return c != ','; }));
+  const std::size_t places = model.wholePlaces();
   if (whole.size() > places) {
     return hashes(width);
   }
@@ -128,11 +149,11 @@ std::string formatFixed(const Number& number, const NumberModel& model) {
     fraction.resize(std::max(keep, forced == std::string::npos ? 0 : forced + 1));
   }
   Parts parts;
-  parts.digits = groupedWhole(model, whole, model.blankZero && value < Number(1));
-  parts.digits += model.point ? "." : "";
+  parts.digits = groupedWhole(model, symbols, whole);
+  appendPoint(parts.digits, model, symbols);
   parts.digits += fraction;
   parts.negative = number.isNegative();
-  return dressed(model, parts, width);
+  return dressed(model, symbols, parts, width);
 }
 
 std::string exponentText(int exponent) {
@@ -185,20 +206,20 @@ Mantissa roundedMantissa(const Number& number, std::size_t places) {
   return m;
 }
 
-std::string formatScientific(const Number& number, const NumberModel& model) {
+std::string formatScientific(const Number& number, const NumberModel& model, const NumberSymbols& symbols) {
   const std::size_t places = model.fraction.size();
   // One digit, the point with its places, five for the exponent: how many digits stand before the point of
   // the model doesn't matter.
   const std::size_t width =
-      1 + (model.point ? 1 + places : 0) + 5 + signWidth(model.sign) + currencyWidth(model.currency);
+      1 + (model.point != 0 ? 1 + places : 0) + 5 + signWidth(model.sign) + currencyWidth(model.currency);
   Parts parts;
   parts.negative = number.isNegative();
   const Mantissa m =
       number.isZero() ? Mantissa{std::string(places + 1, '0'), 0} : roundedMantissa(number, places);
   parts.digits = m.digits.substr(0, 1);
-  parts.digits += model.point ? "." : "";
+  appendPoint(parts.digits, model, symbols);
   parts.digits += m.digits.substr(1) + exponentText(m.exponent);
-  return dressed(model, parts, width);
+  return dressed(model, symbols, parts, width);
 }
 
 std::string formatRoman(const Number& number, const NumberModel& model) {
@@ -266,13 +287,13 @@ std::string formatText(const Number& number) {
 
 }  // namespace
 
-std::string formatNumber(const Number& number, std::string_view model) {
+std::string formatNumber(const Number& number, std::string_view model, const NumberSymbols& symbols) {
   const NumberModel& m = numberModel(model);
   switch (m.form) {
     case Form::Fixed:
       break;
     case Form::Scientific:
-      return formatScientific(number, m);
+      return formatScientific(number, m, symbols);
     case Form::Roman:
       return formatRoman(number, m);
     case Form::Hexadecimal:
@@ -282,7 +303,7 @@ std::string formatNumber(const Number& number, std::string_view model) {
     case Form::TextScientific:
       return formatTextScientific(number);
   }
-  return formatFixed(number, m);
+  return formatFixed(number, m, symbols);
 }
 
 }  // namespace oracle_sql

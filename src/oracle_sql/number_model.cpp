@@ -1,5 +1,7 @@
 #include "oracle_sql/number_model.h"
 
+#include <algorithm>
+
 #include "oracle_sql/ascii_case.h"
 #include "oracle_sql/function_error.h"
 #include "oracle_sql/model_cache.h"
@@ -68,11 +70,11 @@ class Parser {
       return false;
     }
     model_.form = Form::Hexadecimal;
-    model_.lower = text_[at_ - 1] == 'x';
     model_.whole += 'X';
     while (take("X")) {
       model_.whole += 'X';
     }
+    model_.lower = text_.find('x') != std::string_view::npos;
     return finished();
   }
 
@@ -95,17 +97,17 @@ class Parser {
     if (digit) {
       addDigit(c);
     } else if (c == ',' || c == 'G') {
-      if (model_.whole.empty() || model_.point || shifted_) {
+      if (model_.whole.empty() || model_.point != 0 || shifted_) {
         refuse();
       }
-      model_.whole += ',';
+      model_.whole += c;
     } else if (c == '.' || c == 'D') {
-      if (model_.point || shifted_) {
+      if (model_.point != 0 || shifted_) {
         refuse();
       }
-      model_.point = true;
+      model_.point = c;
     } else if (c == 'V') {
-      if (model_.point || shifted_) {
+      if (model_.point != 0 || shifted_) {
         refuse();
       }
       shifted_ = true;
@@ -119,7 +121,7 @@ class Parser {
   }
 
   void addDigit(char c) {
-    if (model_.point) {
+    if (model_.point != 0) {
       model_.fraction += c;
     } else {
       model_.whole += c;
@@ -128,9 +130,9 @@ class Parser {
   }
 
   void mark(char c) {
-    const bool first = model_.whole.empty() && !model_.point;
+    const bool first = model_.whole.empty() && model_.point == 0;
     if (take("EEEE")) {
-      if (first || model_.form != Form::Fixed || model_.whole.find(',') != std::string::npos) {
+      if (first || model_.form != Form::Fixed || std::ranges::any_of(model_.whole, isGroup)) {
         refuse();
       }
       model_.form = Form::Scientific;
@@ -177,6 +179,10 @@ class Parser {
 };
 
 }  // namespace
+
+std::size_t NumberModel::wholePlaces() const {
+  return whole.size() - static_cast<std::size_t>(std::ranges::count_if(whole, isGroup));
+}
 
 const NumberModel& numberModel(std::string_view text) {
   thread_local ModelCache<NumberModel> cache;

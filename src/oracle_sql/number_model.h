@@ -16,14 +16,18 @@ struct NumberModel {
   Sign sign = Sign::Default;
   Currency currency = Currency::None;
   bool currencyBehind = false;
-  bool filled = true;      // not under FM
-  bool blankZero = false;  // B
-  bool lower = false;      // rn, x
-  bool point = false;
+  bool filled = true;         // not under FM
+  bool blankZero = false;     // B
+  bool lower = false;         // rn, x
+  char point = 0;             // '.' or 'D', 0 for none
   int shift = 0;              // digits behind V
-  std::string whole = {};     // '9', '0' and ',' as they stand before the point
+  std::string whole = {};     // '9', '0', ',' and 'G' as they stand before the point
   std::string fraction = {};  // '9' and '0' behind it
+
+  std::size_t wholePlaces() const;  // digits before the point
 };
+
+constexpr bool isGroup(char element) { return element == ',' || element == 'G'; }
 
 // ORA-01481 for a model that is none. Valid until the next call on this thread.
 const NumberModel& numberModel(std::string_view text);

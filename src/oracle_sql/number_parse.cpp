@@ -30,7 +30,8 @@ Number parseHexadecimal(std::string_view text, const NumberModel& model) {
 
 class Reader {
  public:
-  Reader(std::string_view text, const NumberModel& model) : rest_(text), model_(model) {}
+  Reader(std::string_view text, const NumberModel& model, const NumberSymbols& symbols)
+      : rest_(text), model_(model), symbols_(symbols) {}
 
   Number read() {
     const bool negative = readSigns();
@@ -95,7 +96,10 @@ class Reader {
     if (model_.currency == Currency::None) {
       return;
     }
-    const std::string_view mark = model_.currency == Currency::Iso ? "USD" : "$";
+    const std::string_view mark = model_.currency == Currency::Dollar  ? "$"
+                                  : model_.currency == Currency::Local ? symbols_.local
+                                  : model_.currency == Currency::Iso   ? symbols_.iso
+                                                                       : std::string_view(symbols_.dual);
     if (rest_.starts_with(mark)) {
       rest_.remove_prefix(mark.size());
     } else if (rest_.ends_with(mark)) {
@@ -104,20 +108,21 @@ class Reader {
   }
 
   void readDigits() {
-    const auto places =
-        std::count_if(model_.whole.begin(), model_.whole.end(), [](char c) { return c != ','; });
-    const bool groups = model_.whole.find(',') != std::string::npos;
-    std::ptrdiff_t whole = 0;
+    const bool groups = std::ranges::any_of(model_.whole, isGroup);
+    const char group = model_.whole.find('G') != std::string::npos ? symbols_.group : ',';
+    const char pointMark = model_.point == 'D' ? symbols_.point : '.';
+    std::size_t whole = 0;
     std::size_t fraction = 0;
     bool point = false;
     for (; !rest_.empty(); rest_.remove_prefix(1)) {
-      const char c = rest_.front();
+      char c = rest_.front();
       if (isAsciiDigit(c)) {
         whole += point ? 0 : 1;
         fraction += point ? 1 : 0;
-      } else if (c == '.' && model_.point && !point) {
+      } else if (c == pointMark && model_.point != 0 && !point) {
         point = true;
-      } else if (c == ',' && groups && !point) {
+        c = '.';
+      } else if (c == group && groups && !point) {
         continue;
       } else {
         break;
@@ -128,19 +133,20 @@ class Reader {
       digits_ += rest_;
       rest_ = {};
     }
-    if (whole > places || fraction > model_.fraction.size()) {
+    if (whole > model_.wholePlaces() || fraction > model_.fraction.size()) {
       raiseInvalidNumber();
     }
   }
 
   std::string_view rest_;
   const NumberModel& model_;
+  const NumberSymbols& symbols_;
   std::string digits_;
 };
 
 }  // namespace
 
-Number parseNumber(std::string_view text, std::string_view model) {
+Number parseNumber(std::string_view text, std::string_view model, const NumberSymbols& symbols) {
   const NumberModel& m = numberModel(model);
   while (!text.empty() && text.front() == ' ') {
     text.remove_prefix(1);
@@ -165,7 +171,7 @@ Number parseNumber(std::string_view text, std::string_view model) {
       return *value;
     }
   }
-  return Reader(text, m).read();
+  return Reader(text, m, symbols).read();
 }
 
 }  // namespace oracle_sql

@@ -117,8 +117,19 @@ TEST(NumberFormat, currencyFloatsBeforeTheDigits) {
              {"5", "FMC9", "USD5"}});
 }
 
-TEST(NumberFormat, blankForNoughtLeavesTheWholePartOut) {
-  expectAll({{"0", "B999", "    "}, {"0.7", "B90.0", "   .7"}, {"42", "B999", "  42"}, {"0", "FMB999", ""}});
+TEST(NumberFormat, blankForNoughtLeavesOnlyANoughtOut) {
+  expectAll({{"0", "B999", "    "},
+             {"0.3", "B00.99", " 00.30"},
+             {"0.7", "B99,999,999.00", "           .70"},
+             {"42", "B999", "  42"},
+             {"0", "FMB999", ""}});
+}
+
+TEST(NumberFormat, symbolsOfASettingStandForDGAndL) {
+  const NumberSymbols symbols{',', '.', "AusDollars", "USD", "$"};
+  EXPECT_EQ("AusDollars10.000,00-", formatNumber(Number(-10000), "L99G999D99MI", symbols));
+  EXPECT_EQ(" 1,234.50", formatNumber(*Number::parse("1234.5"), "9,999.99", symbols));
+  EXPECT_EQ("1234.5", parseNumber("1.234,5", "9G999D9", symbols).toPlainText());
 }
 
 TEST(NumberFormat, scientificKeepsRoomForThreeDigitsOfExponent) {
@@ -137,6 +148,8 @@ TEST(NumberFormat, romanAndHexadecimalNumbers) {
              {"4000", "RN", "###############"},
              {"123", "XXXX", "   7B"},
              {"123", "FMxx", "7b"},
+             {"123", "Xx", " 7b"},
+             {"123", "000X", " 007B"},
              {"123", "X", "##"},
              {"123456789", "FMXXX", "####"},
              {"10", "0XXX", " 000A"},

@@ -156,6 +156,16 @@ TEST(ConversionFunctions, toCharFollowsTheTypeOfItsArgument) {
   EXPECT_EQ(1722, callError("TO_CHAR", {s("abc"), s("99")}));
 }
 
+TEST(ConversionFunctions, settingsChooseTheSymbolsOfNumbersOnly) {
+  EXPECT_EQ("1.234,5", call("TO_CHAR", {n("1234.5"), s("FM9G999D9"), s("NLS_NUMERIC_CHARACTERS = ',.' ")}));
+  EXPECT_EQ("BTC5", call("TO_CHAR", {n("5"), s("FML9"), s("NLS_CURRENCY = BTC")}));
+  EXPECT_EQ("1234.5", call("TO_NUMBER", {s("1.234,5"), s("9G999D9"), s(" nls_numeric_characters=',.'")}));
+  EXPECT_EQ("2007-01-01 00:00:00", call("TO_DATE", {s(" 2007-01-01 00:00:00"), s("SYYYY-MM-DD HH24:MI:SS"),
+                                                    s("NLS_CALENDAR=GREGORIAN")}));
+  EXPECT_EQ(12702, callError("TO_CHAR", {n("5"), s("9"), s("nonsense")}));
+  EXPECT_EQ(12702, callError("TO_CHAR", {n("5"), s("9"), s("NLS_NUMERIC_CHARACTERS = ',,'")}));
+}
+
 TEST(ConversionFunctions, toNumberAndToDateReadText) {
   EXPECT_EQ("NULL", call("TO_NUMBER", {null}));
   EXPECT_EQ("42", call("TO_NUMBER", {s(" 42 ")}));

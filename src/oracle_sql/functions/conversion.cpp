@@ -1,59 +1,40 @@
-#include "oracle_sql/ascii_case.h"
 #include "oracle_sql/date_format.h"
 #include "oracle_sql/functions/library.h"
+#include "oracle_sql/functions/settings.h"
 #include "oracle_sql/number_format.h"
 
 namespace oracle_sql::library {
 namespace {
 
-// The third argument of the TO_ functions names a language or separators. Those of the session are accepted.
-void checkSettings(Arguments arguments) {
-  if (arguments.size() < 3) {
-    return;
-  }
-  const TextOf given(arguments[2]);
-  std::string settings;
-  for (const char c : given.view()) {
-    if (c != ' ') {
-      settings += asciiUpper(c);
-    }
-  }
-  for (const char* known :
-       {"NLS_DATE_LANGUAGE=AMERICAN", "NLS_DATE_LANGUAGE=ENGLISH", "NLS_DATE_LANGUAGE='AMERICAN'",
-        "NLS_DATE_LANGUAGE='ENGLISH'", "NLS_NUMERIC_CHARACTERS='.,'", "NLS_NUMERIC_CHARACTERS=.,"}) {
-    if (settings == known) {
-      return;
-    }
-  }
-  throw FunctionError(FunctionError::kUnsupported, "NLS parameters other than those of the session");
+NumberSymbols settingsOf(Arguments arguments) {
+  return arguments.size() < 3 ? NumberSymbols() : numberSymbols(TextOf(arguments[2]).view());
 }
 
 }  // namespace
 
 Value toCharacter(Arguments arguments, const Context&) {
-  checkSettings(arguments);
   const Value& value = arguments[0];
   if (arguments.size() < 2) {
     return value.isText() ? value : Value::text(toText(value));
   }
   const TextOf model(arguments[1]);
+  const NumberSymbols symbols = settingsOf(arguments);
   if (value.isDate()) {
     return Value::text(formatDate(value.date(), model.view()));
   }
-  return Value::text(formatNumber(toNumber(value), model.view()));
+  return Value::text(formatNumber(toNumber(value), model.view(), symbols));
 }
 
 Value toNumeric(Arguments arguments, const Context&) {
-  checkSettings(arguments);
   if (arguments.size() < 2) {
     return toNumber(arguments[0]);
   }
-  return parseNumber(TextOf(arguments[0]).view(), TextOf(arguments[1]).view());
+  return parseNumber(TextOf(arguments[0]).view(), TextOf(arguments[1]).view(), settingsOf(arguments));
 }
 
 // A DATE goes through its own text too, and so loses its time of day, as it does on the server.
 Value toDateValue(Arguments arguments, const Context& context) {
-  checkSettings(arguments);
+  settingsOf(arguments);
   const TextOf text(arguments[0]);
   if (arguments.size() < 2) {
     return parseDate(text.view(), kDefaultDateModel, context);
