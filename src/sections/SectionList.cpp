@@ -19,6 +19,15 @@
 #include "sections/cluster/ModuleDispMessagingStatistics.h"
 #include "sections/cluster/ModuleDispRACStatistics.h"
 #include "sections/cluster/ModuleDispWorkloadCharacteristics.h"
+#include "sections/contention/ModuleDispEnqueueActivity.h"
+#include "sections/contention/ModuleDispLatchActivity.h"
+#include "sections/contention/ModuleDispLatchMissSources.h"
+#include "sections/contention/ModuleDispLatchSleepBreakdown.h"
+#include "sections/contention/ModuleDispMutexSleep.h"
+#include "sections/contention/ModuleDispRollbackSegmentStats.h"
+#include "sections/contention/ModuleDispRollbackSegmentStorage.h"
+#include "sections/contention/ModuleDispUndoSegmentStats.h"
+#include "sections/contention/ModuleDispUndoSegmentSummary.h"
 #include "sections/memory/ModuleDispBufferPoolAdvisory.h"
 #include "sections/memory/ModuleDispBufferPoolStatistics.h"
 #include "sections/memory/ModuleDispBufferwaitStatistics.h"
@@ -38,6 +47,11 @@
 #include "sections/memory/ModuleDispSQLMemoryStatistics.h"
 #include "sections/memory/ModuleDispSharedPoolAdvisory.h"
 #include "sections/memory/ModuleDispTopProcessMemory.h"
+#include "sections/objects/ModuleDispDictionaryCacheStats.h"
+#include "sections/objects/ModuleDispLibraryCacheActivity.h"
+#include "sections/objects/ModuleDispResourceLimitStats.h"
+#include "sections/objects/ModuleDispSegmentsby.h"
+#include "sections/objects/ModuleDispinitParameters.h"
 #include "sections/sql/ModuleDispSQLorderedby.h"
 #include "sections/summary/ModuleDispCacheSize.h"
 #include "sections/summary/ModuleDispHostCPU.h"
@@ -55,14 +69,6 @@
 #include "sections/waits/ModuleDispWaitEvents.h"
 
 namespace kestrelix {
-namespace {
-
-/// A Section that is listed and shows nothing yet.
-SectionEntry pending(std::string_view text, int code, Versions versions, bool needsRac) {
-  return {text, code, versions, needsRac, false, nullptr, nullptr, refused()};
-}
-
-}  // namespace
 
 /// {text, code, versions, needs RAC, SQL buttons, section object, All view, Col view}
 SectionList sectionList() {
@@ -126,27 +132,27 @@ SectionList sectionList() {
       {"PGA Memory Advisory", 83, kAllVersions, false, false, make<clsPGAMemoryAdvisory>, gDispPGAMemoryAdvisory_All, byKeys({1, 2}, gDispPGAMemoryAdvisory_Col)},
       {"Process Memory Summary Stats", 84, V10_11, false, false, make<clsProcessMemorySummaryStats>, gDispProcessMemorySummaryStats_All, beginOrEnd({1, 2}, gDispProcessMemorySummaryStats_ColBegin, gDispProcessMemorySummaryStats_ColEnd)},
       {"Top Process Memory (by component)", 85, V10_11, false, false, make<clsTopProcessMemory>, gDispTopProcessMemory_All, beginOrEnd({1, 2, 3}, gDispTopProcessMemory_ColBegin, gDispTopProcessMemory_ColEnd)},
-      pending("Enqueue Activity", 90, kAllVersions, false),
-      pending("Rollback Segment Stats", 100, kAllVersions, false),
-      pending("Rollback Segment Storage", 101, kAllVersions, false),
-      pending("Undo Segment Summary", 102, kAllVersions, false),
-      pending("Undo Segment Stats", 103, kAllVersions, false),
-      pending("Latch Activity", 111, kAllVersions, false),
-      pending("Latch Sleep Breakdown", 112, kAllVersions, false),
-      pending("Latch Miss Sources", 113, kAllVersions, false),
-      pending("Mutex Sleep", 114, V10_11, false),
-      pending("Segments by Logical Reads", 120, kAllVersions, false),
-      pending("Segments by Physical Reads", 121, kAllVersions, false),
-      pending("Segments by Row Lock Waits", 122, kAllVersions, false),
-      pending("Segments by ITL Waits", 123, kAllVersions, false),
-      pending("Segments by Buffer Busy Waits", 124, kAllVersions, false),
-      pending("Segments by GC Buffer Busy Waits", 130, V10_11, true),
-      pending("Segments by CR Blocks Received", 131, V10_11, true),
-      pending("Segments By CU Blocks Received", 132, V10_11, true),
-      pending("Dictionary Cache Stats[1]", 140, kAllVersions, false),
-      pending("Dictionary Cache Stats[2]", 141, V10_11, true),
-      pending("Library Cache Activity[1]", 142, kAllVersions, false),
-      pending("Library Cache Activity[2]", 143, V10_11, true),
+      {"Enqueue Activity", 90, kAllVersions, false, false, make<clsEnqueueactivity>, gDispEnqueueActivity_All, byKeys({1}, gDispEnqueueActivity_Col)},
+      {"Rollback Segment Stats", 100, kAllVersions, false, false, make<clsRollbackSegmentStats>, gDispRollbackSegmentStats_All, byKeys({1}, gDispRollbackSegmentStats_Col)},
+      {"Rollback Segment Storage", 101, kAllVersions, false, false, make<clsRollbackSegmentStorage>, gDispRollbackSegmentStorage_All, byKeys({1}, gDispRollbackSegmentStorage_Col)},
+      {"Undo Segment Summary", 102, kAllVersions, false, false, make<clsUndoSegmentSummary>, gDispUndoSegmentSummary_All, anyRow(gDispUndoSegmentSummary_Col)},
+      {"Undo Segment Stats", 103, kAllVersions, false, false, make<clsUndoSegmentStats>, gDispUndoSegmentStats_All, refused()},
+      {"Latch Activity", 111, kAllVersions, false, false, make<clsLatchActivity>, gDispLatchActivity_All, byKeys({1}, gDispLatchActivity_Col)},
+      {"Latch Sleep Breakdown", 112, kAllVersions, false, false, make<clsLatchSleepBreakdown>, gDispLatchSleepBreakdown_All, byKeys({1}, gDispLatchSleepBreakdown_Col)},
+      {"Latch Miss Sources", 113, kAllVersions, false, false, make<clsLatchMissSources>, gDispLatchMissSources_All, byKeys({1}, gDispLatchMissSources_Col)},
+      {"Mutex Sleep", 114, V10_11, false, false, make<clsMutexSleep>, gDispMutexSleep_All, byKeys({1}, gDispMutexSleep_Col)},
+      {"Segments by Logical Reads", 120, kAllVersions, false, false, make<clsSegmentsby>, gDispSegmentsbyLogicalReads_All, byKeys({1, 3, 4, 5}, gDispSegmentsbyLogicalReads_Col)},
+      {"Segments by Physical Reads", 121, kAllVersions, false, false, make<clsSegmentsby>, gDispSegmentsbyPhysicalReads_All, byKeys({1, 3, 4, 5}, gDispSegmentsbyPhysicalReads_Col)},
+      {"Segments by Row Lock Waits", 122, kAllVersions, false, false, make<clsSegmentsby>, gDispSegmentsbyRowLockWaits_All, byKeys({1, 3, 4, 5}, gDispSegmentsbyRowLockWaits_Col)},
+      {"Segments by ITL Waits", 123, kAllVersions, false, false, make<clsSegmentsby>, gDispSegmentsbyITLWaits_All, byKeys({1, 3, 4, 5}, gDispSegmentsbyITLWaits_Col)},
+      {"Segments by Buffer Busy Waits", 124, kAllVersions, false, false, make<clsSegmentsby>, gDispSegmentsbyBufferBusyWaits_All, byKeys({1, 3, 4, 5}, gDispSegmentsbyBufferBusyWaits_Col)},
+      {"Segments by GC Buffer Busy Waits", 130, V10_11, true, false, make<clsSegmentsby>, gDispSegmentsbyGCBufferBusyWaits_All, byKeys({1, 3, 4, 5}, gDispSegmentsbyGCBufferBusyWaits_Col)},
+      {"Segments by CR Blocks Received", 131, V10_11, true, false, make<clsSegmentsby>, gDispSegmentsbyCRBlocksReceived_All, byKeys({1, 3, 4, 5}, gDispSegmentsbyCRBlocksReceived_Col)},
+      {"Segments By CU Blocks Received", 132, V10_11, true, false, make<clsSegmentsby>, gDispSegmentsbyCUBlocksReceived_All, byKeys({1, 3, 4, 5}, gDispSegmentsbyCUBlocksReceived_Col)},
+      {"Dictionary Cache Stats[1]", 140, kAllVersions, false, false, make<clsDictionaryCacheStats>, gDispDictionaryCacheStats1_All, byKeys({1}, gDispDictionaryCacheStats1_Col)},
+      {"Dictionary Cache Stats[2]", 141, V10_11, true, false, make<clsDictionaryCacheStats>, gDispDictionaryCacheStats2_All, byKeys({1}, gDispDictionaryCacheStats2_Col)},
+      {"Library Cache Activity[1]", 142, kAllVersions, false, false, make<clsLibraryCacheActivity>, gDispLibraryCacheActivity1_All, byKeys({1}, gDispLibraryCacheActivity1_Col)},
+      {"Library Cache Activity[2]", 143, V10_11, true, false, make<clsLibraryCacheActivity>, gDispLibraryCacheActivity2_All, byKeys({1}, gDispLibraryCacheActivity2_Col)},
       {"Global Enqueue Stats", 150, V10_11, true, false, make<clsGlobalEnqueueStats>, gDispGlobalEnqueueStats_All, byKeys({1}, gDispGlobalEnqueueStats_Col)},
       {"Global CR Served Stats", 151, V10_11, true, false, make<clsGlobalCRServedStats>, gDispGlobalCRServedStats_All, byRow(gDispGlobalCRServedStats_Col)},
       {"Global CURRENT Served Stats", 152, V10_11, true, false, make<clsGlobalCURRENTServedStats>, gDispGlobalCURRENTServedStats_All, byRow(gDispGlobalCURRENTServedStats_Col)},
@@ -160,8 +166,8 @@ SectionList sectionList() {
       {"SGA Memory Summary", 164, kAllVersions, false, false, make<clsSGAMemorySummary>, gDispSGAMemorySummary_All, byKeys({1}, gDispSGAMemorySummary_Col)},
       {"SGA breakdown difference", 165, kAllVersions, false, false, make<clsSGAbreakdowndifference>, gDispSGAbreakdowndifference_All, byKeys({1, 2}, gDispSGAbreakdowndifference_Col)},
       {"SQL Memory Statistics", 166, V10_11, false, false, make<clsSQLMemoryStatistics>, gDispSQLMemoryStatistics_All, byRow(gDispSQLMemoryStatistics_Col)},
-      pending("Resource Limit Stats", 170, kAllVersions, false),
-      pending("init.ora Parameters", 180, kAllVersions, false),
+      {"Resource Limit Stats", 170, kAllVersions, false, false, make<clsResourceLimitStats>, gDispResourceLimitStats_All, byKeys({1}, gDispResourceLimitStats_Col)},
+      {"init.ora Parameters", 180, kAllVersions, false, false, make<clsinitParameters>, gDispinitParameters_All, byKeys({1}, gDispinitParameters_Col)},
   };
   // clang-format on
   return sections;

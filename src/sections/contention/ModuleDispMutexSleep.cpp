@@ -1,0 +1,28 @@
+#include "sections/contention/ModuleDispMutexSleep.h"
+
+#include "report/GridRendering.h"
+
+namespace kestrelix {
+namespace {
+
+using M = clsMutexSleep;
+
+/// The key is a prefix: it is bound with "%" behind it.
+const ListView kView{{{"MUTEX TYPE", &M::MUTEX_TYPE},
+                      {"LOCATION", &M::LOCATION},
+                      {"SLEEPS", &M::SLEEPS},
+                      {"WAIT TIME(S)", &M::WAIT_TIME_SEC}}};
+
+}  // namespace
+
+void gDispMutexSleep_All(Workspace& workspace, const std::string& version) {
+  clsMutexSleep object;
+  renderListAll(workspace, object, "getMUTEX_SLEEP_ALL", kView, version, {"%"});
+}
+
+void gDispMutexSleep_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
+  clsMutexSleep object;
+  renderListCol(workspace, object, "getMUTEX_SLEEP_COL", kView, version, {request.keys.at(0) + "%"});
+}
+
+}  // namespace kestrelix
