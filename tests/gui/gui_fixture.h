@@ -1,0 +1,110 @@
+// The whole program on an offscreen display, over a fake server, driven through its widgets' names.
+#pragma once
+
+#include <QApplication>
+#include <QClipboard>
+#include <QTableView>
+#include <QTest>
+#include <memory>
+
+#include "platform/qt/Desktop.h"
+#include "platform/qt/desktop_services.h"
+#include "shell/main_fixture.h"
+
+namespace kestrelix::testing_support {
+
+/// A Section of forty rows, whose second column holds line ends.
+inline void renderLong(Workspace& workspace, const std::string&) {
+  fillGrid(workspace, "Long", 40);
+  Grid& grid = workspace.controls.MSFlexGridMain;
+  for (int r = 1; r <= 40; ++r) grid.TextMatrix(r, 0, std::to_string(r));
+  grid.TextMatrix(1, 2, "select *\r\nfrom\tdual");
+  for (int r = 1; r <= 40; ++r) grid.TextMatrix(r, 3, std::to_string(r * 10));
+}
+
+inline SectionList guiCatalogue() {
+  static const std::vector<SectionEntry> sections = [] {
+    std::vector<SectionEntry> all(smallCatalogue().begin(), smallCatalogue().end());
+    all.push_back({"Long", 200, kAllVersions, false, false, nullptr, renderLong, byKeys({1}, renderCol)});
+    return all;
+  }();
+  return sections;
+}
+
+class GuiTest : public ShellTest {
+ protected:
+  GuiTest() {
+    services.sections = guiCatalogue();
+    rendered().clear();
+    layInstance(server, "1001", "10.2.0.4.0", "1", "YES");
+    laySnapshots(server, {{"1", "2026-01-05 10:00:00"},
+                          {"2", "2026-01-05 11:00:00"},
+                          {"3", "2026-01-05 12:00:00"},
+                          {"4", "2026-01-05 13:00:00"}});
+  }
+
+  void start(const std::string& stored = "DEMO,PERFSTAT,perfstat\r\n") {
+    folder.writeLogins(stored);
+    desktop = std::make_unique<Desktop>(DesktopParts{
+        boxes,
+        {qtClipboard, services.help, services.programFolder, services.makeSession, services.sections},
+        [this](Workspace&) { return recorded.operations(); }});
+    desktop->start();
+    settle();
+  }
+  void logOn() {
+    start();
+    doubleClickCell("MSFlexGridLogin", 0, 0);
+  }
+  static void settle() {
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  static QWidget* window(const char* name) {
+    for (QWidget* top : QApplication::topLevelWidgets())
+      if (top->isVisible() && top->objectName() == name) return top;
+    return nullptr;
+  }
+  template <class Widget = QWidget>
+  static Widget* find(const char* name) {
+    for (QWidget* top : QApplication::topLevelWidgets())
+      if (auto* found = top->findChild<Widget*>(name)) return found;
+    throw std::runtime_error(std::string("there is no widget ") + name);
+  }
+  static QAbstractItemView* view(const char* name) { return find<QAbstractItemView>(name); }
+  static QString cell(const char* grid, int row, int col) {
+    return view(grid)->model()->index(row, col).data().toString();
+  }
+  static QPoint centre(const char* name, int row, int col) {
+    const QModelIndex index = view(name)->model()->index(row, col);
+    view(name)->scrollTo(index);
+    return view(name)->visualRect(index).center();
+  }
+  static void click(const char* name, int row, int col = 0, Qt::KeyboardModifiers keys = {}) {
+    QTest::mouseClick(view(name)->viewport(), Qt::LeftButton, keys, centre(name, row, col));
+    settle();
+  }
+  static void doubleClickCell(const char* name, int row, int col) {
+    const QPoint at = centre(name, row, col);
+    QTest::mouseClick(view(name)->viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseDClick(view(name)->viewport(), Qt::LeftButton, {}, at);
+    settle();
+  }
+  static void press(const char* button) {
+    QTest::mouseClick(find(button), Qt::LeftButton);
+    settle();
+  }
+  static void key(const char* widget, Qt::Key pressed, Qt::KeyboardModifiers keys = {}) {
+    QTest::keyClick(find(widget), pressed, keys);
+    settle();
+  }
+  static std::string clipboardText() { return QApplication::clipboard()->text().toStdString(); }
+
+  RecordingOperations recorded;
+  QtClipboard qtClipboard;
+  std::unique_ptr<Desktop> desktop;
+};
+
+}  // namespace kestrelix::testing_support
