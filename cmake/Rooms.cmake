@@ -47,9 +47,10 @@ function(kestrelix_room name)
   endif()
 endfunction()
 
-# kestrelix_tests(NAME [FOLDER path] USES rooms...): one GoogleTest program of every tests/<FOLDER>/*.cpp.
+# kestrelix_tests(NAME [FOLDER path] [WHOLE] USES rooms...): one GoogleTest program of every tests/<FOLDER>/*.cpp.
+# With WHOLE it is run once for all its tests, which share what is dear to make.
 function(kestrelix_tests name)
-  cmake_parse_arguments(T "" "FOLDER" "USES" ${ARGN})
+  cmake_parse_arguments(T "WHOLE" "FOLDER" "USES" ${ARGN})
   if(NOT T_FOLDER)
     set(T_FOLDER ${name})
   endif()
@@ -62,5 +63,9 @@ function(kestrelix_tests name)
   target_compile_definitions(${name}_tests PRIVATE
     KESTRELIX_SOURCE_DIR="${CMAKE_SOURCE_DIR}" KESTRELIX_BIN_DIR="${CMAKE_BINARY_DIR}/bin")
   target_link_libraries(${name}_tests PRIVATE ${T_USES} GTest::gmock_main)
-  gtest_discover_tests(${name}_tests TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
+  if(T_WHOLE)
+    add_test(NAME ${name} COMMAND ${name}_tests)
+  else()
+    gtest_discover_tests(${name}_tests TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60)
+  endif()
 endfunction()

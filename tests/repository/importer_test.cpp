@@ -6,7 +6,7 @@
 
 #include <fstream>
 
-#include "repository/sqlite_reading.h"
+#include "support/sqlite_reading.h"
 
 namespace kestrelix::embedded {
 namespace {

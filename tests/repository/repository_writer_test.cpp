@@ -8,8 +8,8 @@
 #include <fstream>
 
 #include "platform/embedded/writing/password_hash.h"
-#include "repository/sqlite_reading.h"
 #include "support/fixture_repository.h"
+#include "support/sqlite_reading.h"
 
 namespace kestrelix::embedded {
 namespace {

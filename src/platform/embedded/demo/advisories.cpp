@@ -133,7 +133,9 @@ class Advisories : public Topic {
     const std::int64_t reads = scaled(reads_, step.worth, 1000);
     const std::int64_t seconds = scaled(readMicros_ / 1000000, step.worth, 1000);
     const std::int64_t percent =
-        dbTime_ == 0 ? 0 : scaled(readMicros_ / 1000, step.worth, 10) / (dbTime_ / 1000 + 1);
+        dbTime_ == 0
+            ? 0
+            : std::min<std::int64_t>(100, scaled(readMicros_ / 1000, step.worth, 10) / (dbTime_ / 1000 + 1));
     cache_.at(snapshot, 3, "DEFAULT", database_.blockSize, bytes / (database_.blockSize + 320), "ON",
               bytes / kMb, thousandths(step.size), thousandths(step.worth), reads, seconds,
               Cell::decimal(percent, 0), scaled(cluster_, step.worth, 1000),

@@ -90,7 +90,8 @@ class BufferCache : public Topic {
     for (std::size_t i = 0; i < kClasses.size(); ++i)
       waits_.at(snapshot, kClasses[i].name, counts_[i], micros_[i] / 10000);
 
-    const std::int64_t redo = std::min<std::int64_t>(redoRate_ * 600 / 1000 + 4000, 1200000);
+    const std::int64_t redo =
+        std::min<std::int64_t>(redoRate_ * 600 / 1000 + 4000, random_.between(880000, 1200000));
     recovery_.at(snapshot, redo / 7, redo, redo + redo / 5, 1474560, redoRate_ * 1800 / 1000,
                  database_.has(11) ? Cell() : Cell(0), Cell(), 300, 14 + redo / 60000 + random_.between(0, 3),
                  checkpointWrites_);

@@ -12,8 +12,11 @@ struct File {
   std::string name;
   int number = 0;
   bool temporary = false;
-  int readShare = 0;  // thousandths, of its kind of file
+  // Thousandths, of its kind of file.
+  int readShare = 0;
+  int scanShare = 0;
   int writeShare = 0;
+  int slowness = 1000;  // thousandths of the usual time of a read
   std::int64_t reads = 0, writes = 0, singleReads = 0, readBlocks = 0, writeBlocks = 0;
   std::int64_t readMicros = 0, writeMicros = 0, singleMicros = 0, waits = 0, waitMicros = 0;
   Histogram histogram{};
@@ -36,11 +39,12 @@ class Files : public Topic {
           const int rest = whole / (space.files + 1);
           return i == 1 ? whole - rest * (space.files - 1) : rest;
         };
-        add(space.name, i, ++number, false, share(space.readShare), share(space.writeShare));
+        add(space.name, i, ++number, false, share(space.readShare), share(space.scanShare),
+            share(space.writeShare));
       }
     }
-    add("TEMP", 1, 1, true, 600, 600);
-    add("TEMP", 2, 2, true, 400, 400);
+    add("TEMP", 1, 1, true, 600, 600, 600);
+    add("TEMP", 2, 2, true, 400, 400, 400);
   }
 
   void restart() override {
@@ -52,10 +56,11 @@ class Files : public Topic {
   }
 
   void advance(const Work& w) override {
-    give(w.singleReads + w.multiRequests + w.directRequests, false, &File::reads, &File::readShare);
-    give(w.singleReads + w.multiReads + w.directReads, false, &File::readBlocks, &File::readShare);
-    give(w.singleRead.micros + w.multiRead.micros + w.directRead.micros, false, &File::readMicros,
-         &File::readShare);
+    give(w.singleReads, false, &File::reads, &File::readShare);
+    give(w.multiRequests + w.directRequests, false, &File::reads, &File::scanShare);
+    give(w.singleReads, false, &File::readBlocks, &File::readShare);
+    give(w.multiReads + w.directReads, false, &File::readBlocks, &File::scanShare);
+    give(w.multiRead.micros + w.directRead.micros, false, &File::readMicros, &File::scanShare);
     give(w.writeRequests + w.directWriteRequests, false, &File::writes, &File::writeShare);
     give(w.writes + w.directWrites, false, &File::writeBlocks, &File::writeShare);
     give(w.writeRequests * 1900 + w.directWrite.micros, false, &File::writeMicros, &File::writeShare);
@@ -88,7 +93,8 @@ class Files : public Topic {
       "wait_count time file#";
   static constexpr const char* kBuckets = "file# singleblkrdtim_milli singleblkrds";
 
-  void add(const std::string& tablespace, int part, int number, bool temporary, int reads, int writes) {
+  void add(const std::string& tablespace, int part, int number, bool temporary, int reads, int scans,
+           int writes) {
     std::string name;
     for (const char c : tablespace) name += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
     const std::string two = (part < 10 ? "0" : "") + std::to_string(part);
@@ -100,6 +106,8 @@ class Files : public Topic {
     file.number = number;
     file.temporary = temporary;
     file.readShare = reads;
+    file.scanShare = scans;
+    file.slowness = static_cast<int>(random_.between(890, 1110));
     file.writeShare = writes;
     files_.push_back(std::move(file));
   }
@@ -123,8 +131,10 @@ class Files : public Topic {
     const std::int64_t count = file.temporary ? scaled(w.tempReadRequests, file.readShare, 4000)
                                               : scaled(w.singleReads, file.readShare, 1000);
     if (count == 0) return;
-    const std::int64_t micros = count * (kind.micros / std::max<std::int64_t>(1, kind.waits));
+    const std::int64_t usual = kind.micros / std::max<std::int64_t>(1, kind.waits);
+    const std::int64_t micros = count * usual * file.slowness / 1000;
     file.singleReads += count;
+    if (!file.temporary) file.readMicros += micros;
     file.singleMicros += micros;
     addSpread(file.histogram, count, micros, random_);
   }

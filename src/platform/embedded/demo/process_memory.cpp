@@ -145,7 +145,9 @@ class ProcessMemory : public Topic {
 
   void writeStatistics(const Snapshot& snapshot, const MemoryLayout& layout, std::int64_t allocated) {
     const auto put = [&](const char* name, std::int64_t value) { statistics_.at(snapshot, name, value); };
-    const std::int64_t used = sessions_ * random_.between(60, 420) * kKb;
+    const bool sorting = instance_.database->business == Business::Warehouse;
+    const std::int64_t used =
+        std::min(allocated / 2, sessions_ * random_.between(60, 420) * kKb * (sorting ? 12 : 1));
     maximum_ = std::max(maximum_, allocated);
     put("aggregate PGA target parameter", layout.pgaTarget);
     put("aggregate PGA auto target", layout.pgaTarget * 9 / 10 - allocated / 2);

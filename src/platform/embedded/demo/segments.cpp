@@ -51,13 +51,7 @@ class Segments : public Topic {
       const StatementWork& one = work.statements[i];
       const auto& used = uses_[i];
       if (used.empty() || one.executions == 0) continue;
-      // The newest partition takes half of the work, the one before half of the rest, and so on.
-      std::int64_t share =
-          statements_[i].plan == PlanShape::Partitions ? 450 : 900 / static_cast<int>(used.size());
-      for (Segment* segment : used) {
-        addWork(*segment, one, work, share);
-        if (statements_[i].plan == PlanShape::Partitions) share = std::max<std::int64_t>(share / 2, 1);
-      }
+      for (const Use& use : used) addWork(*use.segment, one, work, use.share);
     }
   }
 
@@ -71,26 +65,40 @@ class Segments : public Topic {
   }
 
  private:
-  static bool isPartitioned(std::string_view table) { return table == "SALES_FACT" || table == "CLICK_LOG"; }
+  /// A segment that a statement works on, and its share of the work in thousandths.
+  struct Use {
+    Segment* segment = nullptr;
+    std::int64_t share = 0;
+  };
 
-  std::vector<Segment*> segmentsOf(const Statement& statement, Tables& tables, Rows& names) {
-    std::vector<Segment*> used;
-    bool index = false;
-    std::string_view rest = statement.objects;
-    while (!rest.empty()) {
+  static bool isPartitioned(std::string_view table) {
+    return table == "SALES_FACT" || table == "CLICK_LOG" || table == "AUDIT_TRAIL_APP" ||
+           table == "ORDER_HISTORY";
+  }
+
+  std::vector<Use> segmentsOf(const Statement& statement, Tables& tables, Rows& names) {
+    std::vector<std::string> objects;
+    for (std::string_view rest = statement.objects; !rest.empty();) {
       const std::size_t end = std::min(rest.find(' '), rest.size());
-      const std::string name(rest.substr(0, end));
+      // The server's memory structures are no segments.
+      if (!rest.starts_with("X$")) objects.emplace_back(rest.substr(0, end));
       rest.remove_prefix(std::min(end + 1, rest.size()));
-      const bool fixedView = name.starts_with("X$");
-      if (!fixedView && isPartitioned(name)) {
-        for (int part = kPartitions; part >= 1; --part)
-          used.push_back(segment(statement, tables, names, name,
-                                 "P2015" + std::string(part < 10 ? "0" : "") + std::to_string(part),
-                                 "TABLE PARTITION"));
-      } else if (!fixedView) {
-        used.push_back(segment(statement, tables, names, name, "", index ? "INDEX" : "TABLE"));
+    }
+    std::vector<Use> used;
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+      std::int64_t share = 900 / static_cast<std::int64_t>(objects.size());
+      if (!isPartitioned(objects[i])) {
+        used.push_back(
+            {segment(statement, tables, names, objects[i], "", i % 2 == 0 ? "TABLE" : "INDEX"), share});
+        continue;
       }
-      index = !index;
+      // The newest partition takes half of the work, the one before half of the rest, and so on.
+      for (int part = kPartitions; part >= 1; --part) {
+        share = std::max<std::int64_t>(share / 2, 1);
+        const std::string month = (part < 10 ? "0" : "") + std::to_string(part);
+        const std::string name = "P" + database_.start.substr(0, 4) + month;
+        used.push_back({segment(statement, tables, names, objects[i], name, "TABLE PARTITION"), share});
+      }
     }
     return used;
   }
@@ -144,7 +152,7 @@ class Segments : public Topic {
   const std::vector<Statement>& statements_;
   Rows rows_;
   std::map<std::string, Segment> segments_;
-  std::vector<std::vector<Segment*>> uses_;  // by statement
+  std::vector<std::vector<Use>> uses_;  // by statement
 };
 
 }  // namespace

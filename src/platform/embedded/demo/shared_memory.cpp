@@ -150,7 +150,7 @@ class SharedMemory : public Topic {
     const int release = std::stoi(database_.major);
     std::int64_t used = 0;
     // The statements fill the pool through the day until it is full.
-    const std::int64_t filled = std::min<std::int64_t>(1000, 620 + parses_ / 400);
+    const std::int64_t filled = std::min<std::int64_t>(random_.between(955, 1000), 620 + parses_ / 400);
     for (const PoolPart& part : kSharedParts) {
       if (part.first > release) continue;
       const bool grows = part.share > 40;
@@ -216,7 +216,7 @@ class SharedMemory : public Topic {
     const std::int64_t from = ofCache ? before.cache : before.sharedPool;
     const std::int64_t to = ofCache ? after.cache : after.sharedPool;
     moves_.at(snapshot, ofCache ? "DEFAULT buffer cache" : "shared pool", to > from ? "GROW" : "SHRINK",
-              "DEFERRED", move.time, from, to, to, "COMPLETE", move.time + (to > from ? 2 : 1),
+              "DEFERRED", move.time, from, to, to, "COMPLETE", move.time + 2,
               ofCache ? "db_cache_size" : "shared_pool_size", 1);
   }
 

@@ -141,8 +141,10 @@ class Sql : public Topic {
       writeText(snapshot, cursor);
       if (snapshot.level >= 6) writeUsage(snapshot, cursor);
     }
-    const std::int64_t single = pool_ * random_.between(290, 340) / 1000;
-    totals_.at(snapshot, pool_, pool_ * 21400, single, single * 15800, pool_ * 128 / 100);
+    const std::int64_t all = random_.around(pool_, 12);
+    const std::int64_t single = all * random_.between(290, 340) / 1000;
+    totals_.at(snapshot, all, all * 21400 + random_.between(0, 900000), single, single * 15800,
+               all * random_.between(124, 133) / 100);
   }
 
  private:

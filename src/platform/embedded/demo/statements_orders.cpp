@@ -28,6 +28,7 @@ std::vector<Statement> orderStatements() {
        .plan = NestedLoops,
        .objects = "ORDERS ORDERS_CUST_IX ORDER_LINES ORDER_LINES_PK",
        .sharableKb = 46,
+       .versions = 38,
        .twoPlans = true},
       {.text =
            "SELECT QTY_ON_HAND, QTY_RESERVED FROM STOCK WHERE ITEM_ID = :B1 AND WAREHOUSE = :B2 FOR UPDATE",
@@ -88,7 +89,8 @@ VALUES (:B1, :B2, :B3, :B4, :B5))",
        .parses = 60,
        .plan = FullScan,
        .objects = "ITEMS",
-       .sharableKb = 31},
+       .sharableKb = 310,
+       .versions = 5},
       {.text = R"(SELECT w.warehouse, SUM(s.qty_on_hand) qty, COUNT(*) items
   FROM stock s, warehouses w
  WHERE s.warehouse = w.warehouse

@@ -12,9 +12,9 @@ struct Tablespace {
   std::string name;
   int number = 0;
   int files = 1;
-  int readShare = 0;   // thousandths of the instance's reads
+  int readShare = 0;   // thousandths of the instance's reads of one block
+  int scanShare = 0;   // thousandths of its reads of many
   int writeShare = 0;  // thousandths of its writes
-  int undoOf = 0;      // the instance whose undo it holds
 };
 
 /// In the order of their numbers, without the temporary one; the shares of an instance's tablespaces add up

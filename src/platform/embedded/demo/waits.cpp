@@ -133,11 +133,9 @@ class Waits : public Topic {
       const Waited waited = event->of(work);
       Pair& pair = counters_[event->name];
       add(event->who == Foreground ? pair.foreground : pair.background, waited, event->timeouts);
-      // Both kinds of process read blocks and wait for messages.
+      // The background reads blocks as well.
       if (event->who == Foreground && isShared(event->name))
         add(pair.background, {waited.waits / 400 + 1, waited.micros / 400}, event->timeouts);
-      if (event->who == Background && isShared(event->name))
-        add(pair.foreground, {waited.waits / 6, waited.micros / 6}, event->timeouts);
     }
   }
 
@@ -163,9 +161,7 @@ class Waits : public Topic {
   };
 
   static bool isShared(std::string_view name) {
-    return name == "db file sequential read" || name == "control file sequential read" ||
-           name == "latch free" || name == "direct path read" || name == "events in waitclass Other" ||
-           name == "Disk file operations I/O";
+    return name == "db file sequential read" || name == "latch free" || name == "direct path read";
   }
 
   void add(Counter& counter, const Waited& waited, int timeouts) {

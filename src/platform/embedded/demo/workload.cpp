@@ -214,7 +214,7 @@ void Workload::addWaits(Work& work) {
   const std::int64_t pressure = work.load + (work.bad ? 900 : 0);
   work.rowLock = waited(work.commits * pressure / 14000000 + random_.between(0, 2),
                         random_.between(160000, 420000) + (work.bad ? 900000 : 0));
-  work.bufferBusy = waited(work.gets / 1000 * pressure / 1200000, random_.between(500, 1900));
+  work.bufferBusy = waited(work.gets / 1000 * pressure / 60000, random_.between(500, 1900));
   work.latch = waited(work.gets / 1000 * pressure * pressure / 900000000, random_.between(700, 2600));
   work.library = waited(work.hardParses * pressure / 9000 + work.seconds / 400, random_.between(1500, 7000));
   work.network = waited(work.userCalls / 220, random_.between(60, 220));
