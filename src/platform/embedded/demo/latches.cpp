@@ -160,8 +160,8 @@ class Latches : public Topic {
       const Latch& latch = *known_[i];
       Counter& counter = counters_[i];
       const std::int64_t gets = random_.around(latch.gets(w), 20);
-      const std::int64_t misses = scaled(gets, random_.around(latch.misses, 200) * load / 1000, 1000000);
-      const std::int64_t sleeps = scaled(misses, random_.around(latch.sleeps, 250) * (w.bad ? 3 : 1), 1000);
+      const std::int64_t misses = scaled(gets, random_.around(latch.misses, 200) * load / 200, 1000000);
+      const std::int64_t sleeps = scaled(misses, random_.around(latch.sleeps, 250) * (w.bad ? 3 : 1), 4000);
       const std::int64_t immediate = scaled(gets, latch.immediate, 100);
       counter.gets += gets;
       counter.misses += misses;

@@ -1,13 +1,22 @@
 #include "platform/embedded/demo/memory_layout.h"
 
+#include <array>
+
 namespace kestrelix::embedded::demo {
 
 namespace {
 
 constexpr std::int64_t kMb = 1048576;
 constexpr std::int64_t kDay = 86400;
-constexpr std::int64_t kEvening = 4200;   // 01:10
-constexpr std::int64_t kMorning = 30000;  // 08:20
+
+/// A move of a granule at a second of the day.
+struct DailyMove {
+  std::int64_t second;
+  bool cacheGrows;
+};
+
+constexpr std::array<DailyMove, 4> kMoves = {
+    {{4200, true}, {30000, false}, {45300, false}, {67800, true}}};  // 01:10, 08:20, 12:35, 18:50
 
 }  // namespace
 
@@ -22,10 +31,11 @@ MemoryLayout memoryAt(const Database& database, std::int64_t time) {
   layout.fixed = database.has(11) ? 2257520 : database.has(10) ? 2113088 : 733688;
   layout.logBuffer = database.has(11) ? 15785984 : 14671872;
   layout.pgaTarget = database.pgaMb * kMb;
-  const std::int64_t second = time % kDay;
-  if (database.has(10) && second >= kEvening && second < kMorning) {
-    layout.cache += layout.granule;
-    layout.sharedPool -= layout.granule;
+  if (!database.has(10)) return layout;
+  for (const DailyMove& move : kMoves) {
+    if (time % kDay < move.second) break;
+    layout.cache += move.cacheGrows ? layout.granule : -layout.granule;
+    layout.sharedPool -= move.cacheGrows ? layout.granule : -layout.granule;
   }
   return layout;
 }
@@ -34,8 +44,9 @@ std::vector<MemoryMove> movesBetween(const Database& database, std::int64_t from
   std::vector<MemoryMove> moves;
   if (!database.has(10)) return moves;
   for (std::int64_t day = from / kDay * kDay; day <= to; day += kDay)
-    for (const std::int64_t at : {day + kEvening, day + kMorning})
-      if (at > from && at <= to) moves.push_back({at, at == day + kEvening});
+    for (const DailyMove& move : kMoves)
+      if (day + move.second > from && day + move.second <= to)
+        moves.push_back({day + move.second, move.cacheGrows});
   return moves;
 }
 

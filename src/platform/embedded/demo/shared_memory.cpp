@@ -60,7 +60,7 @@ constexpr auto kLimits = std::to_array<Limit>({{"processes", 100, 22, 600, 600},
                                                {"sessions", 108, 25, 665, 665},
                                                {"enqueue_locks", 60, 20, 8020, 8020},
                                                {"enqueue_resources", 40, 30, 3200, -1},
-                                               {"ges_procs", 0, 0, 0, 0},
+                                               {"ges_procs", 100, 22, 600, 601},
                                                {"ges_ress", 0, 0, 0, -1},
                                                {"ges_locks", 0, 0, 0, -1},
                                                {"dml_locks", 15, 2, 2440, -1},
@@ -175,7 +175,7 @@ class SharedMemory : public Topic {
 
   void writeLimits(const Snapshot& snapshot) {
     for (const Limit& limit : kLimits) {
-      const bool cluster = std::string_view(limit.name).starts_with("ges_");
+      const bool cluster = std::string_view(limit.name).starts_with("ges_") && limit.perSession == 0;
       const std::int64_t now = cluster ? (database_.cluster() ? 400 + sessions_ * 30 : 0)
                                        : limit.fixed + sessions_ * limit.perSession / 100;
       const std::int64_t most = cluster ? now * 11 / 10 : limit.fixed + most_ * limit.perSession / 100;

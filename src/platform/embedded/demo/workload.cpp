@@ -180,9 +180,9 @@ void Workload::addIo(Work& work) {
   work.tempWriteRequests = (work.tempWrites + 6) / 7;
   work.tempReadRequests = (work.tempReads + 6) / 7;
 
-  work.undoBlocks = work.changes / 26 + work.seconds / 60;
   work.redoEntries = scaled(work.changes, 54, 100) + work.commits;
   work.redoBytes = work.redoEntries * random_.between(268, 282) + work.commits * 180;
+  work.undoBlocks = work.redoBytes / 100 * 28 / block + work.seconds / 60;
   // One writer serves many commits at once, the more the busier it is.
   const std::int64_t commitsPerSecond = work.commits / std::max<std::int64_t>(1, work.seconds);
   work.redoWrites =
