@@ -17,7 +17,7 @@ enum class ErrorKind {
 };
 
 /// Bounds beyond which a statement is refused, so that no text can exhaust the stack or the memory.
-inline constexpr std::size_t kMaxStatementBytes = 512 * 1024;
+inline constexpr std::size_t kMaxStatementBytes = std::size_t{512} * 1024;
 inline constexpr std::size_t kMaxTokens = 100'000;
 /// Brackets, subqueries, CASE, calls and prefix operators inside each other.
 inline constexpr int kMaxNesting = 200;

@@ -166,7 +166,7 @@ void Resolver::star(SelectBlock& b, const Scope& scope, const SelectItem& item) 
     bool merged = false;
     for (const FromItem* f : scope.items)
       if (const FromItem* found = leafNamed(*f, name, leaves, merged)) leaf = found;
-    if (leaves == 0) fail(904, "\"" + std::string(item.qualifier) + "\": invalid identifier", item.place);
+    if (!leaf) fail(904, "\"" + std::string(item.qualifier) + "\": invalid identifier", item.place);
     if (leaves > 1) fail(918, "column ambiguously defined", item.place);
     visible(*leaf, all);
   }
