@@ -89,7 +89,8 @@ class Screen:
 
 
 # Places in twips.
-LIST_ROW = 15 * TWIPS
+LIST_ROW = 13 * TWIPS
+GRID_ROW = 15 * TWIPS
 GRID_TOP = 3982
 FIRST_LOGIN = (1500, 120 + 19 * TWIPS + 140)
 BUTTONS = {"GRID": 255, "SQL": 645, "PLAN": 1035, "GRAPH_START": 1575, "GRAPH_LEFT": 1965, "GRAPH_DISP": 2355,
@@ -97,15 +98,15 @@ BUTTONS = {"GRID": 255, "SQL": 645, "PLAN": 1035, "GRAPH_START": 1575, "GRAPH_LE
 
 
 def pair(row):
-    return 54 + 120 + 900, 1328 + 435 + row * LIST_ROW + 120
+    return 54 + 120 + 900, 1328 + 435 + row * LIST_ROW + 100
 
 
 def section(row):
-    return 8160 + 600, 1593 + row * LIST_ROW + 120
+    return 8160 + 600, 1593 + row * LIST_ROW + 100
 
 
 def cell(row, left=2000):
-    return left, GRID_TOP + row * LIST_ROW + 120
+    return left, GRID_TOP + row * GRID_ROW + 120
 
 
 class Tour:
@@ -136,14 +137,50 @@ class Tour:
         screen.click(main, *cell(1), times=2)
         self.keep(main, "col")
         screen.click(main, *pair(1))
-        screen.click(main, *cell(1))
-        screen.run("xdotool", "mousedown", "1")
-        x, y, _, _ = screen.place(main)
-        screen.run("xdotool", "mousemove", str(x + 300), str(y + (GRID_TOP + 3 * LIST_ROW) // TWIPS))
-        screen.run("xdotool", "mouseup", "1")
+        self.drag(main, cell(1), cell(3, 6000))
         self.keep(main, "selection")
+        screen.click(main, 11000, 451 + 560)
+        self.keep(main, "instances")
+        screen.key("Down")
+        screen.key("Down")
+        screen.key("Return")
+        self.keep(main, "cluster-instance")
+        self.choose(main, "Load Profile", 2)
+        self.choose(main, "SQL ordered by CPU TOTAL", 18)
+        self.button(main, "SQL", "sql-text")
+        screen.click(main, *cell(1, 6000), times=2)
+        self.keep(main, "sql-shaped")
+        self.button(main, "PLAN", "plan")
+        screen.key("ctrl+g")
+        screen.click(main, *cell(1), times=2)
+        self.keep(main, "sql-col")
+        screen.click(main, *cell(1, 1200), times=2)
+        self.keep(None, "graph-refused")
+        screen.key("Return")
+        screen.click(main, *cell(1, 6400), times=2)
+        self.keep(main, "graph")
         self.main = main
         return self
+
+    def choose(self, main, name, row):
+        """Shows a Section by its row in the list."""
+        self.screen.click(main, *section(0))
+        self.screen.key("Home")
+        for _ in range(row):
+            self.screen.run("xdotool", "key", "Down")
+        self.screen.click(main, *pair(2))
+        self.keep(main, name.lower().replace(" ", "-"))
+
+    def button(self, main, key, name):
+        self.screen.click(main, BUTTONS[key], 210)
+        self.keep(main, name)
+
+    def drag(self, main, start, end):
+        time.sleep(1)  # apart from the click before, not to make a double click of the two
+        x, y, _, _ = self.screen.place(main)
+        self.screen.run("xdotool", "mousemove", str(x + start[0] // TWIPS), str(y + start[1] // TWIPS), "mousedown", "1")
+        self.screen.run("xdotool", "mousemove", str(x + end[0] // TWIPS), str(y + end[1] // TWIPS))
+        self.screen.run("xdotool", "mouseup", "1")
 
     def keep(self, window, name):
         self.screen.keep(window, self.out / f"{name}.png")

@@ -46,9 +46,7 @@ GridView::GridView(Grid& grid, const QFont& font, QWidget* parent)
   setTabKeyNavigation(false);
   setWordWrap(false);
   setShowGrid(false);
-  setFrameShape(QFrame::Box);
-  setFrameShadow(QFrame::Plain);
-  setLineWidth(1);
+  grid_style::dress(*this);
   setVerticalScrollMode(ScrollPerItem);
   setHorizontalScrollMode(ScrollPerPixel);
   setUpHeadings();
@@ -117,8 +115,6 @@ void GridView::refresh() {
 void GridView::showColours() {
   QPalette colours = palette();
   colours.setColor(QPalette::Base, grid_style::colour(grid_.BackColor()));
-  colours.setColor(QPalette::Text, grid_style::kText);
-  colours.setColor(QPalette::WindowText, grid_style::kHeadingLine);  // the frame
   setPalette(colours);
   QPalette area = viewport()->palette();
   area.setColor(QPalette::Base, grid_style::kEmptyArea);

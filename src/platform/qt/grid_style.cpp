@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QItemSelectionModel>
+#include <QScrollBar>
 
 namespace kestrelix::grid_style {
 namespace {
@@ -33,6 +34,19 @@ void drawText(QPainter& painter, const QRect& rect, Qt::Alignment alignment, con
 }
 
 }  // namespace
+
+void dress(QAbstractScrollArea& view) {
+  view.setFrameShape(QFrame::Box);
+  view.setFrameShadow(QFrame::Plain);
+  view.setLineWidth(kFrame);
+  QPalette colours = view.palette();
+  colours.setColor(QPalette::Base, kBase);
+  colours.setColor(QPalette::Text, kText);
+  colours.setColor(QPalette::WindowText, kFrameLine);
+  view.setPalette(colours);
+  QPalette bars(kScrollBar, kEmptyArea);
+  for (QScrollBar* bar : {view.verticalScrollBar(), view.horizontalScrollBar()}) bar->setPalette(bars);
+}
 
 QColor colour(Colour bgr) {
   if (bgr == kWindowColour) return kBase;
@@ -73,8 +87,7 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 }
 
 QSize EntryDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  const QFontMetrics metrics(option.font);
-  return {metrics.horizontalAdvance(index.data().toString()) + kMargin, metrics.height() + 2};
+  return {QFontMetrics(option.font).horizontalAdvance(index.data().toString()) + kMargin, height_};
 }
 
 void paintHeading(QPainter& painter, const QRect& rect, const QString& text, Qt::Alignment alignment) {

@@ -11,16 +11,9 @@
 namespace kestrelix {
 namespace {
 
-constexpr int kFrame = 1;
 constexpr int kEntriesShown = 20;
-
-void lightColours(QAbstractItemView& view) {
-  QPalette colours = view.palette();
-  colours.setColor(QPalette::Base, grid_style::kBase);
-  colours.setColor(QPalette::Text, grid_style::kText);
-  colours.setColor(QPalette::WindowText, grid_style::kHeadingLine);  // the frame
-  view.setPalette(colours);
-}
+constexpr int kListSpacing = 1;  // pixels of an entry beside its font
+constexpr int kPopupSpacing = 4;
 
 }  // namespace
 
@@ -35,21 +28,21 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
   return text(list_.List(index.row()));
 }
 
-int ListBoxView::textIndent() { return kFrame + grid_style::kMargin; }
+int ListBoxView::textIndent() { return grid_style::kFrame + grid_style::kMargin; }
 
 ListBoxView::ListBoxView(ListBox& list, const QFont& font, QWidget* parent)
-    : QListView(parent), list_(list), model_(new ListModel(list, this)) {
+    : QListView(parent),
+      list_(list),
+      model_(new ListModel(list, this)),
+      rowHeight_(font.pixelSize() + kListSpacing) {
   named(*this, list);
   setFont(font);
   setModel(model_);
-  setItemDelegate(new grid_style::EntryDelegate(this));
+  setItemDelegate(new grid_style::EntryDelegate(rowHeight_, this));
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);
-  setFrameShape(QFrame::Box);
-  setFrameShadow(QFrame::Plain);
-  setLineWidth(kFrame);
-  lightColours(*this);
+  grid_style::dress(*this);
   new Mirror(
       list, [this] { refresh(); }, this);
 }
@@ -64,6 +57,13 @@ void ListBoxView::refresh() {
   if (!selected.isValid()) return selectionModel()->clear();
   if (selectionModel()->currentIndex() != selected || !selectionModel()->isSelected(selected))
     selectionModel()->setCurrentIndex(selected, QItemSelectionModel::ClearAndSelect);
+}
+
+/// Only whole entries show: what is left below them stays empty.
+void ListBoxView::resizeEvent(QResizeEvent* event) {
+  const int inner = height() - 2 * frameWidth();
+  setViewportMargins(0, 0, 0, inner > rowHeight_ ? inner % rowHeight_ : 0);
+  QListView::resizeEvent(event);
 }
 
 void ListBoxView::choose(const QModelIndex& index) {
@@ -99,8 +99,9 @@ ComboBoxView::ComboBoxView(ComboBox& combo, const QFont& font, QWidget* parent)
   entries->setFont(font);
   setView(entries);
   setModel(model_);
-  entries->setItemDelegate(new grid_style::EntryDelegate(this));
-  lightColours(*entries);
+  entries->setItemDelegate(new grid_style::EntryDelegate(font.pixelSize() + kPopupSpacing, this));
+  grid_style::dress(*entries);
+  entries->setFrameShape(QFrame::NoFrame);  // the window around it has one
   setMaxVisibleItems(kEntriesShown);
   connect(this, &QComboBox::activated, this, [this](int index) {
     if (index >= 0 && index < combo_.ListCount()) combo_.ListIndex(index);

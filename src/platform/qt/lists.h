@@ -35,6 +35,7 @@ class ListBoxView final : public QListView {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void refresh();
@@ -42,6 +43,7 @@ class ListBoxView final : public QListView {
 
   ListBox& list_;
   ListModel* model_;
+  int rowHeight_;
   unsigned long shownEntries_ = 0;
 };
 
