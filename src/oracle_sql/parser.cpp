@@ -204,6 +204,8 @@ SelectItem Parser::selectItem() {
     at_ += 2;
     return item;
   }
+  if (isName() && is(Symbol::Dot, 1) && isName(2) && is(Symbol::Dot, 3) && is(Symbol::Star, 4))
+    unsupported("schema.table.*; the table alone does");
   item.expr = value();
   const std::uint32_t end = tokens_[at_ - 1].end();
   item.text = tree_.statement().substr(item.place.offset, end - item.place.offset);
