@@ -37,9 +37,10 @@ TEST(EveryStatement, resolvesAgainstEachReleaseThatListsItsSection) {
   const auto statements = everyStatement();
   ASSERT_FALSE(statements.empty());
   for (const SentStatement& sent : statements)
-    for (const auto& [version, major] : releases)
-      if ((sent.versions & version) != 0)
-        EXPECT_EQ(fault(sent, major), "") << sent.owner << "::" << sent.member << " on release " << major;
+    for (const auto& [version, major] : releases) {
+      if ((sent.versions & version) == 0) continue;
+      EXPECT_EQ(fault(sent, major), "") << sent.owner << "::" << sent.member << " on release " << major;
+    }
 }
 
 TEST(EveryStatement, isOneLineThatEndsInABlank) {
