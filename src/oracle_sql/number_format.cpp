@@ -248,15 +248,17 @@ std::string formatRoman(const Number& number, const NumberModel& model) {
 
 std::string formatHexadecimal(const Number& number, const NumberModel& model) {
   const std::size_t width = model.whole.size() + 1;
-  const Number rounded = number.round();
-  const auto whole = rounded.toInt64();
-  if (!whole || *whole < 0) {
+  const std::int64_t whole = number.round().toInt64().value_or(-1);
+  if (whole < 0) {
     return hashes(width);
   }
+  const std::string_view symbols = model.lower ? "0123456789abcdef" : "0123456789ABCDEF";
   std::string text;
-  for (auto rest = static_cast<std::uint64_t>(*whole); rest != 0 || text.empty(); rest /= 16) {
-    text.insert(0, 1, (model.lower ? "0123456789abcdef" : "0123456789ABCDEF")[rest % 16]);
-  }
+  auto rest = static_cast<std::uint64_t>(whole);
+  do {
+    text.insert(0, 1, symbols[rest % 16]);
+    rest /= 16;
+  } while (rest != 0);
   if (text.size() > model.whole.size()) {
     return hashes(width);
   }
