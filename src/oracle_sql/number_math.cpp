@@ -65,6 +65,34 @@ Number rest(const Number& n, const Number& m, bool nearest) {
   return fromInteger(left, exponent, negative);
 }
 
+// Beyond this power of e every result has left the range of NUMBER: no need to compute it.
+constexpr int kLargestExponential = 400;
+
+Number exponentialOf(const Real& x) {
+  if (x > kLargestExponential) {
+    raiseNumericOverflow();
+  }
+  return x < -kLargestExponential ? Number() : fromReal(boost::multiprecision::exp(x));
+}
+
+Number byLogarithm(const Number& base, const Number& exponent) {
+  return exponentialOf(toReal(exponent) * boost::multiprecision::log(toReal(base)));
+}
+
+void requireWithinExponential(const Number& n) {
+  if (n.abs() > Number(kLargestExponential)) {
+    raiseNumericOverflow();
+  }
+}
+
+// The angle less whole turns, which the largest numbers need more digits for than they have.
+Real withinTurn(const Number& n) {
+  using Wide = boost::multiprecision::number<boost::multiprecision::cpp_dec_float<300>>;
+  static const Wide turn = 8 * boost::multiprecision::atan(Wide(1));
+  const Wide x(n.toPlainText());
+  return Real(x - turn * boost::multiprecision::trunc(x / turn));
+}
+
 void requireOneOrLess(const Number& n) {
   if (compare(n.abs(), Number(1)) > 0) {
     raiseArgumentOutOfRange();
@@ -100,14 +128,14 @@ Number power(const Number& base, const Number& exponent) {
     }
     return base;
   }
-  if (!exponent.isInteger()) {
-    if (base.isNegative()) {
-      raiseArgumentOutOfRange();
-    }
-    return fromReal(boost::multiprecision::pow(toReal(base), toReal(exponent)));
+  if (base.isNegative() && !exponent.isInteger()) {
+    raiseArgumentOutOfRange();
   }
-  if (!exponent.isInt64()) {
-    return fromReal(boost::multiprecision::pow(toReal(base), toReal(exponent)));
+  constexpr std::int64_t kBySquaring = 1000000000;
+  if (!exponent.isInt64() || exponent.abs() > Number(kBySquaring)) {
+    const bool odd = !mod(exponent, Number(2)).isZero();
+    const Number size = byLogarithm(base.abs(), exponent);
+    return base.isNegative() && odd ? -size : size;
   }
   // By squaring, so that a whole power of a short number is exact.
   std::int64_t left = *exponent.abs().toInt64();
@@ -135,12 +163,7 @@ Number sqrt(const Number& n) {
   return n.isZero() ? n : fromReal(boost::multiprecision::sqrt(toReal(n)));
 }
 
-Number exp(const Number& n) {
-  if (compare(n, Number(300)) > 0) {
-    raiseNumericOverflow();
-  }
-  return compare(n, Number(-400)) < 0 ? Number() : fromReal(boost::multiprecision::exp(toReal(n)));
-}
+Number exp(const Number& n) { return exponentialOf(toReal(n)); }
 
 Number ln(const Number& n) {
   if (n.sign() <= 0) {
@@ -161,11 +184,11 @@ Number trigonometric(Trigonometric function, const Number& n) {
   const Real x = toReal(n);
   switch (function) {
     case Trigonometric::Sin:
-      return fromReal(math::sin(x));
+      return fromReal(math::sin(withinTurn(n)));
     case Trigonometric::Cos:
-      return fromReal(math::cos(x));
+      return fromReal(math::cos(withinTurn(n)));
     case Trigonometric::Tan:
-      return fromReal(math::tan(x));
+      return fromReal(math::tan(withinTurn(n)));
     case Trigonometric::Asin:
       requireOneOrLess(n);
       return fromReal(math::asin(x));
@@ -175,11 +198,13 @@ Number trigonometric(Trigonometric function, const Number& n) {
     case Trigonometric::Atan:
       return fromReal(math::atan(x));
     case Trigonometric::Sinh:
+      requireWithinExponential(n);
       return fromReal(math::sinh(x));
     case Trigonometric::Cosh:
+      requireWithinExponential(n);
       return fromReal(math::cosh(x));
     case Trigonometric::Tanh:
-      return fromReal(math::tanh(x));
+      return n.abs() > Number(kLargestExponential) ? Number(n.sign()) : fromReal(math::tanh(x));
   }
   return Number();
 }
