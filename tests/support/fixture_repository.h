@@ -54,6 +54,10 @@ class FixtureRepository {
   /// One row as {column, text}; dates are YYYY-MM-DD HH24:MI:SS, the empty text is NULL, untold columns are
   /// NULL.
   FixtureRepository& row(std::string_view table, Values values) {
+    return row(table, std::vector<std::pair<std::string_view, std::string_view>>(values));
+  }
+  FixtureRepository& row(std::string_view table,
+                         const std::vector<std::pair<std::string_view, std::string_view>>& values) {
     std::map<std::string, std::string> cells;
     for (const auto& [column, value] : values) cells[asciiLower(column)] = value;
     add(table, std::move(cells));

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <map>
 
+#include "chart.h"
 #include "report_run.h"
 #include "sections/EveryStatement.h"
 
@@ -80,9 +81,9 @@ void statements(const Options& options, StderrBoxes&) {
 
 using Command = void (*)(const Options&, StderrBoxes&);
 const std::map<std::string, Command> kCommands{
-    {"instances", instances},  {"pairs", pairs}, {"sections", sections},
-    {"section", section},      {"sql", sql},     {"plan", plan},
-    {"statements", statements}};
+    {"instances", instances},   {"pairs", pairs}, {"sections", sections},
+    {"section", section},       {"sql", sql},     {"plan", plan},
+    {"statements", statements}, {"chart", chart}};
 
 }  // namespace
 

@@ -18,7 +18,7 @@ int main(int count, char** values) {
     std::cerr << "kestrelix-report: " << error.what() << "; --help tells the usage\n";
     return 2;
   } catch (const tool::ReportRun::Stopped&) {
-    // The box has said it.
+    return 1;  // the box has said it
   } catch (const std::exception& error) {
     std::cerr << "kestrelix-report: " << error.what() << '\n';
     return 1;

@@ -25,6 +25,10 @@ commands
                           the All view of a Section for a pair; with --row the
                           series that row R of that view leads to, over all pairs
                           or over those from P1 to P2
+  chart NAME --instance I --pair P --row R --column C [--page N|start|end|max]
+                          a page of 20 pairs of the chart of column C of that
+                          series, "NO" being column 0: title, axis maximum, and
+                          labels and values, as CSV
   sql NAME --instance I --pair P --row R [--shaped]
                           the stored text of the SQL in row R of an SQL ranking,
                           by its pieces or, shaped, by the statement's own lines

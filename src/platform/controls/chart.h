@@ -32,6 +32,8 @@ class Chart : public Control {
   /// The value of the current row, a decimal text. Fails with std::out_of_range when Row is off the chart.
   void Data(std::string value) { point(row_).data = std::move(value); }
   const std::string& Data() const { return point(row_).data; }
+  /// The value of a row, wherever the current one is.
+  const std::string& dataOf(int row) const { return point(row).data; }
   void RowLabel(int row, std::string label) { point(row).label = std::move(label); }
   const std::string& RowLabel(int row) const { return point(row).label; }
 
