@@ -115,6 +115,27 @@ TEST(MemoryResizes, theSeriesTakesTheLastOfTheComponentInEachPairAndHasTwoColumn
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
 
+// 1/86400 of a day is 11 57 and then 40 74 07 again and again; the twenty digits to the base of 100 end
+// before a 40 and are rounded down by .4074 of 1e-44. Times 86400 that is 3.52e-40 short of 1, to forty
+// places 4e-40.
+TEST(MemoryResizes, aSecondAsPartOfADayIsATraceShort) {
+  InstanceRepository repository("11");
+  repository.row("stats$memory_resize_ops", {{"snap_id", "2"},
+                                             {"component", "large pool"},
+                                             {"oper_type", "GROW"},
+                                             {"oper_mode", "MANUAL"},
+                                             {"start_time", "2026-01-05 10:30:00"},
+                                             {"end_time", "2026-01-05 10:30:01"},
+                                             {"initial_size", "0"},
+                                             {"target_size", "1048576"},
+                                             {"final_size", "1048576"},
+                                             {"status", "COMPLETE"},
+                                             {"num_ops", "1"}});
+  OpenReport report(repository);
+  report.all("Memory Resize Operations", 0);
+  EXPECT_EQ(report.grid().TextMatrix(1, 2), "0.9999999999999999999999999999999999999996");
+}
+
 const char* const kChanges = "NO|CACHE|START SIZE(MB)|END SIZE(MB)|DIFF SIZE(MB)\n";
 
 TEST(CacheSizeChanges, sizesInForceAtBothEndsShowTheLargestFirst) {
