@@ -98,7 +98,7 @@ Date Date::fromFields(const DateFields& f) {
     throw FunctionError(1839, "date not valid for month specified");
   }
   const std::int64_t day = julianDayOf(f.year, f.month, f.day) - kEpochJulianDay;
-  return {day * kSecondsOfDay + f.hour * 3600 + f.minute * 60 + f.second};
+  return {day * kSecondsOfDay + (f.hour * 60LL + f.minute) * 60 + f.second};
 }
 
 DateFields Date::fields() const {
@@ -164,7 +164,7 @@ Number monthsBetween(const Date& a, const Date& b) {
   if (x.day == y.day || bothEnds) {
     return months;
   }
-  const std::int64_t seconds = (x.day - y.day) * kSecondsOfDay + a.timeOfDay() - b.timeOfDay();
+  const std::int64_t seconds = std::int64_t{x.day - y.day} * kSecondsOfDay + a.timeOfDay() - b.timeOfDay();
   return Number(months) + Number(seconds) / Number(31 * kSecondsOfDay);
 }
 

@@ -372,7 +372,7 @@ Date assemble(const Found& found, const DateFields& now) {
   if (found.secondOfDay) {
     date.seconds += *found.secondOfDay;
   } else {
-    date.seconds += hourOf(found) * 3600 + found.minute.value_or(0) * 60 + found.second.value_or(0);
+    date.seconds += (hourOf(found) * 60LL + found.minute.value_or(0)) * 60 + found.second.value_or(0);
   }
   return date;
 }

@@ -170,7 +170,7 @@ std::optional<Number> Number::fromBytes(std::span<const std::uint8_t> bytes) {
   if (stored.empty() || stored.size() > kMaxDigits) {
     return std::nullopt;
   }
-  std::uint8_t digits[kMaxDigits];
+  std::uint8_t digits[kMaxDigits] = {};
   for (std::size_t i = 0; i < stored.size(); ++i) {
     const int digit = negative ? 101 - stored[i] : stored[i] - 1;
     if (digit < 0 || digit > 99) {

@@ -181,7 +181,7 @@ Number divide(const NumberParts& a, const NumberParts& b) {
   const int n = pack(b, y);
   // a / b as whole numbers: (x * base^kFraction) / y, both shifted to a large first limb of the divisor.
   const std::uint64_t scale = kBase / (y[0] + 1);
-  std::uint64_t divisor[kLimbs];
+  std::uint64_t divisor[kLimbs] = {};
   std::uint64_t carry = 0;
   for (int i = n - 1; i >= 0; --i) {
     const std::uint64_t value = y[i] * scale + carry;
