@@ -35,6 +35,8 @@ QueryText lowerBlock(Emitter& emitter, const sql::SelectBlock& block,
     std::string where;
     for (const sql::Expr* term : parts.conjuncts)
       where += (where.empty() ? " WHERE " : " AND ") + emitter.condition(*term);
+    if (const std::string keys = givenKeyTests(emitter, block); !keys.empty())
+      where += (where.empty() ? " WHERE " : " AND ") + keys;
     text = assembleBlock(emitter, block, parts.from, where, order);
   }
   emitter.rownum() = rownumAround;
@@ -44,6 +46,7 @@ QueryText lowerBlock(Emitter& emitter, const sql::SelectBlock& block,
 BlockParts lowerFrom(Emitter& emitter, const sql::SelectBlock& block) {
   BlockParts parts;
   splitAnd(block.where, parts.conjuncts);
+  passKeyTests(emitter, block, parts.conjuncts);
   parts.from = emitter.from(block, parts.conjuncts);
   return parts;
 }

@@ -47,6 +47,13 @@ struct Wrap {
   std::map<std::pair<const sql::FromItem*, int>, std::string> exports;
 };
 
+/// A column of a block whose rows matter only where it has that value.
+struct KeyTest {
+  const sql::ColumnRef* column;
+  const sql::Expr* value;  ///< a bind or a literal
+  sql::Place place;
+};
+
 /// A lowered query with the facts of its columns.
 struct QueryText {
   std::string text;
@@ -82,6 +89,8 @@ class Emitter {
 
   /// The aggregate calls of a block whose results are taken from an inner block, by node.
   std::unordered_map<const sql::Expr*, Piece>& replacements() { return replacements_; }
+  /// The tests that a block takes from the blocks around it.
+  std::unordered_map<const sql::SelectBlock*, std::vector<KeyTest>>& keyTests() { return keyTests_; }
   std::vector<Wrap*>& wraps() { return wraps_; }
   /// ROWNUM's text in the block that is being lowered; empty where it cannot stand.
   std::string& rownum() { return rownum_; }
@@ -96,6 +105,7 @@ class Emitter {
   std::unordered_map<const void*, Source> sources_;
   std::unordered_set<std::string> aliases_;
   std::unordered_map<const sql::Expr*, Piece> replacements_;
+  std::unordered_map<const sql::SelectBlock*, std::vector<KeyTest>> keyTests_;
   std::vector<Wrap*> wraps_;
   std::string rownum_;
   const std::vector<Piece>* outputs_ = nullptr;

@@ -24,6 +24,12 @@ struct BlockParts {
 /// outer_marks: "(+)" to LEFT JOIN.
 BlockParts lowerFrom(Emitter& emitter, const sql::SelectBlock& block);
 
+/// key_tests: `view.column = value` on the rows that the view reads, before they are grouped or windowed.
+void passKeyTests(Emitter& emitter, const sql::SelectBlock& block,
+                  const std::vector<const sql::Expr*>& conjuncts);
+/// The tests that the blocks around have handed to this one, as a condition; empty without any.
+std::string givenKeyTests(Emitter& emitter, const sql::SelectBlock& block);
+
 /// joins: ANSI joins, with USING and NATURAL.
 std::string lowerJoin(Emitter& emitter, const sql::JoinItem& join);
 
