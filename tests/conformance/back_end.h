@@ -42,6 +42,12 @@ class BackEnd {
   virtual bool refusesChangesItself() const { return true; }
   /// Whether an unknown name of a database is refused with ORA-12154.
   virtual bool namesUnknownAlias() const { return true; }
+  /// Whether it is Oracle's SQL: its functions, '' as NULL, upper-case names, days as numbers, ORA- codes.
+  virtual bool speaksOracle() const { return true; }
+  /// Whether it has accounts at all.
+  virtual bool checksAccounts() const { return true; }
+  /// Whether a number keeps all its digits, and a column its type, on the way through the driver.
+  virtual bool keepsNumbers() const { return true; }
 };
 
 }  // namespace kestrelix::conformance

@@ -62,6 +62,7 @@ TEST_P(DatabaseConformance, unknownNameOfADatabaseIsRefused) {
 }
 
 TEST_P(DatabaseConformance, wrongUserOrPasswordIsRefused) {
+  if (!backEnd_->checksAccounts()) GTEST_SKIP() << "the driver asks for no account";
   const std::vector<std::string> wrong = {backEnd_->user() + "/" + backEnd_->password() + "x",
                                           backEnd_->user() + "X/" + backEnd_->password(),
                                           backEnd_->user() + "/",
@@ -89,6 +90,7 @@ TEST_P(DatabaseConformance, wrongStatementFailsAndTheNextOneRuns) {
 }
 
 TEST_P(DatabaseConformance, failureAtRunTimeBearsItsOracleCode) {
+  if (!backEnd_->speaksOracle()) GTEST_SKIP() << "the server has its own SQL";
   try {
     run("select 1 / (value - 10) from stats$sample where snap_id = 1");
     FAIL() << "a division by zero gave a result";
@@ -108,6 +110,7 @@ TEST_P(DatabaseConformance, fieldsAreFoundWithoutRegardToCase) {
 }
 
 TEST_P(DatabaseConformance, columnsStandInTheOrderOfTheSelectListInUpperCase) {
+  if (!backEnd_->speaksOracle()) GTEST_SKIP() << "the server has its own SQL";
   const auto rows = run("select name, value as b, snap_id \"Mixed\" from stats$sample");
   EXPECT_THAT(rows->columns(), testing::ElementsAre("NAME", "B", "Mixed"));
 }
@@ -147,11 +150,13 @@ TEST_P(DatabaseConformance, numberColumnHasADigitBeforeThePoint) {
 }
 
 TEST_P(DatabaseConformance, numberColumnKeepsAllItsDigits) {
+  if (!backEnd_->keepsNumbers()) GTEST_SKIP() << "the driver has binary numbers and columns without a type";
   EXPECT_EQ(one("select value from stats$sample where snap_id = 3"),
             "-1234567890123456789012345678901234567.5");
 }
 
 TEST_P(DatabaseConformance, numberInACharacterColumnHasTheServersOwnForm) {
+  if (!backEnd_->speaksOracle()) GTEST_SKIP() << "the server has its own SQL";
   EXPECT_EQ(one("select decode(value, 0, ' ', round(value, 2)) from stats$sample where snap_id = 2"), ".5");
   EXPECT_EQ(one("select value || '' from stats$sample where snap_id = 2"), ".5");
 }
@@ -166,7 +171,7 @@ TEST_P(DatabaseConformance, nullFieldFailsWhenItIsConverted) {
 TEST_P(DatabaseConformance, bindsAreNamedAndUsedAnyNumberOfTimes) {
   bind("b1", ServerType::Number, "2");
   EXPECT_EQ(one("select name from stats$sample where snap_id = :B1 and :b1 = 2"), "second");
-  EXPECT_EQ(one("select :B1 + :B1 from dual"), "4");
+  EXPECT_EQ(one("select snap_id + :B1 + :B1 from stats$sample where snap_id = 1"), "5");
 }
 
 TEST_P(DatabaseConformance, bindThatTheStatementDoesNotNameIsHarmless) {
@@ -199,12 +204,13 @@ TEST_P(DatabaseConformance, bindNameInATextOrACommentIsNoBind) {
 TEST_P(DatabaseConformance, emptyTextBindsNull) {
   bind("T", ServerType::String, "");
   bind("N", ServerType::Number, "");
-  EXPECT_EQ(one("select decode(:T, null, 'null', 'text') from dual"), "null");
-  EXPECT_EQ(one("select nvl(:N, 7) from dual"), "7");
+  EXPECT_EQ(one("select coalesce(:T, 'null') as x from dual"), "null");
+  EXPECT_EQ(one("select coalesce(:N, 7) as x from dual"), "7");
   EXPECT_EQ(one("select count(*) from stats$sample where name = :T"), "0");
 }
 
 TEST_P(DatabaseConformance, textBindIsConvertedForAComparisonWithANumber) {
+  if (!backEnd_->keepsNumbers()) GTEST_SKIP() << "the driver has binary numbers and columns without a type";
   bind("B3", ServerType::String, "2");
   bind("B4", ServerType::String, "3");
   EXPECT_EQ(one("select count(*) from stats$sample where snap_id >= :B3 and snap_id <= :B4"), "2");
@@ -216,6 +222,7 @@ TEST_P(DatabaseConformance, textBindKeepsItsBlanksAndBytes) {
 }
 
 TEST_P(DatabaseConformance, numberBindKeepsAllItsDigits) {
+  if (!backEnd_->keepsNumbers()) GTEST_SKIP() << "the driver has binary numbers and columns without a type";
   bind("N", ServerType::Number, "12345678901234567890.25");
   EXPECT_EQ(one("select :N from dual"), "12345678901234567890.25");
 }
@@ -225,6 +232,7 @@ TEST_P(DatabaseConformance, numberBindThatIsNoNumberFails) {
 }
 
 TEST_P(DatabaseConformance, sameStatementRunsWithOtherBinds) {
+  if (!backEnd_->keepsNumbers()) GTEST_SKIP() << "the driver has binary numbers and columns without a type";
   bind("B1", ServerType::Number, "1");
   const std::string sql = "select value from stats$sample where snap_id = :B1";
   EXPECT_EQ(one(sql), "10");
@@ -250,22 +258,27 @@ TEST_P(DatabaseConformance, dateReadsAsItsFormatTells) {
             "2020-01-31 23:59:59");
   EXPECT_EQ(one("select to_char(taken, 'YYYY-MM-DD HH24:MI:SS') from stats$sample where snap_id = 4"),
             "1969-12-31 12:00:00");
+  if (!backEnd_->speaksOracle()) return;
   EXPECT_EQ(one("select round((e.taken - b.taken) * 86400, 0) from stats$sample b, stats$sample e "
                 "where b.snap_id = 1 and e.snap_id = 2"),
             "2419201");
 }
 
 TEST_P(DatabaseConformance, rawReadsAsUpperCaseHex) {
-  EXPECT_EQ(one("select rawtohex(address) from stats$sample where snap_id = 1"), "0AFF");
+  if (backEnd_->speaksOracle()) {
+    EXPECT_EQ(one("select rawtohex(address) from stats$sample where snap_id = 1"), "0AFF");
+  }
   EXPECT_EQ(one("select address from stats$sample where snap_id = 1"), "0AFF");
 }
 
 TEST_P(DatabaseConformance, emptyLiteralIsNull) {
+  if (!backEnd_->speaksOracle()) GTEST_SKIP() << "the server has its own SQL";
   EXPECT_EQ(one("select count(*) from dual where '' is null"), "1");
   EXPECT_TRUE(run("select '' as x from dual")->Fields("x").isNull());
 }
 
 TEST_P(DatabaseConformance, nullsSortLastAscendingAndFirstDescending) {
+  if (!backEnd_->keepsNumbers()) GTEST_SKIP() << "the driver has binary numbers and columns without a type";
   const auto up = run("select snap_id from stats$sample order by value");
   EXPECT_EQ(up->Fields("snap_id").value(), "3");
   const auto down = run("select snap_id from stats$sample order by value desc");
