@@ -2,7 +2,7 @@
 #include "platform/embedded/local_session.h"
 #include "sections/SectionList.h"
 #include "shell/FormMain.h"
-#include "shell/ReportConnections.h"
+#include "shell/report_operations.h"
 #include "shell/shell_fixture.h"
 #include "support/sql_repository.h"
 
@@ -48,7 +48,7 @@ class SqlPanelsOfTheWindow : public ShellTest {
 
   SqlRepository repository{"11"};
   FormLogin login{workspace, services};
-  FormMain main{workspace, services, connectedOperations(workspace)};
+  FormMain main{workspace, services, reportOperations(workspace)};
   MainControls& controls = workspace.controls;
 };
 
