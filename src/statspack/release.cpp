@@ -190,6 +190,7 @@ std::vector<std::string> Table::key() const {
   std::sort(parts.begin(), parts.end(),
             [](const Column* a, const Column* b) { return a->keyPlace < b->keyPlace; });
   std::vector<std::string> names;
+  names.reserve(parts.size());
   for (const Column* part : parts) names.push_back(part->name);
   return names;
 }

@@ -7,7 +7,7 @@
 
 namespace kestrelix::embedded::demo {
 
-/// The splitmix64 generator of Steele, Lea and Flood, with whole-number helpers.
+/// The splitmix64 generator with what whole numbers need.
 class Random {
  public:
   explicit Random(std::uint64_t seed) : state_(seed) {}

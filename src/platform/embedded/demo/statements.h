@@ -33,11 +33,12 @@ struct Statement {
   std::string_view text;  // lines end in LF here; those of the business's clients get CR LF
   std::string_view module = "";
   Pace pace = Pace::Users;
-  int share = 10;        // of the processors' time at full pace, in thousandths of what is planned
-  int gets = 10;         // blocks read per execution
-  int misses = 20;       // of 10000 of these from disk
-  int rows = 1;          // per execution
-  int changes = 0;       // of blocks per execution
+  int share = 10;   // of the processors' time at full pace, in thousandths of what is planned
+  int perHour = 0;  // executions at full pace, for what has a schedule; its share counts for nothing then
+  int gets = 10;    // blocks read per execution
+  int misses = 20;  // of 10000 of these from disk
+  int rows = 1;     // per execution
+  int changes = 0;  // of blocks per execution
   bool commits = false;  // each execution ends a transaction
   int parses = 10;       // per 100 executions
   PlanShape plan = PlanShape::None;

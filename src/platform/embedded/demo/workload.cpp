@@ -65,10 +65,13 @@ StatementWork Workload::run(const Statement& statement, std::int64_t thousandths
   // Half of the processors at full pace, so that the peak leaves air and a bad hour does not.
   const std::int64_t budget = scaled(database_.cpus * kHour * 500000, statement.share, 1000);
   const std::int64_t cpuEach = 560 + statement.gets * 7LL + statement.rows * 2LL + statement.changes * 9LL;
-  const std::int64_t wanted = scaled(budget, random_.around(thousandthsOfHours, 60), 1000);
-  work.executions = wanted / cpuEach;
+  const bool scheduled = statement.perHour > 0;
+  const std::int64_t wanted = scheduled ? statement.perHour * thousandthsOfHours
+                                        : scaled(budget, random_.around(thousandthsOfHours, 60), 1000);
+  const std::int64_t each = scheduled ? 1000 : cpuEach;
+  work.executions = wanted / each;
   // A statement that takes longer than its share runs in some hours and not in others.
-  if (random_.between(1, cpuEach) <= wanted % cpuEach) ++work.executions;
+  if (random_.between(1, each) <= wanted % each) ++work.executions;
   if (work.executions == 0) return work;
 
   work.parses = std::max<std::int64_t>(1, scaled(work.executions, statement.parses, 100));

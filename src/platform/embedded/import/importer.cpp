@@ -72,6 +72,7 @@ std::vector<Source> sourcesOf(const std::filesystem::path& folder, bool keepUnkn
   if (!unknown.empty()) throw ImportError(folder.string() + ": no release has the tables of " + unknown);
   if (found.empty()) throw ImportError(folder.string() + ": has no CSV file");
   std::vector<Source> sources;
+  sources.reserve(found.size());
   for (auto& [table, source] : found) sources.push_back(std::move(source));
   return sources;
 }

@@ -24,7 +24,7 @@ std::string saltedHash(const std::string& password, const std::optional<Password
   if (sodium_init() < 0) throw std::runtime_error("the cryptographic library does not start");
   static_assert(crypto_pwhash_SALTBYTES == std::tuple_size_v<PasswordSalt>);
   constexpr unsigned kRounds = crypto_pwhash_OPSLIMIT_MIN;
-  constexpr unsigned kKilobytes = 64;
+  constexpr std::size_t kKilobytes = 64;
   PasswordSalt used{};
   if (salt)
     used = *salt;
