@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "platform/embedded/local_session.h"
+#include "platform/odbc/odbc_session.h"
 #include "platform/qt/Desktop.h"
 #include "platform/qt/desktop_services.h"
 #include "sections/SectionList.h"
@@ -24,8 +25,11 @@ int main(int argc, char** argv) {
     QtHelpViewer help;
     const std::filesystem::path folder = programFolder();
     const auto makeSession = [folder] {
+      const BackEnd servers = [](const std::string& name) {
+        return odbc::canReach(name) ? odbc::odbcSession() : nullptr;
+      };
       return std::make_unique<BackEndChain>(
-          std::vector<BackEnd>{localRepositories(folder, embedded::localSession)});
+          std::vector<BackEnd>{localRepositories(folder, embedded::localSession), servers});
     };
     return runDesktop(argc, argv, [&] {
       return DesktopParts{boxes, {clipboard, help, folder, makeSession, sectionList()}, reportOperations};

@@ -2,6 +2,7 @@
 
 #include "navigation/ModuleLoadCommon.h"
 #include "navigation/ModuleRangeCommon.h"
+#include "navigation/version_gate.h"
 #include "report/ModuleDispCommon.h"
 #include "shell/ModuleCommon.h"
 #include "shell/scroll.h"
@@ -34,12 +35,6 @@ constexpr ToolbarButton kButtons[] = {{"GRID", "GRID(Ctrl+G)", "IMG1"},
                                       {"END", "END", ""},
                                       {"COPY", "COPY", "IMG5"},
                                       {"HELP", "HELP", "IMG15"}};
-
-/// The version's text ahead of its first point; without a point, nothing.
-std::string majorVersion(const std::string& version) {
-  const auto point = version.find('.');
-  return point == std::string::npos ? std::string() : version.substr(0, point);
-}
 
 template <class Operation>
 bool run(const Operation& operation) {
@@ -129,11 +124,7 @@ void FormMain::ComboDbInstance_Click() {
   if (unloaded_) return;
   const int instance = controls_.ComboDbInstance.ListIndex();
   mVersion = majorVersion(workspace_.gDbInstance->VERSION(instance));
-  if (versionOf(mVersion) == 0) {
-    workspace_.boxes.show(BoxIcon::Critical,
-                          "未対応のＤＢが選択されました。[対応データベース：Oracle9,Oracle10,Oracle11]");
-    return;
-  }
+  if (!passVersionGate(workspace_.boxes, mVersion)) return;
   mRac = workspace_.gDbInstance->PARALLEL(instance);
   gDispSectionList(workspace_, services_.sections, mVersion, mRac);
 }
