@@ -18,22 +18,14 @@ sql::TypeKind typeKind(const std::string& name) {
   throw DatabaseError("HY000", 0, "the repository has a column of the unknown type " + name);
 }
 
-/// Files written by later versions tell the largest absolute value of a whole column as well.
-bool tellsLargest(sqlite3* connection) {
-  const auto statement =
-      prepare(connection, "SELECT 1 FROM pragma_table_info('kestrelix$column') WHERE name = 'largest'");
-  return step(statement.get());
-}
-
 }  // namespace
 
 FileCatalogue::FileCatalogue(sqlite3* connection) {
   const auto user = prepare(connection, "SELECT value FROM \"kestrelix$setting\" WHERE name = 'user_name'");
   if (step(user.get())) owner_ = asciiUpper(columnText(user.get(), 0));
-  const auto columns =
-      prepare(connection, std::string("SELECT table_name, column_name, oracle_type, integral, ") +
-                              (tellsLargest(connection) ? "largest" : "NULL") +
-                              " FROM \"kestrelix$column\" ORDER BY table_name, position");
+  const auto columns = prepare(connection,
+                               "SELECT table_name, column_name, oracle_type, integral, largest "
+                               "FROM \"kestrelix$column\" ORDER BY table_name, position");
   while (step(columns.get())) {
     const std::string name = asciiUpper(columnText(columns.get(), 0));
     if (entries_.empty() || entries_.back().table.name != name) {
