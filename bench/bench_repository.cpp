@@ -73,14 +73,19 @@ void writeCounters(embedded::RepositoryWriter& writer, std::mt19937& random) {
                                : i == 1 ? "user commits"
                                : i == 2 ? "user rollbacks"
                                         : numbered("statistic of some length ", i);
-      statistics.key(snapshot).set("statistic#", i).set("name", name).set("value", values[i] + (i == 0) * snapshot * 900000);
+      statistics.key(snapshot)
+          .set("statistic#", i)
+          .set("name", name)
+          .set("value", values[i] + (i == 0) * snapshot * 900000);
       statistics.insert();
     }
     for (int i = 0; i < kEvents; ++i) {
       auto& waits = values[kStatistics + i];
       waits += growth(random, i) / 100;
       events.key(snapshot).set("event", numbered("wait event number ", i)).set("event_id", i);
-      events.set("total_waits", waits).set("total_timeouts", waits / 7).set("time_waited_micro", waits * 1379);
+      events.set("total_waits", waits)
+          .set("total_timeouts", waits / 7)
+          .set("time_waited_micro", waits * 1379);
       events.set("total_waits_fg", waits / 2).set("total_timeouts_fg", waits / 14);
       events.set("time_waited_micro_fg", waits * 700).insert();
     }
@@ -103,14 +108,22 @@ void writeStatements(embedded::RepositoryWriter& writer, std::mt19937& random) {
     for (int i = 0; i < kStatements; ++i) {
       const std::int64_t more = growth(random, i);
       runs[i] = snapshot % 31 == 0 && i % 11 == 0 ? more : runs[i] + more;
-      const std::string address = std::string("\x07\x11", 2) + static_cast<char>(i) + static_cast<char>(i >> 8);
-      statements.key(snapshot).set("old_hash_value", 100000 + i * 7919).set("hash_value", 900000 + i * 104729);
+      const std::string address =
+          std::string("\x07\x11", 2) + static_cast<char>(i) + static_cast<char>(i >> 8);
+      statements.key(snapshot)
+          .set("old_hash_value", 100000 + i * 7919)
+          .set("hash_value", 900000 + i * 104729);
       statements.set("text_subset", numbered("select something from ", i)).set("module", "JDBC Thin Client");
-      statements.set("address", Cell::raw(address)).set("sql_text", "select something from somewhere where a = :1");
+      statements.set("address", Cell::raw(address))
+          .set("sql_text", "select something from somewhere where a = :1");
       statements.set("executions", runs[i]).set("buffer_gets", runs[i] * (i % 90 + 3));
-      statements.set("disk_reads", runs[i] / 3).set("cpu_time", runs[i] * 700).set("elapsed_time", runs[i] * 1100);
+      statements.set("disk_reads", runs[i] / 3)
+          .set("cpu_time", runs[i] * 700)
+          .set("elapsed_time", runs[i] * 1100);
       statements.set("user_io_wait_time", runs[i] * 300).set("cluster_wait_time", runs[i] * 20);
-      statements.set("rows_processed", runs[i] * 2).set("parse_calls", runs[i] / 5).set("sharable_mem", 40000 + i);
+      statements.set("rows_processed", runs[i] * 2)
+          .set("parse_calls", runs[i] / 5)
+          .set("sharable_mem", 40000 + i);
       statements.set("version_count", i % 25).set("avg_hard_parse_time", 1500 + i).insert();
     }
   }
@@ -124,11 +137,13 @@ void execute(sqlite3* connection, const std::string& text) {
 /// Numbers that are not whole become SQLite's own floating point numbers.
 void makeNative(const std::filesystem::path& file) {
   sqlite3* connection = nullptr;
-  if (sqlite3_open(file.c_str(), &connection) != SQLITE_OK) throw std::runtime_error("no copy to make native");
+  if (sqlite3_open(file.c_str(), &connection) != SQLITE_OK)
+    throw std::runtime_error("no copy to make native");
   const auto toReal = [](sqlite3_context* context, int, sqlite3_value** arguments) {
     sqlite3_result_text(context, embedded::numberOf(arguments[0]).toText().c_str(), -1, SQLITE_TRANSIENT);
   };
-  sqlite3_create_function_v2(connection, "number_text", 1, SQLITE_UTF8, nullptr, toReal, nullptr, nullptr, nullptr);
+  sqlite3_create_function_v2(connection, "number_text", 1, SQLITE_UTF8, nullptr, toReal, nullptr, nullptr,
+                             nullptr);
   std::vector<std::pair<std::string, std::string>> columns;
   sqlite3_stmt* statement = nullptr;
   sqlite3_prepare_v2(connection,

@@ -11,8 +11,8 @@ inline constexpr int kSnapshots = 701;
 /// The last snapshots, which have statements and parameters.
 inline constexpr int kFullSnapshots = 100;
 
-/// Two files of the same rows that go with the object: a repository, and a copy for SQL written by hand, where
-/// every number is SQLite's own.
+/// Two files of the same rows that go with the object: a repository, and a copy for SQL written by hand,
+/// where every number is SQLite's own.
 class BenchRepository {
  public:
   BenchRepository();

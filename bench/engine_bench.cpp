@@ -1,4 +1,5 @@
-// How long the program's questions take through the translator, beside the best SQL for SQLite written by hand.
+// How long the program's questions take through the translator, beside the best SQL for SQLite written by
+// hand.
 #include <benchmark/benchmark.h>
 
 #include <optional>
@@ -84,7 +85,9 @@ void translate(benchmark::State& state, const std::filesystem::path& file) {
   const std::string text = longestStatement();
   const embedded::LoweringFacts facts{
       [&](const oracle_sql::CatalogueTable& table, int index) { return catalogue.facts(table, index); },
-      [](std::string_view) { return embedded::NumberFacts{true, 1e9}; }};
+      [](std::string_view) {
+        return embedded::NumberFacts{true, 1e9};
+      }};
   for (auto _ : state) {
     auto tree = oracle_sql::parse(text);
     oracle_sql::resolve(tree, catalogue, oracle_sql::allNumbers);
@@ -101,17 +104,17 @@ int main(int argc, char** argv) {
   using namespace kestrelix::bench;
   benchmark::Initialize(&argc, argv);
   const BenchRepository repository;
-  benchmark::RegisterBenchmark("translate the longest statement",
-                               [&](benchmark::State& state) { translate(state, repository.repository()); })
-      ->Unit(benchmark::kMicrosecond);
+  benchmark::RegisterBenchmark("translate the longest statement", [&](benchmark::State& state) {
+    translate(state, repository.repository());
+  })->Unit(benchmark::kMicrosecond);
   const auto all = questions();
   for (const auto& question : all) {
-    benchmark::RegisterBenchmark((question.name + " / Oracle's SQL").c_str(),
-                                 [&](benchmark::State& state) { askEngine(state, repository.repository(), question); })
-        ->Unit(benchmark::kMicrosecond);
-    benchmark::RegisterBenchmark((question.name + " / SQLite by hand").c_str(),
-                                 [&](benchmark::State& state) { askSqlite(state, repository.native(), question); })
-        ->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark((question.name + " / Oracle's SQL").c_str(), [&](benchmark::State& state) {
+      askEngine(state, repository.repository(), question);
+    })->Unit(benchmark::kMicrosecond);
+    benchmark::RegisterBenchmark((question.name + " / SQLite by hand").c_str(), [&](benchmark::State& state) {
+      askSqlite(state, repository.native(), question);
+    })->Unit(benchmark::kMicrosecond);
   }
   benchmark::RunSpecifiedBenchmarks();
 }

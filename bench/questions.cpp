@@ -15,6 +15,23 @@ std::string sent(const std::string& owner, const std::string& member) {
   throw std::runtime_error("no statement " + member);
 }
 
+const char* const kChangedParameters = R"sql(
+  select e.name AS PARAMETER_NAME,
+         DECODE(b.value,null,' ',b.value) AS BEGIN_VALUE,
+         DECODE(e.value,null,' ',DECODE(b.value, e.value, ' ', e.value)) AS END_VALUE
+    from stats$parameter b, stats$parameter e
+   where b.snap_id(+) = :B3
+     and e.snap_id = :B4
+     and b.dbid(+) = :B1
+     and e.dbid = :B1
+     and b.instance_number(+) = :B2
+     and e.instance_number = :B2
+     and b.name(+) = e.name
+     and translate(e.name, '_', '#') not like '##%'
+     and (nvl(b.isdefault, 'X') = 'FALSE' or nvl(b.ismodified,'X') != 'FALSE' or e.ismodified != 'FALSE'
+          or nvl(e.value,0) != nvl(b.value,0))
+   order by e.name)sql";
+
 const char* const kDelta = R"sql(
   SELECT b.name, e.value - b.value,
          CASE :ela WHEN 0 THEN ' ' ELSE round((e.value - b.value) * 1.0 / :ela, 1) END,
@@ -49,14 +66,14 @@ const char* const kTop = R"sql(
            ORDER BY 3 DESC, 2 DESC LIMIT :B5))sql";
 
 std::string rankingDelta(const std::string& counter) {
-  return "sum(CASE WHEN snap_id = :B3 AND prev_snap_id = -1 THEN 0 WHEN address <> prev_address OR " + counter +
-         " < prev_" + counter + " THEN " + counter + " ELSE " + counter + " - prev_" + counter + " END) AS d_" +
-         counter;
+  return "sum(CASE WHEN snap_id = :B3 AND prev_snap_id = -1 THEN 0 WHEN address <> prev_address OR " +
+         counter + " < prev_" + counter + " THEN " + counter + " ELSE " + counter + " - prev_" + counter +
+         " END) AS d_" + counter;
 }
 
 std::string ranking() {
-  const char* const counters[] = {"buffer_gets",   "executions",        "cpu_time",    "elapsed_time",
-                                  "disk_reads",    "user_io_wait_time", "parse_calls", "version_count",
+  const char* const counters[] = {"buffer_gets",    "executions",        "cpu_time",    "elapsed_time",
+                                  "disk_reads",     "user_io_wait_time", "parse_calls", "version_count",
                                   "rows_processed", "cluster_wait_time"};
   std::string deltas;
   std::string lags;
@@ -66,20 +83,26 @@ std::string ranking() {
   }
   const std::string perRun = " CASE d_executions WHEN 0 THEN ' ' ELSE round(";
   return "WITH total AS (SELECT e.value - b.value AS gets FROM stats$sysstat b, stats$sysstat e"
-         " WHERE b.dbid = :B1 AND b.instance_number = :B2 AND b.snap_id = :B3 AND b.name = 'session logical reads'"
-         " AND e.dbid = :B1 AND e.instance_number = :B2 AND e.snap_id = :B4 AND e.name = 'session logical reads')"
+         " WHERE b.dbid = :B1 AND b.instance_number = :B2 AND b.snap_id = :B3 AND b.name = 'session logical "
+         "reads'"
+         " AND e.dbid = :B1 AND e.instance_number = :B2 AND e.snap_id = :B4 AND e.name = 'session logical "
+         "reads')"
          " SELECT old_hash_value, coalesce(module, ' '), d_executions, total.gets,"
-         " CASE total.gets WHEN 0 THEN ' ' ELSE round(100.0 * d_buffer_gets / total.gets, 1) END, d_buffer_gets," +
+         " CASE total.gets WHEN 0 THEN ' ' ELSE round(100.0 * d_buffer_gets / total.gets, 1) END, "
+         "d_buffer_gets," +
          perRun + "d_buffer_gets * 1.0 / d_executions, 2) END, d_disk_reads," + perRun +
          "d_disk_reads * 1.0 / d_executions, 2) END, round(d_cpu_time / 1000000.0, 2)," + perRun +
          "d_cpu_time / 1000000.0 / d_executions, 2) END, round(d_elapsed_time / 1000000.0, 2)," + perRun +
          "d_elapsed_time / 1000000.0 / d_executions, 2) END, d_rows_processed," + perRun +
-         "d_rows_processed * 1.0 / d_executions, 2) END, round(d_user_io_wait_time / 1000000.0, 2)," + perRun +
-         "d_user_io_wait_time / 1000000.0 / d_executions, 2) END, d_parse_calls, max_mem, last_mem, max_versions,"
+         "d_rows_processed * 1.0 / d_executions, 2) END, round(d_user_io_wait_time / 1000000.0, 2)," +
+         perRun +
+         "d_user_io_wait_time / 1000000.0 / d_executions, 2) END, d_parse_calls, max_mem, last_mem, "
+         "max_versions,"
          " last_versions, d_version_count, hash_value, hex(address)"
          " FROM (SELECT old_hash_value, module, hash_value, address, " +
          deltas +
-         "avg(CASE WHEN snap_id = :B3 AND prev_snap_id = -1 THEN 0 ELSE avg_hard_parse_time END) AS parse_time,"
+         "avg(CASE WHEN snap_id = :B3 AND prev_snap_id = -1 THEN 0 ELSE avg_hard_parse_time END) AS "
+         "parse_time,"
          " max(sharable_mem) AS max_mem, max(version_count) AS max_versions,"
          " sum(CASE snap_id WHEN :B4 THEN last_mem ELSE 0 END) AS last_mem,"
          " sum(CASE snap_id WHEN :B4 THEN last_versions ELSE 0 END) AS last_versions"
@@ -91,9 +114,12 @@ std::string ranking() {
          " FROM stats$sql_summary WHERE dbid = :B1 AND instance_number = :B2 AND snap_id BETWEEN :B3 AND :B4"
          " WINDOW w AS (PARTITION BY old_hash_value, dbid, instance_number ORDER BY snap_id))"
          " GROUP BY old_hash_value, text_subset, module, hash_value, address) AS s, total"
-         " WHERE (d_buffer_gets > 0 OR d_executions > 0 OR d_cpu_time > 0 OR d_disk_reads > 0 OR d_parse_calls > 0"
-         " OR max_mem >= (SELECT sharable_mem_th FROM stats$snapshot WHERE dbid = :B1 AND instance_number = :B2"
-         " AND snap_id = :B4) OR max_versions >= (SELECT version_count_th FROM stats$snapshot WHERE dbid = :B1"
+         " WHERE (d_buffer_gets > 0 OR d_executions > 0 OR d_cpu_time > 0 OR d_disk_reads > 0 OR "
+         "d_parse_calls > 0"
+         " OR max_mem >= (SELECT sharable_mem_th FROM stats$snapshot WHERE dbid = :B1 AND instance_number = "
+         ":B2"
+         " AND snap_id = :B4) OR max_versions >= (SELECT version_count_th FROM stats$snapshot WHERE dbid = "
+         ":B1"
          " AND instance_number = :B2 AND snap_id = :B4) OR d_cluster_wait_time > 0)"
          " AND (total.gets = 0 OR 100.0 * d_buffer_gets / total.gets > :PAR)"
          " ORDER BY d_buffer_gets DESC, old_hash_value LIMIT :TOP_NUM";
@@ -136,16 +162,24 @@ const char* const kParameters = R"sql(
 
 std::vector<Question> questions() {
   return {
-      {"delta of stats$sysstat", sent("clsInstanceActivityStats", "getMAIN1_ALL"), kDelta,
+      {"delta of stats$sysstat",
+       sent("clsInstanceActivityStats", "getMAIN1_ALL"),
+       kDelta,
        {{"ela", "3600"}, {"tran", "4711"}}},
-      {"top 10 of the waits", sent("clsTopNWaitEvents", "getTOP_N_WAIT_EVENTS"), kTop,
+      {"top 10 of the waits",
+       sent("clsTopNWaitEvents", "getTOP_N_WAIT_EVENTS"),
+       kTop,
        {{"TWT", "987654321"}, {"TCPU", "123456"}, {"B5", "10"}}},
-      {"ranking by lag windows", sent("clsSQLorderedby", "getSQL_ORDERED_BY_GETS_TOTAL"), ranking(),
+      {"ranking by lag windows",
+       sent("clsSQLorderedby", "getSQL_ORDERED_BY_GETS_TOTAL"),
+       ranking(),
        {{"B5", "0"}, {"PAR", "1"}, {"TOP_NUM", "65"}}},
-      {"one wait over 700 pairs", sent("clsWaitEvents", "getT_WAIT_EVENTS"), kWaits,
-       {{"ENAME", "wait event number 28", true}, {"TIMSTAT", "TRUE", true}, {"TRAN", "4711"}}, 700},
-      {"changed parameters", sent("clsinitParameters", "getINIT_PARAMETERS_ALL"), kParameters,
-       {{"B5", "", true}}},
+      {"one wait over 700 pairs",
+       sent("clsWaitEvents", "getT_WAIT_EVENTS"),
+       kWaits,
+       {{"ENAME", "wait event number 28", true}, {"TIMSTAT", "TRUE", true}, {"TRAN", "4711"}},
+       700},
+      {"changed parameters", kChangedParameters, kParameters, {{"B5", "", true}}},
   };
 }
 

@@ -1,0 +1,13 @@
+// The tests' own main, for the one option of the golden files.
+#include <gmock/gmock.h>
+
+#include <string_view>
+
+#include "support/golden_file.h"
+
+int main(int argc, char** argv) {
+  testing::InitGoogleMock(&argc, argv);
+  for (int i = 1; i < argc; ++i)
+    if (std::string_view(argv[i]) == "--update") golden::updating() = true;
+  return RUN_ALL_TESTS();
+}
