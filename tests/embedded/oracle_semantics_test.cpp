@@ -291,7 +291,8 @@ TEST_F(OracleSemantics, lookUpByKeyUsesTheIndex) {
                                 {"VALUE", "NUMBER"}},
                                {}};
   for (int i = 0; i < 3000; ++i)
-    table.rows.push_back({"1", "1", std::to_string(i / 30), "name " + std::to_string(i % 30), std::to_string(i)});
+    table.rows.push_back(
+        {"1", "1", std::to_string(i / 30), "name " + std::to_string(i % 30), std::to_string(i)});
   writeRepository(folder_ / "large.sqlite", {table});
   LocalDatabase database(folder_ / "large.sqlite");
   for (const char* name : {"B1", "B2", "B3", "B4"}) database.parameters().Add(name, 0, 1);

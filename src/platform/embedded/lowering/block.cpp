@@ -62,7 +62,12 @@ QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const s
     std::string name(column.name);
     for (int i = 2; !names.insert(asciiUpper(name)).second; ++i)
       name = std::string(column.name) + "_" + std::to_string(i);
-    list += (list.empty() ? "" : ", ") + piece.text + " AS " + quoted(name);
+    // Without GROUP BY SQLite takes the rows for one group only if it sees an aggregate outside windows and
+    // HAVING.
+    const bool hidden =
+        list.empty() && block.grouped && block.groupBy.empty() && (block.having || block.windowed);
+    const std::string text = hidden ? "CASE WHEN count(*) >= 0 THEN " + piece.text + " END" : piece.text;
+    list += (list.empty() ? "" : ", ") + text + " AS " + quoted(name);
     result.columns.push_back({name, column.type.kind, piece.number});
     outputs.push_back(std::move(piece));
   }

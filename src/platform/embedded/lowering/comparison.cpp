@@ -110,9 +110,9 @@ std::string quantified(Emitter& emitter, const sql::Compare& compare) {
   const Piece left = emitter.expression(*compare.left);
   if (compare.query) {
     if (any && compare.op == CompareOp::Equal)
-      return lowerInQuery(emitter, left, false, *compare.query, compare.place);
+      return lowerInQuery(emitter, {left}, false, *compare.query, compare.place);
     if (!any && compare.op == CompareOp::NotEqual)
-      return lowerInQuery(emitter, left, true, *compare.query, compare.place);
+      return lowerInQuery(emitter, {left}, true, *compare.query, compare.place);
     throw sql::SqlError::unsupported(any ? "ANY with a subquery" : "ALL with a subquery", compare.place);
   }
   std::string text;
@@ -166,8 +166,7 @@ std::string lowerBetween(Emitter& emitter, const sql::Between& between) {
 std::string lowerIn(Emitter& emitter, const sql::InExpr& in) {
   const auto operand = rowOf(emitter, *in.operand);
   if (in.query) {
-    if (operand.size() != 1) throw sql::SqlError::unsupported("a row in IN with a subquery", in.place);
-    return lowerInQuery(emitter, operand[0], in.negated, *in.query, in.place);
+    return lowerInQuery(emitter, operand, in.negated, *in.query, in.place);
   }
   std::vector<std::vector<Piece>> items;
   for (const sql::Expr* item : in.list) items.push_back(rowOf(emitter, *item));

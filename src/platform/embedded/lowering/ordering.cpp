@@ -17,9 +17,9 @@ std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,
     const bool isOutput = outputs && item.output >= 0;
     const Piece piece =
         isOutput ? outputs->at(static_cast<std::size_t>(item.output)) : emitter.expression(*item.expr);
-    std::string key = sortKey(piece);
-    // A bare whole number would be the place of a column.
-    if (piece.atom && key.find_first_not_of("0123456789") == std::string::npos) key = "(" + key + " + 0)";
+    // A constant sorts nothing, and SQLite would take it for the place of a column.
+    if (piece.text.find_first_not_of("0123456789+-() ") == std::string::npos) continue;
+    const std::string key = sortKey(piece);
     text += (text.empty() ? " ORDER BY " : ", ") + key + (item.descending ? " DESC" : "") +
             (item.nullsFirst() ? " NULLS FIRST" : " NULLS LAST");
   }

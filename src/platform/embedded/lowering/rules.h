@@ -101,7 +101,7 @@ Piece lowerCast(Emitter& emitter, const sql::CastExpr& cast);
 /// subqueries: a scalar subquery of two rows is an error.
 Piece lowerScalarSubquery(Emitter& emitter, const sql::SubqueryExpr& subquery);
 std::string lowerExists(Emitter& emitter, const sql::Exists& exists);
-std::string lowerInQuery(Emitter& emitter, const Piece& operand, bool negated, const sql::Query& query,
-                         sql::Place place);
+std::string lowerInQuery(Emitter& emitter, const std::vector<Piece>& operand, bool negated,
+                         const sql::Query& query, sql::Place place);
 
 }  // namespace kestrelix::embedded

@@ -30,30 +30,35 @@ std::string lowerExists(Emitter& emitter, const sql::Exists& exists) {
   return "EXISTS (" + emitter.query(*exists.query).text + ")";
 }
 
-std::string lowerInQuery(Emitter& emitter, const Piece& operand, bool negated, const sql::Query& query,
-                         sql::Place place) {
+std::string lowerInQuery(Emitter& emitter, const std::vector<Piece>& operand, bool negated,
+                         const sql::Query& query, sql::Place place) {
   const QueryText text = emitter.query(query);
-  const SourceColumn& column = text.columns.front();
-  Piece item;
-  item.kind = column.kind;
-  item.text = quoted(column.name);
-  item.atom = true;
-  const auto comparison = sql::comparisonOf(sql::Type{operand.kind}, sql::Type{item.kind});
-  Piece left = operand;
-  std::string list = text.text;
-  sql::TypeKind target = sql::TypeKind::Varchar2;
-  if (comparison == sql::Comparison::Number) target = sql::TypeKind::Number;
-  if (comparison == sql::Comparison::Date) target = sql::TypeKind::Date;
-  if (comparison == sql::Comparison::Raw) target = sql::TypeKind::Raw;
-  left = emitter.converted(std::move(left), target, place);
-  const Piece converted = emitter.converted(item, target, place);
-  if (comparison == sql::Comparison::PaddedText) {
-    left.text = "rtrim(" + left.text + ", ' ')";
-    list = "SELECT rtrim(" + item.text + ", ' ') FROM (" + list + ")";
-  } else if (converted.text != item.text) {
-    list = "SELECT " + converted.text + " FROM (" + list + ")";
+  std::string left;
+  std::string list;
+  bool converts = false;
+  for (std::size_t i = 0; i < operand.size(); ++i) {
+    const SourceColumn& column = text.columns.at(i);
+    Piece item;
+    item.kind = column.kind;
+    item.text = quoted(column.name);
+    item.atom = true;
+    const auto comparison = sql::comparisonOf(sql::Type{operand[i].kind}, sql::Type{item.kind});
+    sql::TypeKind target = sql::TypeKind::Varchar2;
+    if (comparison == sql::Comparison::Number) target = sql::TypeKind::Number;
+    if (comparison == sql::Comparison::Date) target = sql::TypeKind::Date;
+    if (comparison == sql::Comparison::Raw) target = sql::TypeKind::Raw;
+    std::string value = emitter.converted(operand[i], target, place).text;
+    std::string member = emitter.converted(item, target, place).text;
+    if (comparison == sql::Comparison::PaddedText) {
+      value = "rtrim(" + value + ", ' ')";
+      member = "rtrim(" + member + ", ' ')";
+    }
+    converts = converts || member != item.text;
+    left += (left.empty() ? "" : ", ") + value;
+    list += (list.empty() ? "" : ", ") + member;
   }
-  return "(" + bracketed(left) + (negated ? " NOT IN (" : " IN (") + list + "))";
+  return "((" + left + (negated ? ") NOT IN (" : ") IN (") +
+         (converts ? "SELECT " + list + " FROM (" + text.text + ")" : text.text) + "))";
 }
 
 }  // namespace kestrelix::embedded
