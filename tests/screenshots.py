@@ -159,8 +159,27 @@ class Tour:
         screen.key("Return")
         screen.click(main, *cell(1, 6400), times=2)
         self.keep(main, "graph")
+        self.button(main, "GRAPH_RIGHT", "graph-next")
+        self.button(main, "GRAPH_MAX", "graph-max")
+        self.button(main, "GRAPH_END", "graph-end")
+        self.hover(main, 2100, 4000)
+        self.keep(None, "graph-value")
+        self.button(main, "LIST", "graph-left")
+        self.choose(main, "Top 5 Timed Events", 4)
+        screen.click(main, *cell(1), times=2)
+        self.keep(main, "top-5-col")
+        screen.click(main, *cell(1, 6800), times=2)
+        self.keep(main, "top-5-graph")
+        screen.click(main, 5000, 560, times=2)
+        self.keep(main, "graph-left-by-frame")
         self.main = main
         return self
+
+    def hover(self, main, left, top):
+        x, y, _, _ = self.screen.place(main)
+        for step in (0, 2):
+            self.screen.run("xdotool", "mousemove", str(x + left // TWIPS + step), str(y + top // TWIPS))
+            time.sleep(0.3)
 
     def choose(self, main, name, row):
         """Shows a Section by its row in the list."""
