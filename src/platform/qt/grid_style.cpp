@@ -29,8 +29,9 @@ void drawEdges(QPainter& painter, const QRect& rect, const QColor& colour) {
 }
 
 void drawText(QPainter& painter, const QRect& rect, Qt::Alignment alignment, const QString& text) {
-  painter.drawText(rect.adjusted(kMargin, 0, -kMargin, 0), static_cast<int>(alignment) | Qt::TextSingleLine,
-                   text);
+  // The narrowest columns leave six pixels beside their text, one of them for the line.
+  painter.drawText(rect.adjusted(kMargin, 0, 1 - kMargin, 0),
+                   static_cast<int>(alignment) | Qt::TextSingleLine, text);
 }
 
 }  // namespace

@@ -43,6 +43,8 @@ ListBoxView::ListBoxView(ListBox& list, const QFont& font, QWidget* parent)
   setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);
   grid_style::dress(*this);
+  setBackgroundRole(QPalette::Base);  // below the last entry too
+  setAutoFillBackground(true);
   new Mirror(
       list, [this] { refresh(); }, this);
 }
