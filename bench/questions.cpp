@@ -15,23 +15,6 @@ std::string sent(const std::string& owner, const std::string& member) {
   throw std::runtime_error("no statement " + member);
 }
 
-const char* const kChangedParameters = R"sql(
-  select e.name AS PARAMETER_NAME,
-         DECODE(b.value,null,' ',b.value) AS BEGIN_VALUE,
-         DECODE(e.value,null,' ',DECODE(b.value, e.value, ' ', e.value)) AS END_VALUE
-    from stats$parameter b, stats$parameter e
-   where b.snap_id(+) = :B3
-     and e.snap_id = :B4
-     and b.dbid(+) = :B1
-     and e.dbid = :B1
-     and b.instance_number(+) = :B2
-     and e.instance_number = :B2
-     and b.name(+) = e.name
-     and translate(e.name, '_', '#') not like '##%'
-     and (nvl(b.isdefault, 'X') = 'FALSE' or nvl(b.ismodified,'X') != 'FALSE' or e.ismodified != 'FALSE'
-          or nvl(e.value,0) != nvl(b.value,0))
-   order by e.name)sql";
-
 const char* const kDelta = R"sql(
   SELECT b.name, e.value - b.value,
          CASE :ela WHEN 0 THEN ' ' ELSE round((e.value - b.value) * 1.0 / :ela, 1) END,
@@ -179,7 +162,7 @@ std::vector<Question> questions() {
        kWaits,
        {{"ENAME", "wait event number 28", true}, {"TIMSTAT", "TRUE", true}, {"TRAN", "4711"}},
        700},
-      {"changed parameters", kChangedParameters, kParameters, {{"B5", "", true}}},
+      {"changed parameters", sent("clsinitParameters", "getINIT_PARAMETERS_ALL"), kParameters, {{"B5", "", true}}},
   };
 }
 

@@ -266,6 +266,32 @@ TEST_F(OracleSemantics, nullsTakeTheEndInWindowsToo) {
               ElementsAre("4|4", "5|4"));
 }
 
+TEST_F(OracleSemantics, ignoreNullsPassesOverThem) {
+  EXPECT_THAT(
+      rows("select id, last_value(v ignore nulls) over (order by id), "
+           "first_value(w ignore nulls) over (order by id desc), lag(v ignore nulls) over (order by id), "
+           "lead(v ignore nulls) over (order by id) from stats$n order by id"),
+      ElementsAre("1|10|4|-|2.5", "2|2.5|4|10|-0.25", "3|-0.25|4|2.5|9", "4|-0.25|4|-0.25|9",
+                  "5|9|-|-0.25|-"));
+  EXPECT_THAT(rows("select id, first_value(v ignore nulls) over (order by id rows between 1 preceding and "
+                   "current row) "
+                   "from stats$n order by id"),
+              ElementsAre("1|10", "2|10", "3|2.5", "4|-0.25", "5|9"));
+}
+
+TEST_F(OracleSemantics, distinctCountsInAWindow) {
+  EXPECT_THAT(
+      rows("select snap_id, count(distinct name) over (partition by snap_id) from stats$keyed order by 1"),
+      ElementsAre("1|1", "2|2", "2|2"));
+}
+
+TEST_F(OracleSemantics, medianAndListOfAGroup) {
+  EXPECT_THAT(rows("select median(v), median(w) from stats$n"), ElementsAre("5.75|2.5"));
+  EXPECT_THAT(rows("select listagg(id, ',') within group (order by v desc, id) from stats$n"),
+              ElementsAre("4,1,5,2,3"));
+  EXPECT_THAT(rows("select listagg(t) within group (order by id) from stats$n"), ElementsAre("109x2.50"));
+}
+
 // ---- dates ----
 
 TEST_F(OracleSemantics, datesDifferInDays) {

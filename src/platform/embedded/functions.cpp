@@ -67,6 +67,7 @@ void registerFunctions(sqlite3* connection, Evaluation& evaluation) {
   registerNumberFunctions(connection, evaluation);
   registerTextFunctions(connection, evaluation);
   registerAggregates(connection, evaluation);
+  registerKeptValues(connection, evaluation);
   checkRegistration(sqlite3_create_function_v2(connection, "rownum_to_try", 1, kStateful, &evaluation,
                                                rownumToTry, nullptr, nullptr, nullptr),
                     "rownum_to_try");

@@ -14,7 +14,24 @@ struct NumberAggregate {
 constexpr NumberAggregate kNumberAggregates[] = {
     {"SUM", "num_sum"},           {"AVG", "num_avg"},           {"STDDEV", "num_stddev"},
     {"VARIANCE", "num_variance"}, {"VAR_SAMP", "num_var_samp"}, {"VAR_POP", "num_var_pop"},
+    {"MEDIAN", "num_median"},
 };
+
+/// The texts of a group in an order of their own. SQLite's aggregates know no order, so the keys go along.
+Piece listAggregate(Emitter& emitter, const sql::Call& call, const std::vector<Piece>& arguments) {
+  Piece result;
+  result.kind = call.type.kind;
+  result.atom = true;
+  const auto text = [&](std::size_t i) {
+    return emitter.converted(arguments.at(i), TypeKind::Varchar2, call.place).text;
+  };
+  result.text = "listagg(" + text(0) + ", " + (arguments.size() > 1 ? text(1) : "''");
+  for (const auto& item : call.withinGroup)
+    result.text += ", " + sortKey(emitter.expression(*item.expr)) + ", " +
+                   std::to_string((item.descending ? 1 : 0) + (item.nullsFirst() ? 2 : 0));
+  result.text += ")";
+  return result;
+}
 
 }  // namespace
 
@@ -44,6 +61,10 @@ Piece aggregateOver(Emitter& emitter, const sql::Call& call, const std::vector<P
     result.number = argument.number;
     return result;
   }
+  if (call.name == "LISTAGG" && !call.distinct && !call.over) return listAggregate(emitter, call, arguments);
+  const bool medianOfNumbers =
+      call.name != "MEDIAN" || (!call.over && arguments.at(0).kind == TypeKind::Number);
+  if (!medianOfNumbers) throw sql::SqlError::unsupported("MEDIAN of this kind", call.place);
   for (const auto& aggregate : kNumberAggregates) {
     if (aggregate.name != call.name) continue;
     const Piece argument = emitter.converted(arguments.at(0), TypeKind::Number, call.args.front()->place);

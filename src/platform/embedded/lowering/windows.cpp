@@ -78,9 +78,33 @@ Piece rankShare(Emitter& emitter, const sql::Call& call) {
                  call.place);
 }
 
+/// The same with IGNORE NULLS: the nearest or outermost row that has a value.
+Piece otherKnownRow(Emitter& emitter, const sql::Call& call) {
+  Piece result;
+  result.kind = call.type.kind;
+  result.atom = true;
+  const Piece value = emitter.converted(emitter.expression(*call.args[0]), result.kind, call.args[0]->place);
+  result.number = value.number;
+  if (call.name == "FIRST_VALUE" || call.name == "LAST_VALUE") {
+    result.text = std::string(call.name == "FIRST_VALUE" ? "first_known(" : "last_known(") + value.text +
+                  ")" + overText(emitter, *call.over, call.place);
+    return result;
+  }
+  const bool byOne = call.args.size() < 2 || emitter.expression(*call.args[1]).text == "1";
+  if ((call.name != "LAG" && call.name != "LEAD") || !byOne || call.args.size() > 2)
+    throw sql::SqlError::unsupported("IGNORE NULLS of " + std::string(call.name) + " over more than one row",
+                                     call.place);
+  const bool lag = call.name == "LAG";
+  result.text = std::string(lag ? "last_known(" : "first_known(") + value.text + ") OVER (" +
+                partitionText(emitter, *call.over) + lowerOrder(emitter, call.over->orderBy, nullptr) +
+                (lag ? " ROWS BETWEEN UNBOUNDED PRECEDING AND 1 PRECEDING)"
+                     : " ROWS BETWEEN 1 FOLLOWING AND UNBOUNDED FOLLOWING)");
+  return result;
+}
+
 /// LAG, LEAD, FIRST_VALUE, LAST_VALUE, NTH_VALUE: the value of another row.
 Piece otherRow(Emitter& emitter, const sql::Call& call) {
-  if (call.nulls == sql::NullTreatment::Ignore) throw sql::SqlError::unsupported("IGNORE NULLS", call.place);
+  if (call.nulls == sql::NullTreatment::Ignore) return otherKnownRow(emitter, call);
   Piece result;
   result.kind = call.type.kind;
   result.atom = true;
@@ -122,7 +146,10 @@ Piece lowerWindow(Emitter& emitter, const sql::Call& call) {
   if (name == "PERCENT_RANK" || name == "CUME_DIST") return rankShare(emitter, call);
   if (name == "LAG" || name == "LEAD" || name == "FIRST_VALUE" || name == "LAST_VALUE" || name == "NTH_VALUE")
     return otherRow(emitter, call);
-  if (call.distinct) throw sql::SqlError::unsupported("DISTINCT in a window function", call.place);
+  if (call.distinct && name == "COUNT")
+    return rankPiece("count_distinct(" + emitter.expression(*call.args[0]).text + ")" +
+                     overText(emitter, *call.over, call.place));
+  if (call.distinct) throw sql::SqlError::unsupported("DISTINCT in this window function", call.place);
   Piece result = lowerAggregate(emitter, call);
   // The extreme of a frame that moves needs every value in it.
   for (const char* extreme : {"num_min(", "num_max("})
