@@ -4,6 +4,7 @@
 #include <map>
 
 #include "chart.h"
+#include "check.h"
 #include "report_run.h"
 #include "sections/EveryStatement.h"
 
@@ -83,7 +84,7 @@ using Command = void (*)(const Options&, StderrBoxes&);
 const std::map<std::string, Command> kCommands{
     {"instances", instances},   {"pairs", pairs}, {"sections", sections},
     {"section", section},       {"sql", sql},     {"plan", plan},
-    {"statements", statements}, {"chart", chart}};
+    {"statements", statements}, {"chart", chart}, {"check", check}};
 
 }  // namespace
 

@@ -34,6 +34,8 @@ commands
                           by its pieces or, shaped, by the statement's own lines
   plan NAME --instance I --pair P --row R
                           the execution plans that it used in the pair
+  check --tns NAME        tries the name, the driver, the login and each table in turn
+                          and says what is missing
   statements [--version V]
                           every statement that the program can send, for all
                           versions or for 9, 10 or 11; needs no repository

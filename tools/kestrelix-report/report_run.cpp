@@ -3,11 +3,11 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "app/back_ends.h"
 #include "navigation/ModuleLoadCommon.h"
 #include "navigation/ModuleRangeCommon.h"
 #include "navigation/version_gate.h"
 #include "platform/ascii.h"
-#include "platform/embedded/local_session.h"
 #include "platform/guarded.h"
 #include "report/ModuleDispCommon.h"
 #include "sections/SectionList.h"
@@ -15,7 +15,6 @@
 #include "sections/sql/ModuleDispSQLShaping.h"
 
 namespace kestrelix::report_tool {
-namespace {
 
 std::string password(const Options& options) {
   if (!options.passwordFile.empty()) {
@@ -28,6 +27,8 @@ std::string password(const Options& options) {
   if (const char* variable = std::getenv("KESTRELIX_PASSWORD")) return variable;
   return options.repository.empty() ? std::string() : std::string("perfstat");
 }
+
+namespace {
 
 int needed(const std::optional<int>& value, const char* option) {
   if (!value) throw UsageError(std::string(option) + " is needed");
@@ -54,8 +55,10 @@ void ReportRun::connect() {
     throw UsageError("name the repository by one of --repository FILE and --tns NAME");
   const std::string connect = asciiUpper(options_.user) + "/" + password(options_);
   const bool open = guarded(workspace_.boxes, "ModuleCommon", "OPEN_Conect", [&] {
-    if (options_.repository.empty()) throw DatabaseError("IM002", 12154, "no way to reach " + options_.tns);
-    workspace_.gOraSession = std::make_unique<embedded::LocalFileSession>(options_.repository);
+    if (options_.repository.empty())
+      workspace_.gOraSession = anySession(programFolder());
+    else
+      workspace_.gOraSession = embedded::localSession(options_.repository);
     workspace_.gOraDatabase = workspace_.gOraSession->OpenDatabase(
         options_.repository.empty() ? asciiUpper(options_.tns) : options_.repository, connect,
         kDatabaseOptions);

@@ -7,6 +7,9 @@
 
 namespace kestrelix::report_tool {
 
+/// From the password file, the variable or, for a local file, the default. Fails with UsageError.
+std::string password(const Options& options);
+
 /// One report on the road of the window: connect, load the lists, select, render. A step that has shown its
 /// box ends with Stopped.
 class ReportRun {

@@ -12,6 +12,7 @@ inline constexpr int kExitFailed = 1;
 inline constexpr int kExitWrongUsage = 2;
 
 int demoCommand(std::span<const std::string> arguments);
+int copyCommand(std::span<const std::string> arguments);
 int importCommand(std::span<const std::string> arguments);
 int queryCommand(std::span<const std::string> arguments);
 

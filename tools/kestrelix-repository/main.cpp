@@ -17,6 +17,7 @@ struct Command {
 constexpr Command kCommands[] = {
     {"demo", "make a repository to try the program on", kestrelix::demoCommand},
     {"import", "make a repository from a folder of CSV files", kestrelix::importCommand},
+    {"copy", "make a repository from a server", kestrelix::copyCommand},
     {"query", "run an Oracle query on a repository file and print CSV", kestrelix::queryCommand},
 };
 

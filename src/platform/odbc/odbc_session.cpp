@@ -190,20 +190,25 @@ std::unique_ptr<Dynaset> OdbcDatabase::DbCreateDynaset(const std::string& sql, l
 
 long OdbcDatabase::roundTrips() const { return connection_->roundTrips(); }
 
-std::unique_ptr<Database> OdbcSession::OpenDatabase(const std::string& name, const std::string& connect,
-                                                    long /*options*/) {
+std::unique_ptr<OdbcDatabase> openOdbc(const std::string& name, const std::string& connect) {
   const Credentials credentials = splitConnect(connect);
   if (const auto source = dataSource(name))
     return std::make_unique<OdbcDatabase>(dataSourceText(*source, credentials));
   if (const auto driver = oracleDriver(); driver && !name.empty())
     return std::make_unique<OdbcDatabase>(oracleDriverText(*driver, name, credentials));
   throw DatabaseError(
-      "IM002", 12154,
-      "there is no ODBC data source '" + name + "', and no ODBC driver for Oracle is installed");
+      "IM002", 12154, "there is no ODBC data source '" + name + "', and no ODBC driver for Oracle is installed");
 }
 
-bool canReach(const std::string& name) { return dataSource(name) || (oracleDriver() && !name.empty()); }
+std::unique_ptr<Database> OdbcSession::OpenDatabase(const std::string& name, const std::string& connect,
+                                                    long /*options*/) {
+  return openOdbc(name, connect);
+}
 
-std::unique_ptr<Session> odbcSession() { return std::make_unique<OdbcSession>(); }
+std::string leadsTo(const std::string& name) {
+  if (const auto source = dataSource(name)) return "the ODBC data source " + *source;
+  if (const auto driver = oracleDriver(); driver && !name.empty()) return "the ODBC driver " + *driver;
+  return {};
+}
 
 }  // namespace kestrelix::odbc

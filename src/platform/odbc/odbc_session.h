@@ -44,8 +44,9 @@ class OdbcSession final : public Session {
                                          long options) override;
 };
 
-/// Is there a data source of that name, or an Oracle driver to try it with?
-bool canReach(const std::string& name);
-std::unique_ptr<Session> odbcSession();
+/// The same, for whoever needs more than the interface.
+std::unique_ptr<OdbcDatabase> openOdbc(const std::string& name, const std::string& connect);
+/// What the name leads to, in words: "the ODBC data source PROD", "the ODBC driver Oracle 19"; empty if to nothing.
+std::string leadsTo(const std::string& name);
 
 }  // namespace kestrelix::odbc
