@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "sections/cluster/clsGlobalCacheEfficiency.h"
 #include "sections/cluster_support.h"
 
 namespace kestrelix::testing_support {
@@ -173,6 +174,15 @@ TEST(RacStatistics, withoutThreadsTheCountIsZero) {
   EXPECT_EQ(report.all("RAC Statistics", 0),
             "NO|NAME|START VALUE|END VALUE\n"
             "1|Number of Instances:|0|0\n");
+}
+
+TEST(GlobalCacheEfficiency, itsStatementsNameTheViewsThatTheyJoin) {
+  // What a DBA reads in the list of statements.
+  const clsGlobalCacheEfficiency object;
+  const std::string& text = object.statements().back().text;
+  EXPECT_THAT(text, testing::StartsWith("select ROUND(100 * phyrc / gets,2) AS DISK from (select "));
+  EXPECT_THAT(text, testing::HasSubstr(":B4) phyrc, (select sum("));
+  EXPECT_THAT(text, testing::EndsWith(":B4) gets "));
 }
 
 }  // namespace

@@ -93,7 +93,7 @@ std::string selectFromBlocks(const std::string& columns, std::initializer_list<s
   std::string text = "select " + columns + " from ";
   const char* separator = "";
   for (const std::string_view name : names) {
-    text += separator + ("(" + blocks().at(std::string(name))) + ")";
+    text += separator + ("(" + blocks().at(std::string(name)) + ") ") + std::string(name);
     separator = ", ";
   }
   return fold(text);
