@@ -1,23 +1,15 @@
 // kestrelix-report chart, run as a program of its own.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-
-#include <cstdio>
 
 #include "sections/head_support.h"
+#include "support/run_program.h"
 
 namespace kestrelix::testing_support {
 namespace {
 
 using testing::HasSubstr;
 using testing::StartsWith;
-
-struct Outcome {
-  int status;
-  std::string output;
-  std::string errors;
-};
 
 class ChartCommand : public testing::Test {
  protected:
@@ -35,22 +27,9 @@ class ChartCommand : public testing::Test {
   }
 
   Outcome run(const std::string& arguments) const {
-    const std::string errors = repository.path().string() + ".errors";
-    const std::string command = std::string(KESTRELIX_BIN_DIR) + "/kestrelix-report --repository " +
-                                repository.path().string() + " chart " + arguments + " 2>" + errors;
-    Outcome outcome{-1, {}, {}};
-    FILE* const pipe = ::popen(command.c_str(), "r");
-    char buffer[4096];
-    for (std::size_t got; (got = std::fread(buffer, 1, sizeof buffer, pipe)) > 0;)
-      outcome.output.append(buffer, got);
-    outcome.status = WEXITSTATUS(::pclose(pipe));
-    if (FILE* const file = std::fopen(errors.c_str(), "r")) {
-      for (std::size_t got; (got = std::fread(buffer, 1, sizeof buffer, file)) > 0;)
-        outcome.errors.append(buffer, got);
-      std::fclose(file);
-      std::remove(errors.c_str());
-    }
-    return outcome;
+    return runProgram("kestrelix-report",
+                      "--repository " + repository.path().string() + " chart " + arguments,
+                      repository.path());
   }
 
   HeadRepository repository;

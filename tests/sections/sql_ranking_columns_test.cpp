@@ -251,6 +251,12 @@ TEST_F(SqlRankingColumns, totalAndExecSendTheirOwnStatement) {
       all("SQL ordered by " + name + " EXEC", version);
       EXPECT_NE(server.asked.at(0).statement, total) << name;
     }
+  for (const std::string name : {"Gets", "Reads"}) {
+    all("SQL ordered by " + name + " TOTAL", "9");
+    const std::string total = server.asked.at(0).statement;
+    all("SQL ordered by " + name + " EXEC", "9");
+    EXPECT_NE(server.asked.at(0).statement, total) << name;
+  }
 }
 
 TEST_F(SqlRankingColumns, theButtonsOfTextAndPlanAreOn) {

@@ -268,6 +268,19 @@ TEST_F(SqlRanking10, aTotalOfZeroInASeriesShowsTheBoxOfEachMember) {
                           "[Critical] (clsSQLorderedby){getSQL_ORDERED_BY_GETS_TIME} Error"));
 }
 
+TEST_F(SqlRanking10, aSeriesOfVersionCountsThatFailsNamesAnotherPlace) {
+  repository.fixture.row("stats$sql_summary", {{"snap_id", "3"},
+                                               {"old_hash_value", "501"},
+                                               {"hash_value", "9501"},
+                                               {"text_subset", "select"},
+                                               {"address", "A1"},
+                                               {"executions", "1"},
+                                               {"version_count", ""}});
+  open();
+  gDispSQLorderedbyVersionCount_Col(report->workspace(), "10", {1, {"501"}});
+  EXPECT_THAT(report->boxes(), ElementsAre("[Critical] (clsLoadProfile){getLOGONS} Error"));
+}
+
 TEST_F(SqlRanking10, readsWithATotalOfZeroHaveNoRowsAndNoError) {
   repository.statistic("physical reads", "5", "5");
   repository.add({.snap = 3, .hash = 501, .executions = 5, .reads = 10});

@@ -1,0 +1,75 @@
+// kestrelix-report sql and plan, run as a program of its own.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/run_program.h"
+#include "support/sql_repository.h"
+
+namespace kestrelix::testing_support {
+namespace {
+
+using testing::HasSubstr;
+
+class SqlCommands : public testing::Test {
+ protected:
+  SqlCommands() {
+    repository.usualTotals();
+    repository.add({.snap = 1, .hash = 101, .executions = 1, .gets = 100});
+    repository.add({.snap = 3, .hash = 101, .executions = 2, .gets = 1100});
+    repository.fixture.rows("stats$sqltext", {"old_hash_value", "text_subset", "piece", "sql_text"},
+                            {{"101", "select", "0", "select a"}, {"101", "select", "1", "from t"}});
+    repository.fixture.row(
+        "stats$sql_plan_usage",
+        {{"snap_id", "3"}, {"old_hash_value", "101"}, {"text_subset", "select"}, {"plan_hash_value", "11"}});
+    repository.fixture.row("stats$sql_plan", {{"plan_hash_value", "11"},
+                                              {"id", "0"},
+                                              {"depth", "0"},
+                                              {"operation", "SELECT STATEMENT"},
+                                              {"cost", "2"}});
+    repository.write();
+  }
+  Outcome run(const std::string& arguments) {
+    const auto& file = repository.fixture.path();
+    return runProgram("kestrelix-report", "--format csv --repository " + file.string() + " " + arguments,
+                      file);
+  }
+
+  SqlRepository repository{"11"};
+};
+
+const std::string kRow = " 'SQL ordered by Gets TOTAL' --instance 0 --pair 0 --row 1";
+
+TEST_F(SqlCommands, anUnknownRowOrASectionWithoutStatementsIsWrongUsage) {
+  EXPECT_EQ(run("sql 'SQL ordered by Gets TOTAL' --instance 0 --pair 0").status, 2);
+  const Outcome row = run("plan 'SQL ordered by Gets TOTAL' --instance 0 --pair 0 --row 2");
+  EXPECT_EQ(row.status, 2);
+  EXPECT_THAT(row.errors, HasSubstr("no row 2"));
+  const Outcome section = run("sql 'init.ora Parameters' --instance 0 --pair 0 --row 1");
+  EXPECT_EQ(section.status, 2);
+  EXPECT_THAT(section.errors, HasSubstr("lists no SQL statements"));
+  EXPECT_EQ(section.output, "");
+}
+
+TEST_F(SqlCommands, sqlPrintsThePieces) {
+  const Outcome outcome = run("sql" + kRow);
+  EXPECT_EQ(outcome.status, 0) << outcome.errors;
+  EXPECT_EQ(outcome.output,
+            "NO,OLD_HASH_VALUE,START_ID,END_ID,SQL_TEXT\r\n1,101,1,3,select a\r\n2,,,,from t\r\n");
+}
+
+TEST_F(SqlCommands, sqlShapedPrintsTheStatementsOwnLines) {
+  const Outcome outcome = run("sql" + kRow + " --shaped");
+  EXPECT_EQ(outcome.status, 0) << outcome.errors;
+  EXPECT_EQ(outcome.output, "NO,OLD_HASH_VALUE,START_ID,END_ID,SQL_TEXT\r\n1,101,1,3,select a from t\r\n");
+}
+
+TEST_F(SqlCommands, planPrintsTheSteps) {
+  const Outcome outcome = run("plan" + kRow);
+  EXPECT_EQ(outcome.status, 0) << outcome.errors;
+  EXPECT_EQ(outcome.output,
+            "NO,OLD_HASH_VALUE,START_ID,END_ID,OPERATION,PHV_OBJECTNAME,ROWS,BYTES,COST\r\n"
+            "1,101,1,3,SELECT STATEMENT ,----- 11 -----,  , ,2 \r\n");
+}
+
+}  // namespace
+}  // namespace kestrelix::testing_support
