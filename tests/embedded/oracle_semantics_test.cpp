@@ -114,6 +114,19 @@ TEST_F(OracleSemantics, arithmeticLeaves64BitsWithoutLoss) {
               ElementsAre("1", "4"));
 }
 
+TEST_F(OracleSemantics, sumBeyond64BitsIsExact) {
+  // 1024 * 1024 times 9,000,000,000,000 is 9,437,184 * 10^12, above 2^63 - 1 = 9,223,372 * 10^12.
+  conformance::TestTable table{"stats$million", {{"V", "NUMBER"}}, {}};
+  for (int i = 0; i < 1024; ++i) table.rows.push_back({"9000000000000"});
+  writeRepository(folder_ / "sums.sqlite", {table});
+  LocalDatabase database(folder_ / "sums.sqlite");
+  const auto rows = database.run(
+      "select sum(a.v) s, count(*) n from stats$million a, stats$million b "
+      "where rownum <= 1048576");
+  EXPECT_EQ(rows->Fields("n").value(), "1048576");
+  EXPECT_EQ(rows->Fields("s").value(), "9437184000000000000");
+}
+
 TEST_F(OracleSemantics, divisionIsDecimal) {
   EXPECT_THAT(rows("select id / 2, round(id / 3, 2) from stats$n where id = 1"), ElementsAre("0.5|0.33"));
   EXPECT_THAT(rows("select round(-id / 8, 2), trunc(7 / 4) from stats$n where id = 1"),

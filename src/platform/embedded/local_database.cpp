@@ -1,6 +1,8 @@
 #include "platform/embedded/local_database.h"
 
 #include <ctime>
+#include <string_view>
+#include <utility>
 
 #include "oracle_sql/date.h"
 #include "oracle_sql/error.h"
@@ -71,6 +73,10 @@ std::optional<std::string> cellText(sqlite3_stmt* row, int column, sql::TypeKind
   }
 }
 
+struct ResetStatement {
+  void operator()(sqlite3_stmt* statement) const { sqlite3_reset(statement); }
+};
+
 }  // namespace
 
 class LocalDatabase::Engine {
@@ -82,45 +88,49 @@ class LocalDatabase::Engine {
 
   sqlite3* connection() { return connection_.get(); }
 
-  PreparedStatement& prepared(const std::string& text, const Parameters& binds) {
+  PreparedStatement& prepared(const std::string& text, const Parameters& binds, bool wideSums = false) {
     try {
-      return cache_.get(text, binds);
+      return cache_.get(text, binds, wideSums);
     } catch (const sql::SqlError& error) {
       fail(error, text);
     }
   }
 
   std::unique_ptr<ResultRows> run(const std::string& text, const Parameters& binds) {
-    PreparedStatement& statement = prepared(text, binds);
+    try {
+      return run(prepared(text, binds), binds);
+    } catch (const DatabaseError& error) {
+      if (!evaluation_.failure &&
+          std::string_view(error.what()).find("integer overflow") != std::string_view::npos)
+        return run(prepared(text, binds, true), binds);
+      if (!evaluation_.failure) throw DatabaseError(error.sqlState(), error.nativeCode(), error.what(), text);
+      const auto failure = *std::exchange(evaluation_.failure, std::nullopt);
+      fail(sql::SqlError::wrong(failure.code, failure.message, placeOf(text, failure.offset)), text);
+    }
+  }
+
+ private:
+  std::unique_ptr<ResultRows> run(PreparedStatement& statement, const Parameters& binds) {
     sqlite3_stmt* handle = statement.handle.get();
     evaluation_.failure.reset();
     evaluation_.rownums.assign(static_cast<std::size_t>(statement.lowered.rownumCounters), 0);
     evaluation_.context.now = wallClock();
     bind(statement, binds);
+    // Whatever ends the walk, the statement is free to run again.
+    const std::unique_ptr<sqlite3_stmt, ResetStatement> reset(handle);
 
     const auto& columns = statement.lowered.columns;
     std::vector<std::optional<std::string>> cells;
     std::size_t rows = 0;
-    try {
-      while (step(handle)) {
-        ++rows;
-        for (std::size_t i = 0; i < columns.size(); ++i)
-          cells.push_back(cellText(handle, static_cast<int>(i), columns[i].type));
-      }
-    } catch (const DatabaseError& error) {
-      sqlite3_reset(handle);
-      if (!evaluation_.failure) throw DatabaseError("HY000", 0, error.what(), text);
-      const auto& failure = *evaluation_.failure;
-      fail(sql::SqlError::wrong(failure.code, failure.message, placeOf(text, failure.offset)), text);
-    }
-    sqlite3_reset(handle);
+    for (; step(handle); ++rows)
+      for (std::size_t i = 0; i < columns.size(); ++i)
+        cells.push_back(cellText(handle, static_cast<int>(i), columns[i].type));
 
     std::vector<std::string> names;
     for (const auto& column : columns) names.push_back(column.name);
     return std::make_unique<ResultRows>(std::move(names), std::move(cells), rows);
   }
 
- private:
   void bind(PreparedStatement& statement, const Parameters& binds) {
     for (const auto& parameter : statement.parameters) {
       const Parameter& bind = *binds.find(parameter.bind);

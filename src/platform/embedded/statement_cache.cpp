@@ -79,7 +79,7 @@ StatementCache::PerText& StatementCache::perText(const std::string& text) {
   return texts_.emplace(text, std::move(known)).first->second;
 }
 
-PreparedStatement& StatementCache::get(const std::string& text, const Parameters& binds) {
+PreparedStatement& StatementCache::get(const std::string& text, const Parameters& binds, bool wideSums) {
   PerText& known = perText(text);
   std::string classes;
   for (const auto& name : known.binds) {
@@ -87,12 +87,13 @@ PreparedStatement& StatementCache::get(const std::string& text, const Parameters
     if (!bind) throw DatabaseError("07002", 1008, "ORA-01008: not all variables bound: " + name, text);
     classes += classOf(*bind);
   }
-  auto& prepared = known.byBindClasses[classes];
+  const std::string form = classes + (wideSums ? "+" : "");
+  auto& prepared = known.byBindClasses[form];
   if (!prepared) {
     try {
-      prepared = translate(text, known, classes);
+      prepared = translate(text, known, classes, wideSums);
     } catch (...) {
-      known.byBindClasses.erase(classes);
+      known.byBindClasses.erase(form);
       throw;
     }
   }
@@ -100,7 +101,7 @@ PreparedStatement& StatementCache::get(const std::string& text, const Parameters
 }
 
 std::unique_ptr<PreparedStatement> StatementCache::translate(const std::string& text, const PerText& known,
-                                                             const std::string& classes) {
+                                                             const std::string& classes, bool wideSums) {
   const auto classOfName = [&](std::string_view name) {
     const auto found = std::find(known.binds.begin(), known.binds.end(), name);
     return found == known.binds.end() ? '\0' : classes[static_cast<std::size_t>(found - known.binds.begin())];
@@ -113,7 +114,7 @@ std::unique_ptr<PreparedStatement> StatementCache::translate(const std::string& 
   });
   const LoweringFacts facts{
       [&](const sql::CatalogueTable& table, int index) { return catalogue_.facts(table, index); },
-      [&](std::string_view bind) { return factsOf(classOfName(bind)); }};
+      [&](std::string_view bind) { return factsOf(classOfName(bind)); }, wideSums};
 
   auto prepared = std::make_unique<PreparedStatement>();
   prepared->lowered = lower(tree, facts);

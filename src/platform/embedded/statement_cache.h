@@ -34,7 +34,8 @@ class StatementCache {
 
   /// The statement for these binds: what is known of a bind's value (its type, whether it is whole, how
   /// large) is part of the translation. Throws SqlError, or DatabaseError when a bind is no number.
-  PreparedStatement& get(const std::string& text, const Parameters& binds);
+  /// `wideSums` asks for the form whose sums have no bounds.
+  PreparedStatement& get(const std::string& text, const Parameters& binds, bool wideSums = false);
 
  private:
   struct PerText {
@@ -45,7 +46,7 @@ class StatementCache {
 
   PerText& perText(const std::string& text);
   std::unique_ptr<PreparedStatement> translate(const std::string& text, const PerText& known,
-                                               const std::string& classes);
+                                               const std::string& classes, bool wideSums);
 
   sqlite3* connection_;
   const FileCatalogue& catalogue_;

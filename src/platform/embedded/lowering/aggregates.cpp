@@ -7,6 +7,12 @@ namespace {
 
 using sql::TypeKind;
 
+/// A million of these fit 64 bits. Should a sum not fit all the same, SQLite's sum fails, and the statement
+/// is lowered again for wide sums.
+constexpr double kSmallSummand = 9e12;
+/// No whole number of 64 bits is larger.
+constexpr double kAnyWhole = 9.3e18;
+
 struct NumberAggregate {
   std::string_view name;
   const char* function;
@@ -68,7 +74,10 @@ Piece aggregateOver(Emitter& emitter, const sql::Call& call, const std::vector<P
   for (const auto& aggregate : kNumberAggregates) {
     if (aggregate.name != call.name) continue;
     const Piece argument = emitter.converted(arguments.at(0), TypeKind::Number, call.args.front()->place);
-    result.text = std::string(aggregate.function) + "(" + distinct + argument.text + ")";
+    const bool native = call.name == "SUM" && argument.number.integral &&
+                        argument.number.largest <= kSmallSummand && !emitter.facts().wideSums;
+    result.text = std::string(native ? "sum" : aggregate.function) + "(" + distinct + argument.text + ")";
+    if (native) result.number = {true, kAnyWhole};
     return result;
   }
   throw sql::SqlError::unsupported("the aggregate " + std::string(call.name), call.place);

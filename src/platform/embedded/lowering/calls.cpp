@@ -42,6 +42,11 @@ Piece lowerCall(Emitter& emitter, const sql::Call& call) {
   }
   const values::Function* known = values::findFunction(function);
   if (!known || !known->call) throw sql::SqlError::unsupported("the function " + name, call.place);
+  if (name == "TO_NUMBER" && arguments.front().kind == sql::TypeKind::Null) {
+    arguments.front().kind = sql::TypeKind::Number;
+    arguments.front().number = {true, 0};
+    return arguments.front();
+  }
   if (arguments.size() == 1 && isConversionToItself(call, arguments.front())) {
     arguments.front().kind = call.type.kind;
     return arguments.front();

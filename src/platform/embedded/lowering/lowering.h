@@ -46,6 +46,8 @@ struct LoweringFacts {
   std::function<NumberFacts(const sql::CatalogueTable& table, int index)> column;
   /// Of a bind variable of type NUMBER, by its upper-case name.
   std::function<NumberFacts(std::string_view bind)> bind;
+  /// Sums of whole numbers go beyond 64 bits: SQLite's own sum, which fails there, will not do.
+  bool wideSums = false;
 };
 
 /// The text for SQLite of a tree that resolve() has been through. Throws SqlError, of kind Unsupported for

@@ -16,16 +16,18 @@ Piece lowerCoalesce(Emitter& emitter, const sql::Call& call) {
   result.atom = true;
   CommonFacts facts;
   std::string list;
+  int count = 0;
   for (const sql::Expr* expr : call.args) {
     const Piece piece = argument(emitter, *expr, result.kind);
+    if (piece.kind == sql::TypeKind::Null) continue;
     facts.add(piece);
-    if (piece.kind == sql::TypeKind::Null && call.args.size() > 1) continue;
     list += (list.empty() ? "" : ", ") + piece.text;
     result.present = result.present || piece.present;
+    ++count;
   }
   // SQLite's coalesce wants two arguments at least.
-  result.text = "coalesce(" + (list.empty() ? "NULL" : list) + ", NULL)";
-  if (list.find(", ") != std::string::npos) result.text = "coalesce(" + list + ")";
+  for (; count < 2; ++count) list += list.empty() ? "NULL" : ", NULL";
+  result.text = "coalesce(" + list + ")";
   result.number = facts.facts();
   return result;
 }

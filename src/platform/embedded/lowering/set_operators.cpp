@@ -37,8 +37,12 @@ QueryText lowerSetOperators(Emitter& emitter, const sql::Query& query) {
       continue;
     }
     for (std::size_t i = 0; i < result.columns.size(); ++i) {
+      // NULL in one branch leaves the facts of the others.
+      if (branch.columns[i].kind == sql::TypeKind::Null) continue;
       auto& number = result.columns[i].number;
       const auto& other = branch.columns[i].number;
+      if (result.columns[i].kind == sql::TypeKind::Null) number = other;
+      result.columns[i].kind = branch.columns[i].kind;
       number.integral = number.integral && other.integral;
       number.largest = std::max(number.largest, other.largest);
     }
