@@ -27,14 +27,16 @@ constexpr int kStatements = 250;
 /// One table of release 11, filled by column name.
 class Table {
  public:
-  Table(embedded::RepositoryWriter& writer, const std::string& name) {
+  Table(embedded::RepositoryWriter& writer, const std::string& name)
+      : Table(writer, *statspack::release("11").table(name)) {}
+  Table(embedded::RepositoryWriter& writer, const statspack::Table& table) {
     std::vector<embedded::NewColumn> columns;
-    for (const auto& column : statspack::release("11").table(name)->columns) {
+    for (const auto& column : table.columns) {
       places_[column.name] = columns.size();
       columns.push_back({column.name, column.type});
     }
     cells_.resize(columns.size());
-    out_ = &writer.addTable(name, columns);
+    out_ = &writer.addTable(table.name, columns);
   }
   Table& set(const char* column, Cell cell) {
     cells_[places_.at(column)] = cell;
@@ -171,6 +173,8 @@ BenchRepository::BenchRepository() {
   embedded::RepositoryWriter writer(repository(), {}, "bench");
   writeCounters(writer, random);
   writeStatements(writer, random);
+  for (const auto& table : statspack::everyRelease().tables())
+    if (!writer.table(table.name)) Table(writer, table);
   writer.finish();
   std::filesystem::copy_file(repository(), native());
   makeNative(native());
