@@ -120,6 +120,13 @@ PostgresCluster::~PostgresCluster() {
   fs::remove_all(folder_, ignored);
 }
 
+std::string PostgresCluster::connectionText(int port) const {
+  std::string password = password_;
+  for (std::size_t at = 0; (at = password.find('}', at)) != std::string::npos; at += 2)
+    password.insert(at, 1, '}');
+  return "DSN=KESTREL_PG;Port=" + std::to_string(port) + ";UID=" + user_ + ";PWD={" + password + "}";
+}
+
 bool PostgresCluster::run(const std::string& sql) const {
   const fs::path file = folder_ / "statements.sql";
   std::ofstream(file) << sql;

@@ -21,6 +21,9 @@ class PostgresCluster {
   /// The folder whose odbc.ini names the server KESTREL_PG; ODBCINI leads to it.
   const std::filesystem::path& folder() const { return folder_; }
 
+  /// A connection string of the server on another port, such as that of a line to it.
+  std::string connectionText(int port) const;
+
   /// Runs SQL as the owner. False if it failed.
   bool run(const std::string& sql) const;
   void stop();
