@@ -115,8 +115,9 @@ TEST(LatchMissSources, aSeriesShowsTheFirstOfTheLatchsPlaces) {
   report.all("Latch Miss Sources", 0);
   report.col(2);
   EXPECT_EQ(report.grid().TextMatrix(1, 1), "shared pool");
-  EXPECT_THAT((std::vector<std::string>{"kghalo", "kghfre"}),
-              testing::Contains(report.grid().TextMatrix(1, 3)));
+  // Either place, with its own sleeps: the server picks.
+  EXPECT_THAT(report.grid().TextMatrix(1, 3) + " " + report.grid().TextMatrix(1, 5),
+              testing::AnyOf("kghalo 2", "kghfre 7"));
   EXPECT_EQ(report.grid().Rows(), 4);
 }
 

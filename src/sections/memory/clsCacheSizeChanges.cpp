@@ -17,7 +17,7 @@ const char* const kStatement = R"sql(
       from
      (select name,
              to_number(value) / 1024 / 1024 AS end_value,
-             lag(to_number(value) / 1024 / 1024, 1, null) over (order by name, snap_id) AS start_value,
+             to_number(lag(value, 1, null) over (order by name, snap_id)) / 1024 / 1024 AS start_value,
              lag(name, 1, null) over (order by name, snap_id) AS start_name
         from stats$parameter
        where snap_id between :B3 and :B4

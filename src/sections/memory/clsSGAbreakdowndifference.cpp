@@ -12,10 +12,10 @@ std::string snapshot(const std::string& bind) {
 std::string statement() {
   return R"sql(
     select NVL(A.POOL,' ') AS POOL,
-           A.NAME AS NAME,
-           DECODE(A.BEGIN_MB,null,' ',A.BEGIN_MB) AS BEGIN_MB,
-           DECODE(A.END_MB,null,' ',A.END_MB) AS END_MB,
-           A.PER_DIFF AS PER_DIFF
+           NAME,
+           DECODE(BEGIN_MB,null,' ',BEGIN_MB) AS BEGIN_MB,
+           DECODE(END_MB,null,' ',END_MB) AS END_MB,
+           PER_DIFF
       from
      (select *
         from
