@@ -3,6 +3,7 @@
 
 #include "app/back_ends.h"
 #include "platform/qt/Desktop.h"
+#include "platform/qt/HelpWindow.h"
 #include "platform/qt/desktop_services.h"
 #include "sections/SectionList.h"
 

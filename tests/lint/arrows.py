@@ -11,12 +11,13 @@ ROOMS = {
     "statspack": {"oracle_sql"},
     "platform": set(),
     "platform/embedded": {"platform", "statspack", "oracle_sql"},
+    "platform/chm": {"platform"},
     "platform/odbc": {"platform", "oracle_sql"},
     "navigation": {"platform"},
     "report": {"navigation", "platform"},
     "sections": {"report", "navigation", "platform"},
     "shell": {"sections", "report", "navigation", "platform"},
-    "platform/qt": {"shell", "sections", "report", "navigation", "platform"},
+    "platform/qt": {"platform/chm", "shell", "sections", "report", "navigation", "platform"},
     "app": {"platform/qt", "platform/embedded", "platform/odbc", "shell", "sections", "report", "navigation",
             "platform"},
 }
@@ -25,6 +26,7 @@ ROOMS = {
 FOREIGN = [
     (re.compile(r"^Q[A-Z]|^Qt"), {"platform/qt", "app"}),
     (re.compile(r"^sql(ext|types|ucode)?\.h$|^odbcinst\.h$"), {"platform/odbc"}),
+    (re.compile(r"^chm_lib\.h$"), {"platform/chm"}),
     (re.compile(r"^sqlite3\.h$"), {"platform/embedded"}),
 ]
 

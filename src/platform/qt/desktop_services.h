@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/clipboard.h"
-#include "platform/help.h"
 #include "platform/message_box.h"
 
 namespace kestrelix {
@@ -17,12 +16,6 @@ class QtClipboard final : public Clipboard {
  public:
   void Clear() override;
   void SetText(const std::string& text) override;
-};
-
-/// There is no viewer yet: as with a missing help file, nothing shows.
-class QtHelpViewer final : public HelpViewer {
- public:
-  void HtmlHelp(const std::string&, int) override {}
 };
 
 }  // namespace kestrelix
