@@ -44,6 +44,8 @@ class BackEnd {
   virtual bool namesUnknownAlias() const { return true; }
   /// Whether it is Oracle's SQL: its functions, '' as NULL, upper-case names, days as numbers, ORA- codes.
   virtual bool speaksOracle() const { return true; }
+  /// Whether it formats dates by TO_CHAR.
+  virtual bool hasToChar() const { return true; }
   /// Whether it has accounts at all.
   virtual bool checksAccounts() const { return true; }
   /// Whether a number keeps all its digits, and a column its type, on the way through the driver.

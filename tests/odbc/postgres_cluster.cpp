@@ -1,5 +1,7 @@
 #include "odbc/postgres_cluster.h"
 
+#include "odbc/data_sources.h"
+
 #include <arpa/inet.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
@@ -26,12 +28,7 @@ fs::path serverPrograms() {
   return found.empty() ? found : found / "bin";
 }
 
-fs::path driver() {
-  for (const char* path :
-       {"/usr/lib/x86_64-linux-gnu/odbc/psqlodbcw.so", "/usr/lib/aarch64-linux-gnu/odbc/psqlodbcw.so"})
-    if (fs::exists(path)) return path;
-  return {};
-}
+fs::path driver() { return odbcDriver("psqlodbcw.so"); }
 
 int freePort() {
   const int listener = socket(AF_INET, SOCK_STREAM, 0);
@@ -83,11 +80,11 @@ int PostgresCluster::asOwner(const std::string& command) const {
 PostgresCluster::PostgresCluster(fs::path programs, fs::path folder)
     : programs_(std::move(programs)), folder_(std::move(folder)), port_(freePort()) {
   std::ofstream(folder_ / "password") << password_ << '\n';
-  std::ofstream(folder_ / "odbc.ini")
-      << "[KESTREL_PG]\nDriver = " << driver().string() << "\nServername = 127.0.0.1\nPort = " << port_
-      << "\nDatabase = postgres\nSSLmode = disable\nUseServerSidePrepare = 0\n"
-         "BoolsAsChar = 0\nMaxVarcharSize = 4000\nTextAsLongVarchar = 0\n"
-         "UnknownSizes = 2\n";
+  addDataSource("KESTREL_PG",
+                "Driver = " + driver().string() +
+                    "\nServername = 127.0.0.1\nPort = " + std::to_string(port_) +
+                    "\nDatabase = postgres\nSSLmode = disable\nUseServerSidePrepare = 0\n"
+                    "BoolsAsChar = 0\nMaxVarcharSize = 4000\nTextAsLongVarchar = 0\nUnknownSizes = 2\n");
   std::ofstream(folder_ / "log") << "";
   fs::permissions(folder_, fs::perms::all);
   for (const char* file : {"password", "log"}) fs::permissions(folder_ / file, fs::perms::all);
@@ -96,7 +93,6 @@ PostgresCluster::PostgresCluster(fs::path programs, fs::path folder)
               " -E UTF8 --locale=C.UTF-8 --no-sync") != 0)
     throw std::runtime_error("initdb failed");
   start();
-  setenv("ODBCINI", (folder_ / "odbc.ini").c_str(), 1);
 }
 
 void PostgresCluster::start() {

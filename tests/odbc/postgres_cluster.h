@@ -18,7 +18,7 @@ class PostgresCluster {
   int port() const { return port_; }
   const std::string& user() const { return user_; }
   const std::string& password() const { return password_; }
-  /// The folder whose odbc.ini names the server KESTREL_PG; ODBCINI leads to it.
+  /// A folder that goes with the server; it is the data source KESTREL_PG.
   const std::filesystem::path& folder() const { return folder_; }
 
   /// A connection string of the server on another port, such as that of a line to it.
