@@ -12,7 +12,10 @@ constexpr int kLeastRowsToScroll = 9;
 }  // namespace
 
 FormLogin::FormLogin(Workspace& workspace, const ShellServices& services)
-    : workspace_(workspace), services_(services), stored_{controls, workspace.boxes, services.programFolder} {
+    : workspace_(workspace),
+      services_(services),
+      stored_{controls, workspace.boxes,
+              services.loginFolder.empty() ? services.programFolder : services.loginFolder} {
   controls.Title.Caption("FormLogin");
   controls.LabelUSER.Caption("USER");
   controls.LabelPASS.Caption("PASS");

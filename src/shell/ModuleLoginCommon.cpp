@@ -12,7 +12,7 @@ template <class Steps>
 bool onStore(const StoredLogins& stored, const char* member, Steps&& steps) {
   bool done = false;
   const bool ran = guarded(stored.boxes, "ModuleLoginCommon", member, [&] {
-    clsLoginCommon logins(stored.boxes, stored.programFolder);
+    clsLoginCommon logins(stored.boxes, stored.folder);
     logins.Initialize();
     done = logins.gLoginDataRead() && steps(logins);
   });

@@ -13,7 +13,7 @@ namespace kestrelix {
 struct StoredLogins {
   LoginControls& controls;
   MessageBoxes& boxes;
-  std::filesystem::path programFolder;
+  std::filesystem::path folder;
 };
 
 /// Fills the grid; passwords are never shown in it.

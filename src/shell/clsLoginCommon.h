@@ -14,8 +14,7 @@ namespace kestrelix {
 /// that give false have shown their box.
 class clsLoginCommon {
  public:
-  clsLoginCommon(MessageBoxes& boxes, const std::filesystem::path& programFolder)
-      : boxes_(boxes), folder_(programFolder) {}
+  clsLoginCommon(MessageBoxes& boxes, const std::filesystem::path& folder) : boxes_(boxes), folder_(folder) {}
 
   void Initialize();
   /// The login that gLoginDataAdd merges.

@@ -1,6 +1,7 @@
 #include "platform/qt/Desktop.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <iostream>
@@ -80,6 +81,9 @@ int runDesktop(int& argc, char** argv, const std::function<DesktopParts()>& part
   Application application(argc, argv);
   QApplication::setApplicationName("Kestrelix");
   QApplication::setQuitOnLastWindowClosed(false);
+  // The picture of the windows: by the menu entry under Wayland, from the program's folder elsewhere.
+  QApplication::setDesktopFileName("kestrelix");
+  QApplication::setWindowIcon(QIcon(QApplication::applicationDirPath() + "/kestrelix.png"));
   Desktop desktop(parts());
   desktop.start();
   return QApplication::exec();
