@@ -31,7 +31,7 @@ enum class PlanShape {
 
 struct Statement {
   std::string_view text;  // lines end in LF here; those of the business's clients get CR LF
-  std::string_view module = "";
+  std::string_view module;
   Pace pace = Pace::Users;
   int share = 10;   // of the processors' time at full pace, in thousandths of what is planned
   int perHour = 0;  // executions at full pace, for what has a schedule; its share counts for nothing then
@@ -42,7 +42,7 @@ struct Statement {
   bool commits = false;  // each execution ends a transaction
   int parses = 10;       // per 100 executions
   PlanShape plan = PlanShape::None;
-  std::string_view objects = "";  // tables, each with its index behind it, parted by blanks
+  std::string_view objects;  // tables, each with its index behind it, parted by blanks
   int sharableKb = 24;
   int versions = 1;
   bool twoPlans = false;  // from the bad hour on another plan is in use as well

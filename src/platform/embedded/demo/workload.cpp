@@ -159,7 +159,7 @@ void Workload::addUp(Work& work) {
   work.userCalls = scaled(work.userCalls, 112, 100) + work.commits;
   work.recursiveCalls = scaled(work.executions, 38, 100) + 90 * work.seconds / 60;
   work.hardParses = scaled(work.parses, random_.between(5, 12), 1000) + sessionSeconds / 600;
-  work.logons = work.load * database_.cpus * work.seconds / 300000 + work.seconds / 60 + 1;
+  work.logons = work.seconds * work.load * database_.cpus / 300000 + work.seconds / 60 + 1;
   work.sessions = static_cast<int>(38 + database_.cpus * 2 + work.load * database_.cpus / 55 +
                                    random_.between(0, 4) + (work.bad ? database_.cpus * 4 : 0));
   work.currentGets = scaled(work.changes, 92, 100) + work.executions / 30;
