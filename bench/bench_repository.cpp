@@ -42,6 +42,18 @@ class Table {
     cells_[places_.at(column)] = cell;
     return *this;
   }
+  /// A cell looks at its text only, so the row keeps it.
+  Table& set(const char* column, std::string text) {
+    std::string& kept = texts_[column];
+    kept = std::move(text);
+    return set(column, Cell(kept));
+  }
+  Table& set(const char* column, const char* text) { return set(column, std::string(text)); }
+  Table& raw(const char* column, std::string bytes) {
+    std::string& kept = texts_[column];
+    kept = std::move(bytes);
+    return set(column, Cell::raw(kept));
+  }
   Table& key(int snapshot) {
     return set("snap_id", snapshot).set("dbid", kDbid).set("instance_number", kInstance);
   }
@@ -49,6 +61,7 @@ class Table {
 
  private:
   std::map<std::string, std::size_t> places_;
+  std::map<std::string, std::string> texts_;
   std::vector<Cell> cells_;
   embedded::TableWriter* out_;
 };
@@ -116,8 +129,7 @@ void writeStatements(embedded::RepositoryWriter& writer, std::mt19937& random) {
           .set("old_hash_value", 100000 + i * 7919)
           .set("hash_value", 900000 + i * 104729);
       statements.set("text_subset", numbered("select something from ", i)).set("module", "JDBC Thin Client");
-      statements.set("address", Cell::raw(address))
-          .set("sql_text", "select something from somewhere where a = :1");
+      statements.raw("address", address).set("sql_text", "select something from somewhere where a = :1");
       statements.set("executions", runs[i]).set("buffer_gets", runs[i] * (i % 90 + 3));
       statements.set("disk_reads", runs[i] / 3)
           .set("cpu_time", runs[i] * 700)

@@ -162,7 +162,10 @@ std::vector<Question> questions() {
        kWaits,
        {{"ENAME", "wait event number 28", true}, {"TIMSTAT", "TRUE", true}, {"TRAN", "4711"}},
        700},
-      {"changed parameters", sent("clsinitParameters", "getINIT_PARAMETERS_ALL"), kParameters, {{"B5", "", true}}},
+      {"changed parameters",
+       sent("clsinitParameters", "getINIT_PARAMETERS_ALL"),
+       kParameters,
+       {{"B5", "", true}}},
   };
 }
 

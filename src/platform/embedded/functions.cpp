@@ -1,8 +1,10 @@
 #include "platform/embedded/functions.h"
 
-#include <array>
+#include <cstddef>
 #include <memory>
+#include <new>
 #include <string>
+#include <vector>
 
 #include "oracle_sql/functions.h"
 #include "platform/database.h"
@@ -19,25 +21,50 @@ struct TypedFunction {
   Evaluation* evaluation;
 };
 
-constexpr int kMostOnStack = 8;
+/// The values of a call: room for `kFew` on the stack, of which only those given are made.
+class CallValues {
+ public:
+  explicit CallValues(int count) {
+    if (count > kFew) many_.resize(static_cast<std::size_t>(count));
+  }
+  CallValues(const CallValues&) = delete;
+  ~CallValues() {
+    for (int i = 0; i < made_; ++i) few()[i].~Value();
+  }
+
+  void add(values::Value value) {
+    if (many_.empty())
+      new (few() + made_++) values::Value(std::move(value));
+    else
+      many_[static_cast<std::size_t>(added_++)] = std::move(value);
+  }
+  values::Arguments all() {
+    return many_.empty() ? values::Arguments(few(), static_cast<std::size_t>(made_))
+                         : values::Arguments(many_);
+  }
+
+ private:
+  static constexpr int kFew = 6;
+
+  values::Value* few() { return std::launder(reinterpret_cast<values::Value*>(room_)); }
+
+  alignas(values::Value) std::byte room_[kFew * sizeof(values::Value)];
+  int made_ = 0;
+  int added_ = 0;
+  std::vector<values::Value> many_;
+};
 
 void callTyped(sqlite3_context* context, int count, Values arguments) {
   auto& typed = *static_cast<TypedFunction*>(sqlite3_user_data(context));
   const int given = count - 1;
   try {
-    std::array<values::Value, kMostOnStack> few;
-    std::vector<values::Value> many;
-    values::Value* list = few.data();
-    if (given > kMostOnStack) {
-      many.resize(static_cast<std::size_t>(given));
-      list = many.data();
-    }
+    CallValues call(given);
     for (int i = 0; i < given; ++i)
-      if (!isNull(arguments[i]))
-        list[i] =
-            valueOf(arguments[i], static_cast<StoredKind>(typed.signature[static_cast<std::size_t>(i)]));
-    giveValue(context,
-              typed.function->call({list, static_cast<std::size_t>(given)}, typed.evaluation->context));
+      call.add(
+          isNull(arguments[i])
+              ? values::Value()
+              : valueOf(arguments[i], static_cast<StoredKind>(typed.signature[static_cast<std::size_t>(i)])));
+    giveValue(context, typed.function->call(call.all(), typed.evaluation->context));
   } catch (...) {
     giveFailure(context, *typed.evaluation, offsetOf(arguments[given]));
   }

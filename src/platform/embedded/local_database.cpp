@@ -114,7 +114,7 @@ class LocalDatabase::Engine {
     sqlite3_stmt* handle = statement.handle.get();
     evaluation_.failure.reset();
     evaluation_.rownums.assign(static_cast<std::size_t>(statement.lowered.rownumCounters), 0);
-    evaluation_.context.now = wallClock();
+    if (statement.asksClock) evaluation_.context.now = wallClock();
     bind(statement, binds);
     // Whatever ends the walk, the statement is free to run again.
     const std::unique_ptr<sqlite3_stmt, ResetStatement> reset(handle);
@@ -126,9 +126,7 @@ class LocalDatabase::Engine {
       for (std::size_t i = 0; i < columns.size(); ++i)
         cells.push_back(cellText(handle, static_cast<int>(i), columns[i].type));
 
-    std::vector<std::string> names;
-    for (const auto& column : columns) names.push_back(column.name);
-    return std::make_unique<ResultRows>(std::move(names), std::move(cells), rows);
+    return std::make_unique<ResultRows>(statement.names, std::move(cells), rows);
   }
 
   void bind(PreparedStatement& statement, const Parameters& binds) {

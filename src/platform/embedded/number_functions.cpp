@@ -50,8 +50,18 @@ void multiply(sqlite3_context* context, int, Values arguments) {
   ofTwo(context, arguments, [](const Number& a, const Number& b) { return a * b; });
 }
 
-void divide(sqlite3_context* context, int, Values arguments) {
-  ofTwo(context, arguments, [](const Number& a, const Number& b) { return a / b; });
+void divide(sqlite3_context* context, int count, Values arguments) {
+  if (anyNull(2, arguments)) return sqlite3_result_null(context);
+  if (bothWhole(arguments)) {
+    const auto a = sqlite3_value_int64(arguments[0]);
+    const auto b = sqlite3_value_int64(arguments[1]);
+    if (b > 0 && a % b == 0) return sqlite3_result_int64(context, a / b);
+  }
+  try {
+    giveNumber(context, numberOf(arguments[0]) / numberOf(arguments[1]));
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), count > 2 ? offsetOf(arguments[2]) : 0);
+  }
 }
 
 void negate(sqlite3_context* context, int, Values arguments) {
@@ -214,12 +224,12 @@ struct Entry {
 };
 
 constexpr Entry kFunctions[] = {
-    {"num_add", 3, add},           {"num_sub", 3, subtract},       {"num_mul", 3, multiply},
-    {"num_div", 3, divide},        {"num_neg", 2, negate},         {"num_round", 3, roundNumber},
-    {"num_trunc", 3, truncNumber}, {"num_cmp", 2, compareNumbers}, {"num_key", 1, orderKey},
-    {"whole_up", 1, wholeUp},      {"whole_down", 1, wholeDown},   {"rows_up_to", 1, rowsUpTo},
-    {"rows_below", 1, rowsBelow},  {"date_days", 3, dateDays},     {"date_plus", 3, datePlus},
-    {"date_minus", 3, dateMinus},  {"cast_number", 4, castNumber},
+    {"num_add", 3, add},           {"num_sub", 3, subtract},      {"num_mul", 3, multiply},
+    {"num_div", 2, divide},        {"num_div", 3, divide},        {"num_neg", 2, negate},
+    {"num_round", 3, roundNumber}, {"num_trunc", 3, truncNumber}, {"num_cmp", 2, compareNumbers},
+    {"num_key", 1, orderKey},      {"whole_up", 1, wholeUp},      {"whole_down", 1, wholeDown},
+    {"rows_up_to", 1, rowsUpTo},   {"rows_below", 1, rowsBelow},  {"date_days", 3, dateDays},
+    {"date_plus", 3, datePlus},    {"date_minus", 3, dateMinus},  {"cast_number", 4, castNumber},
 };
 
 }  // namespace

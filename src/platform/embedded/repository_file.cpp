@@ -77,6 +77,9 @@ std::string uriOf(const std::filesystem::path& path) {
 
 ConnectionHandle openRepositoryFile(const std::filesystem::path& path) {
   checkHeader(path);
+  // SQLite counts its memory under a lock unless it is told not to before it starts.
+  static const int unused = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+  static_cast<void>(unused);
   sqlite3* raw = nullptr;
   const int result = sqlite3_open_v2(uriOf(path).c_str(), &raw,
                                      SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);

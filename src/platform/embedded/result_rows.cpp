@@ -14,8 +14,8 @@ bool sameName(std::string_view a, std::string_view b) {
 
 }  // namespace
 
-ResultRows::ResultRows(std::vector<std::string> columns, std::vector<std::optional<std::string>> cells,
-                       std::size_t rows)
+ResultRows::ResultRows(std::shared_ptr<const std::vector<std::string>> columns,
+                       std::vector<std::optional<std::string>> cells, std::size_t rows)
     : columns_(std::move(columns)), cells_(std::move(cells)), rows_(rows) {}
 
 void ResultRows::MoveNext() {
@@ -24,10 +24,11 @@ void ResultRows::MoveNext() {
 }
 
 Field ResultRows::Fields(std::string_view alias) const {
-  for (std::size_t i = 0; i < columns_.size(); ++i) {
-    if (!sameName(columns_[i], alias)) continue;
-    if (Eof()) throw DatabaseError("24000", 0, "there is no row to read the column " + columns_[i] + " of");
-    return {columns_[i], &cells_[row_ * columns_.size() + i]};
+  for (std::size_t i = 0; i < columns_->size(); ++i) {
+    if (!sameName((*columns_)[i], alias)) continue;
+    if (Eof())
+      throw DatabaseError("24000", 0, "there is no row to read the column " + (*columns_)[i] + " of");
+    return {(*columns_)[i], &cells_[row_ * columns_->size() + i]};
   }
   throw DatabaseError("42S22", 0, "the result has no column " + std::string(alias));
 }

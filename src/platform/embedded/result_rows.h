@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,8 +17,8 @@ namespace kestrelix::embedded {
 class ResultRows final : public Dynaset {
  public:
   /// `cells` row after row, each as long as `columns`.
-  ResultRows(std::vector<std::string> columns, std::vector<std::optional<std::string>> cells,
-             std::size_t rows);
+  ResultRows(std::shared_ptr<const std::vector<std::string>> columns,
+             std::vector<std::optional<std::string>> cells, std::size_t rows);
 
   bool Eof() const override { return row_ >= rows_; }
   void MoveNext() override;
@@ -25,13 +26,13 @@ class ResultRows final : public Dynaset {
   Field Fields(std::string_view alias) const override;
   /// The field of column `column`, from 0, of the current row.
   Field field(std::size_t column) const {
-    return {columns_.at(column), &cells_.at(row_ * columns_.size() + column)};
+    return {columns_->at(column), &cells_.at(row_ * columns_->size() + column)};
   }
   void Close() override;
-  const std::vector<std::string>& columns() const override { return columns_; }
+  const std::vector<std::string>& columns() const override { return *columns_; }
 
  private:
-  std::vector<std::string> columns_;
+  std::shared_ptr<const std::vector<std::string>> columns_;
   std::vector<std::optional<std::string>> cells_;
   std::size_t rows_;
   std::size_t row_ = 0;

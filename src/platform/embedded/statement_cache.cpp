@@ -1,8 +1,10 @@
 #include "platform/embedded/statement_cache.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 
+#include "oracle_sql/functions.h"
 #include "oracle_sql/number.h"
 #include "oracle_sql/parser.h"
 #include "oracle_sql/resolver.h"
@@ -21,16 +23,24 @@ enum BindClass : char { kText = 't', kSmall = 's', kMedium = 'm', kWhole = 'w', 
 constexpr double kLargestSmall = 2147483648.0;
 constexpr double kLargestMedium = 9007199254740992.0;
 
+char classOf(std::int64_t whole) {
+  const double size = std::abs(static_cast<double>(whole));
+  return size <= kLargestSmall ? kSmall : size <= kLargestMedium ? kMedium : kWhole;
+}
+
 char classOf(const Parameter& bind) {
   if (bind.serverType() == ServerType::String) return kText;
   if (bind.value().empty()) return kSmall;
+  std::int64_t plain = 0;
+  const char* const end = bind.value().data() + bind.value().size();
+  const auto parsed = std::from_chars(bind.value().data(), end, plain);
+  if (parsed.ec == std::errc() && parsed.ptr == end) return classOf(plain);
   const auto number = values::Number::parse(bind.value());
   if (!number)
     throw DatabaseError("22018", 1722, "ORA-01722: invalid number: the bind '" + bind.value() + "'");
   const auto whole = number->toInt64();
   if (!whole) return kNumber;
-  const double size = std::abs(static_cast<double>(*whole));
-  return size <= kLargestSmall ? kSmall : size <= kLargestMedium ? kMedium : kWhole;
+  return classOf(*whole);
 }
 
 NumberFacts factsOf(char bindClass) {
@@ -118,8 +128,10 @@ std::unique_ptr<PreparedStatement> StatementCache::translate(const std::string& 
 
   auto prepared = std::make_unique<PreparedStatement>();
   prepared->lowered = lower(tree, facts);
-  for (const auto& use : prepared->lowered.functions)
+  for (const auto& use : prepared->lowered.functions) {
     if (registered_.insert(use.name).second) registerFunction(connection_, use, evaluation_);
+    prepared->asksClock = prepared->asksClock || !values::findFunction(use.function)->deterministic;
+  }
   try {
     prepared->handle = prepare(connection_, prepared->lowered.text);
   } catch (const DatabaseError& error) {
@@ -127,6 +139,9 @@ std::unique_ptr<PreparedStatement> StatementCache::translate(const std::string& 
       throw sql::SqlError::unsupported(std::string("a statement of this size (") + error.what() + ")", {});
     throw sql::SqlError::internal(error.what());
   }
+  std::vector<std::string> names;
+  for (const auto& column : prepared->lowered.columns) names.push_back(column.name);
+  prepared->names = std::make_shared<const std::vector<std::string>>(std::move(names));
   const int count = sqlite3_bind_parameter_count(prepared->handle.get());
   for (int i = 1; i <= count; ++i)
     prepared->parameters.push_back({i, bindOfMarker(sqlite3_bind_parameter_name(prepared->handle.get(), i))});

@@ -26,6 +26,8 @@ struct PreparedStatement {
   LoweredStatement lowered;
   StatementHandle handle;
   std::vector<BoundParameter> parameters;
+  std::shared_ptr<const std::vector<std::string>> names;  ///< of the columns
+  bool asksClock = false;  ///< SYSDATE, or a date model that leaves the month out
 };
 
 class StatementCache {

@@ -27,6 +27,16 @@ Piece exactOr(const char* function, char op, const Piece& left, const Piece& rig
   return piece;
 }
 
+/// The literal's value if it is a power of ten of which 64 bits leave room for another factor, else 0.
+std::int64_t powerOfTen(const Piece& piece) {
+  if (piece.text.size() > 10 || piece.text.front() != '1' ||
+      piece.text.find_first_not_of('0', 1) != std::string::npos)
+    return 0;
+  std::int64_t power = 1;
+  for (std::size_t i = 1; i < piece.text.size(); ++i) power *= 10;
+  return power;
+}
+
 Piece dateCall(const char* function, const Piece& left, const Piece& right, TypeKind kind, sql::Place place) {
   Piece piece;
   piece.kind = kind;
@@ -41,8 +51,22 @@ Piece dateCall(const char* function, const Piece& left, const Piece& right, Type
 Piece divided(Emitter&, const Piece& left, const Piece& right, sql::Place place) {
   Piece piece;
   piece.kind = TypeKind::Number;
-  piece.text = "num_div(" + left.text + ", " + right.text + ", " + std::to_string(place.offset) + ")";
   piece.atom = true;
+  const std::int64_t power = powerOfTen(right);
+  std::string dividend = left.text;
+  std::string divisor = right.text;
+  if (!left.quotient.dividend.empty() && right.number.integral &&
+      right.number.largest * static_cast<double>(left.quotient.divisor) <= kFits) {
+    // (x / 1000) / y is x / (1000 * y), rounded once either way, and two whole numbers are quicker to divide.
+    dividend = left.quotient.dividend;
+    divisor = std::to_string(left.quotient.divisor) + " * " + bracketed(right);
+  } else if (left.number.integral && power > 0) {
+    piece.quotient = {left.text, power};
+  }
+  // Only a divisor that may be zero needs the place where the failure is told.
+  const bool literal = right.present && right.cheap && right.number.integral && divisor != "0";
+  piece.text =
+      "num_div(" + dividend + ", " + divisor + (literal ? ")" : ", " + std::to_string(place.offset) + ")");
   return piece;
 }
 
@@ -78,6 +102,8 @@ Piece lowerNegate(Emitter& emitter, const sql::Negate& negate) {
       emitter.converted(emitter.expression(*negate.operand), TypeKind::Number, negate.operand->place);
   if (negate.plus) return piece;
   piece.kind = TypeKind::Number;
+  piece.quotient = {};
+  piece.cheap = false;
   if (piece.number.integral && piece.number.largest <= kFits) {
     piece.text = "-" + bracketed(piece);
     piece.atom = false;

@@ -15,6 +15,12 @@
 
 namespace kestrelix::embedded {
 
+/// A whole number divided by a power of ten, which is exact: another division may be joined to it.
+struct ExactQuotient {
+  std::string dividend;  ///< empty for any other expression
+  std::int64_t divisor = 1;
+};
+
 /// An expression in SQLite's words, with what is known of its values.
 struct Piece {
   std::string text;
@@ -23,6 +29,7 @@ struct Piece {
   bool atom = false;     ///< in need of no brackets
   bool cheap = false;    ///< a name or a literal: may stand more than once
   bool present = false;  ///< never NULL
+  ExactQuotient quotient;
 };
 
 /// A column of a FROM item under the name that SQLite knows it by.

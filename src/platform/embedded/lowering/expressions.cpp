@@ -15,7 +15,7 @@ struct CallRule {
 /// The functions that need more than a plain call; every other one is lowerCall's.
 constexpr CallRule kCallRules[] = {
     {"DECODE", lowerDecode}, {"NVL", lowerNvl},     {"NVL2", lowerNvl2},   {"COALESCE", lowerCoalesce},
-    {"NULLIF", lowerNullif}, {"ROUND", lowerRound}, {"TRUNC", lowerRound},
+    {"NULLIF", lowerNullif}, {"ROUND", lowerRound}, {"TRUNC", lowerRound}, {"TRANSLATE", lowerTranslate},
 };
 
 Piece lowerColumn(Emitter& emitter, const sql::ColumnRef& ref) {

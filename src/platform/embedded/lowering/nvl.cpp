@@ -70,6 +70,7 @@ Piece lowerNullif(Emitter& emitter, const sql::Call& call) {
   result.atom = true;
   result.cheap = false;
   result.present = false;
+  result.quotient = {};
   return result;
 }
 

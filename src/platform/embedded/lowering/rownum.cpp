@@ -75,6 +75,20 @@ Wrap wrapOf(Emitter& emitter, const sql::SelectBlock& block, const char* alias) 
   return wrap;
 }
 
+/// Whether the block reads nothing but one inline view with an order.
+bool isSortedView(const sql::SelectBlock& block) {
+  if (block.from.size() != 1) return false;
+  const auto* view = sql::as<sql::DerivedItem>(block.from.front());
+  return view && !view->query->orderBy.empty();
+}
+
+/// The limit goes into the view: SQLite then keeps only so many rows while it sorts.
+std::string limitedView(Emitter& emitter, const sql::SelectBlock& block, std::string from,
+                        const std::string& limit) {
+  const std::string end = ") AS " + quoted(emitter.sourceOf(block.from.front()).alias);
+  return from.substr(0, from.size() - end.size()) + " LIMIT " + limit + end;
+}
+
 /// The select list that gives what was asked of `wrap`.
 std::string exportList(Emitter& emitter, const Wrap& wrap) {
   std::string list;
@@ -106,8 +120,10 @@ QueryText lowerRownumBlock(Emitter& emitter, const sql::SelectBlock& block, cons
   const bool sorted = order && !order->empty();
   if (others.empty() && !sorted && !block.grouped && !block.distinct && !block.windowed &&
       !namesRownumOutsideWhere(block, order)) {
-    QueryText text = assembleBlock(emitter, block, parts.from, where, nullptr);
-    if (!limit.empty()) text.text += " LIMIT " + limit;
+    const bool inner = !limit.empty() && where.empty() && isSortedView(block);
+    QueryText text = assembleBlock(
+        emitter, block, inner ? limitedView(emitter, block, parts.from, limit) : parts.from, where, nullptr);
+    if (!limit.empty() && !inner) text.text += " LIMIT " + limit;
     return text;
   }
 

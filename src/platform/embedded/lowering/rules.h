@@ -64,7 +64,7 @@ std::string lowerIn(Emitter& emitter, const sql::InExpr& in);
 /// `left op right` for two values.
 std::string compared(Emitter& emitter, sql::CompareOp op, const Piece& left, const Piece& right,
                      sql::Place place);
-/// like: case counts, and no character escapes without ESCAPE.
+/// like: by a function, or by SQLite's own where the pattern is plain.
 std::string lowerLike(Emitter& emitter, const sql::LikeExpr& like);
 
 // ---- expressions ----
@@ -88,6 +88,8 @@ Piece lowerCoalesce(Emitter& emitter, const sql::Call& call);
 Piece lowerNullif(Emitter& emitter, const sql::Call& call);
 /// rounding: ROUND and TRUNC of numbers, which every report does thousands of times.
 Piece lowerRound(Emitter& emitter, const sql::Call& call);
+/// translate: TRANSLATE of one character by another, which is SQLite's replace.
+Piece lowerTranslate(Emitter& emitter, const sql::Call& call);
 /// calls: every other function that takes and gives single values.
 Piece lowerCall(Emitter& emitter, const sql::Call& call);
 /// aggregates: sums and averages in NUMBER.
