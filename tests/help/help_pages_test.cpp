@@ -75,6 +75,22 @@ TEST(HelpPages, deadLinksAreNoticed) {
   EXPECT_NE(deadEnd(pages, "a.html", "a.html#bottom"), "");
 }
 
+TEST(HelpPages, everyMessageIsExplained) {
+  const std::string page = helpPages().at("messages.html");
+  std::set<std::string> messages{"The time series display is not supported."};
+  for (const char* room : {"navigation", "report", "sections", "shell"})
+    for (const auto& file :
+         std::filesystem::recursive_directory_iterator(std::string(KESTRELIX_SOURCE_DIR) + "/src/" + room)) {
+      if (file.path().extension() != ".cpp") continue;
+      // What isn't ASCII in these rooms is the text of a box.
+      for (const std::string& text :
+           allMatches(fileBytes(file.path()), "\"([^\"\n]*[^\\x01-\\x7F\"\n][^\"\n]*)\""))
+        messages.insert(text);
+    }
+  EXPECT_GE(messages.size(), 10u);
+  for (const std::string& message : messages) EXPECT_NE(page.find(message), std::string::npos) << message;
+}
+
 TEST(HelpPages, everyPageIsCompiledUnchanged) {
   const auto help = compiledHelp();
   std::size_t pages = 0;
