@@ -56,6 +56,17 @@ TEST_F(ImporterTest, aFolderWithoutTablesIsRefused) {
   EXPECT_NE(failure().find("cannot be read"), std::string::npos);
 }
 
+TEST_F(ImporterTest, whatIsNamedLikeATableAndIsNoFileIsRefused) {
+  put("stats$sysstat.csv", "NAME\nx\n");
+  std::filesystem::create_symlink("nowhere", folder_ / "csv" / "stats$sgastat.csv");
+  EXPECT_EQ(failure(), "/stats$sgastat.csv: is no plain file");
+}
+
+TEST_F(ImporterTest, theRepositorysOwnNamesAreRefused) {
+  put("KESTRELIX$COLUMN.csv", "NAME\nx\n");
+  EXPECT_EQ(failure(true), "/KESTRELIX$COLUMN.csv: the name is the repository's own, no table can bear it");
+}
+
 TEST_F(ImporterTest, tablesThatNoReleaseHasAreRefusedByName) {
   put("stats$sysstat.csv", "NAME\nx\n");
   put("emp.csv", "ENAME\nKING\n");

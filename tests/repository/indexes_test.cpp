@@ -34,5 +34,12 @@ TEST(Indexes, snapshotsAreFoundByTheirIdAloneAsWell) {
             (Lists{{"dbid", "instance_number", "snap_id"}, {"snap_id"}}));
 }
 
+TEST(Indexes, namesOfStatisticsAreFoundByNumberAndByName) {
+  EXPECT_EQ(indexesOf("stats$osstatname", {"osstat_id", "stat_name", "cumulative"}),
+            (Lists{{"osstat_id"}, {"stat_name"}}));
+  EXPECT_EQ(indexesOf("stats$time_model_statname", {"stat_id", "stat_name"}),
+            (Lists{{"stat_id"}, {"stat_name"}}));
+}
+
 }  // namespace
 }  // namespace kestrelix::embedded

@@ -71,8 +71,10 @@ void check(const Options& options, StderrBoxes& boxes) {
   if (const std::string error = unreadable(*database, "stats$database_instance"); !error.empty())
     throw CheckFailed("table stats$database_instance: " + error);
   int missing = 0;
+  int releases = 0;
   for (const std::string& major : versions(*database)) {
     if (!passVersionGate(boxes, major)) continue;
+    ++releases;
     for (const statspack::Table& table : statspack::release(major).tables()) {
       const std::string error = unreadable(*database, table.name);
       if (error.empty()) continue;
@@ -80,6 +82,7 @@ void check(const Options& options, StderrBoxes& boxes) {
       std::cout << "table " << table.name << " of release " << major << ": " << error << '\n';
     }
   }
+  if (releases == 0) throw CheckFailed("stats$database_instance tells of no Oracle 9, 10 or 11 instance");
   if (missing > 0) throw CheckFailed(std::to_string(missing) + " tables can't be read");
   std::cout << "tables: all of them can be read\n";
 }

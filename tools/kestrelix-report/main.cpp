@@ -11,9 +11,11 @@ int main(int count, char** values) {
     const tool::Options options = tool::parseOptions({values + 1, values + count});
     if (options.help) {
       std::cout << tool::kUsage;
-      return 0;
+    } else {
+      tool::runCommand(options, boxes);
     }
-    tool::runCommand(options, boxes);
+    std::cout.flush();
+    if (!std::cout) throw std::runtime_error("the standard output cannot be written");
   } catch (const tool::UsageError& error) {
     std::cerr << "kestrelix-report: " << error.what() << "; --help tells the usage\n";
     return 2;

@@ -13,8 +13,10 @@ void note(int) { came = 1; }
 }  // namespace
 
 void watchInterrupts() {
-  std::signal(SIGINT, note);
-  std::signal(SIGTERM, note);
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    // What is ignored stays so: nohup asks for that.
+    if (std::signal(signal, note) == SIG_IGN) std::signal(signal, SIG_IGN);
+  }
 }
 
 void checkInterrupts() {

@@ -1,4 +1,5 @@
-// Ctrl-C while a file is made: the work stops where it can clean up behind itself.
+// Ctrl-C, or a terminal that closes, while a file is made: the work stops where it can clean up behind
+// itself.
 #pragma once
 
 #include <stdexcept>
@@ -10,7 +11,7 @@ class Interrupted : public std::runtime_error {
   Interrupted() : std::runtime_error("interrupted; nothing was made") {}
 };
 
-/// From here on SIGINT and SIGTERM are noted and no longer end the program at once.
+/// From here on SIGINT, SIGTERM and SIGHUP are noted and no longer end the program at once.
 void watchInterrupts();
 /// Throws Interrupted if one came.
 void checkInterrupts();

@@ -27,17 +27,26 @@ void printUsage(std::ostream& out) {
   out << "\nkestrelix-repository COMMAND --help tells more.\n";
 }
 
+/// What was printed may lie in a buffer still: a command is done when it stands where it was sent.
+int printed(int status) {
+  std::cout.flush();
+  if (std::cout) return status;
+  std::cerr << "the standard output cannot be written\n";
+  return status == kestrelix::kExitDone ? kestrelix::kExitFailed : status;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const std::vector<std::string> words(argv + 1, argv + argc);
   if (!words.empty() && (words[0] == "--help" || words[0] == "-h")) {
     printUsage(std::cout);
-    return kestrelix::kExitDone;
+    return printed(kestrelix::kExitDone);
   }
   try {
     for (const auto& command : kCommands)
-      if (!words.empty() && words[0] == command.name) return command.run(std::span(words).subspan(1));
+      if (!words.empty() && words[0] == command.name)
+        return printed(command.run(std::span(words).subspan(1)));
   } catch (const std::exception& error) {
     std::cerr << error.what() << "\n";
     return kestrelix::kExitFailed;

@@ -44,23 +44,34 @@ bool looksLikeNumber(const std::string& text) {
   return digit;
 }
 
-/// Nothing for wrong usage.
+/// A statement may begin with a comment, which no option has blanks or line ends of.
+bool isOption(const std::string& word) {
+  return word.starts_with("--") && word.find_first_of(" \t\r\n") == std::string::npos;
+}
+
+/// Nothing for wrong usage, which has been told then.
 std::optional<Request> requestOf(std::span<const std::string> arguments) {
   Request request;
   int plain = 0;
+  const auto wrong = [](const std::string& why) {
+    std::cerr << why << "\n\n" << kUsage;
+    return std::nullopt;
+  };
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const auto& word = arguments[i];
     if (word == "--explain") {
       request.explain = true;
     } else if (word == "--bind" && i + 1 < arguments.size()) {
       request.binds.push_back(arguments[++i]);
-    } else if (word.rfind("--", 0) == 0 || plain == 2) {
-      return std::nullopt;
+    } else if (isOption(word)) {
+      return wrong(word == "--bind" ? "--bind needs NAME=VALUE" : "unknown option: " + word);
+    } else if (plain == 2) {
+      return wrong("one file and one statement are enough: " + word);
     } else {
       (plain++ == 0 ? request.file : request.sql) = word;
     }
   }
-  if (plain != 2) return std::nullopt;
+  if (plain != 2) return wrong("a file and a statement are needed");
   return request;
 }
 
@@ -121,14 +132,11 @@ int queryCommand(std::span<const std::string> arguments) {
       return kExitDone;
     }
   const auto request = requestOf(arguments);
-  if (!request) {
-    std::cerr << kUsage;
-    return kExitWrongUsage;
-  }
+  if (!request) return kExitWrongUsage;
   embedded::LocalDatabase database(request->file);
   for (const auto& bind : request->binds)
     if (!addBind(database.parameters(), bind)) {
-      std::cerr << "no bind: " << bind << "\n" << kUsage;
+      std::cerr << "no bind: " << bind << "\n\n" << kUsage;
       return kExitWrongUsage;
     }
   if (request->explain) {
@@ -136,7 +144,6 @@ int queryCommand(std::span<const std::string> arguments) {
     return kExitDone;
   }
   printRows(*database.run(request->sql));
-  std::cout.flush();
   return kExitDone;
 }
 

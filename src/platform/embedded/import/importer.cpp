@@ -19,6 +19,7 @@ namespace {
 constexpr std::string_view kEvents = "stats$system_event";
 constexpr std::string_view kBackgroundEvents = "stats$bg_event_summary";
 constexpr std::size_t kShownBytes = 60;
+constexpr std::int64_t kRowsPerReport = 1000;
 
 std::string shown(std::string_view value) {
   if (value.size() <= kShownBytes) return "'" + std::string(value) + "'";
@@ -41,6 +42,11 @@ bool isPlainNumber(std::string_view text) {
   return whole.size() <= 1 || whole.front() != '0';
 }
 
+// SQLite's tables, and those that tell what is in the file.
+bool isReserved(std::string_view table) {
+  return table.starts_with("sqlite_") || table.starts_with("kestrelix$");
+}
+
 struct Source {
   std::filesystem::path path;
   std::string table;
@@ -56,10 +62,13 @@ std::vector<Source> sourcesOf(const std::filesystem::path& folder, bool keepUnkn
   std::map<std::string, Source> found;
   std::string unknown;
   for (const auto& entry : files) {
-    if (!entry.is_regular_file() || asciiLower(entry.path().extension().string()) != ".csv") continue;
+    if (asciiLower(entry.path().extension().string()) != ".csv") continue;
+    if (!entry.is_regular_file()) throw ImportError(entry.path().string() + ": is no plain file");
     Source source;
     source.path = entry.path();
     source.table = asciiLower(entry.path().stem().string());
+    if (isReserved(source.table))
+      throw ImportError(source.path.string() + ": the name is the repository's own, no table can bear it");
     source.known = statspack::everyRelease().table(source.table);
     source.bytes = static_cast<std::int64_t>(entry.file_size());
     if (source.known == nullptr && !keepUnknown)
@@ -144,7 +153,8 @@ class TableFile {
 };
 
 /// The columns of the file with their types; a file with columns of its own is read through for them.
-std::vector<NewColumn> columnsOf(const Source& source, const TableFile& file) {
+std::vector<NewColumn> columnsOf(const Source& source, const TableFile& file,
+                                 const std::function<void()>& stillReading) {
   std::vector<NewColumn> columns;
   std::vector<std::size_t> own;
   for (const std::string& name : file.names()) {
@@ -156,7 +166,9 @@ std::vector<NewColumn> columnsOf(const Source& source, const TableFile& file) {
   std::vector<bool> numeric(columns.size(), true);
   std::vector<bool> filled(columns.size(), false);
   TableFile rows(source);
+  std::int64_t count = 0;
   while (const auto* row = rows.next()) {
+    if (++count % kRowsPerReport == 0) stillReading();
     for (const std::size_t i : own) {
       const std::string& text = (*row)[i].text;
       if (text.empty()) continue;
@@ -229,7 +241,10 @@ std::vector<ImportedTable> importFolder(const std::filesystem::path& folder,
   std::int64_t before = 0;
   for (const Source& source : sources) {
     TableFile file(source);
-    const std::vector<NewColumn> columns = columnsOf(source, file);
+    const auto tell = [&] {
+      if (progress) progress(before + file.bytesRead(), all);
+    };
+    const std::vector<NewColumn> columns = columnsOf(source, file, tell);
     TableWriter& table = writer.addTable(source.table, columns);
     std::optional<BackgroundEvents> background;
     if (source.table == kEvents && !tellsBackground) background.emplace(writer, columns);
@@ -246,7 +261,7 @@ std::vector<ImportedTable> importFolder(const std::filesystem::path& folder,
       }
       table.insert(cells);
       if (background) background->add(*row, cells);
-      if (++result.rows % 1000 == 0 && progress) progress(before + file.bytesRead(), all);
+      if (++result.rows % kRowsPerReport == 0) tell();
     }
     imported.push_back(result);
     if (background && background->made())

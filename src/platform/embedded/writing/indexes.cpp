@@ -34,6 +34,9 @@ const std::vector<Extra>& extras() {
       // without a key of its own
       {"stats$sgastat", {"dbid", "instance_number", "snap_id", "name"}},
       {"stats$temp_sqlstats", {"old_hash_value"}},
+      // by name: unindexed, these few rows look like many and turn the joins around them into scans
+      {"stats$osstatname", {"stat_name"}},
+      {"stats$time_model_statname", {"stat_name"}},
       {"v$lock_type", {"type"}},
   };
   return list;

@@ -32,13 +32,25 @@ std::string listed(const std::vector<std::string>& names) {
 
 std::string failure(sqlite3* connection) { return sqlite3_errmsg(connection); }
 
+std::string unwritable(const std::filesystem::path& path, const std::string& why) {
+  return path.string() + ": cannot be written: " + why;
+}
+
+// The finished file takes the place of what bears its name: that may be a file, never a device or a folder.
+void checkTarget(const std::filesystem::path& path) {
+  if (path.filename().empty()) throw RepositoryError("'" + path.string() + "' is no name of a file");
+  std::error_code ignored;
+  if (std::filesystem::exists(path, ignored) && !std::filesystem::is_regular_file(path, ignored))
+    throw RepositoryError(unwritable(path, "it is no plain file"));
+}
+
 // On disk before the rename, so that a power cut cannot leave a named file with holes.
 void flush(const std::filesystem::path& path) {
   const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   const bool flushed = file >= 0 && ::fsync(file) == 0;
   const int reason = errno;
   if (file >= 0) ::close(file);
-  if (!flushed) throw RepositoryError(path.string() + ": cannot be written: " + std::strerror(reason));
+  if (!flushed) throw RepositoryError(unwritable(path, std::strerror(reason)));
 }
 
 }  // namespace
@@ -99,12 +111,13 @@ RepositoryWriter::RepositoryWriter(std::filesystem::path path, const NewAccount&
                                    std::string_view createdBy)
     : path_(std::move(path)), unfinished_(path_.string() + ".unfinished-" + std::to_string(::getpid())) {
   std::error_code ignored;
+  checkTarget(path_);
   std::filesystem::remove(unfinished_, ignored);
   const int result =
       sqlite3_open_v2(unfinished_.c_str(), &connection_,
                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
   try {
-    if (result != SQLITE_OK) throw RepositoryError(sqlite3_errstr(result));
+    if (result != SQLITE_OK) throw RepositoryError(unwritable(path_, sqlite3_errstr(result)));
     // A failure drops the whole file, so nothing need be undone and no journal is kept.
     execute("PRAGMA journal_mode = OFF");
     execute("PRAGMA synchronous = OFF");
@@ -115,10 +128,10 @@ RepositoryWriter::RepositoryWriter(std::filesystem::path path, const NewAccount&
     execute("PRAGMA user_version = " + std::to_string(kLayoutVersion));
     execute("BEGIN");
     writeSettings(account, createdBy);
-  } catch (const std::exception& error) {
+  } catch (...) {
     sqlite3_close(connection_);
     std::filesystem::remove(unfinished_, ignored);
-    throw RepositoryError(path_.string() + ": cannot be written: " + error.what());
+    throw;
   }
 }
 
@@ -131,7 +144,7 @@ RepositoryWriter::~RepositoryWriter() {
 
 void RepositoryWriter::execute(const std::string& sql) {
   if (sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
-    throw RepositoryError(path_.string() + ": cannot be written: " + failure(connection_));
+    throw RepositoryError(unwritable(path_, failure(connection_)));
 }
 
 void RepositoryWriter::writeSettings(const NewAccount& account, std::string_view createdBy) {
@@ -155,9 +168,9 @@ TableWriter* RepositoryWriter::table(std::string_view name) {
 }
 
 void RepositoryWriter::writeColumns() {
-  TableWriter catalogue(connection_, "kestrelix$column",
-                        {{"table_name"}, {"column_name"}, {"position"}, {"oracle_type"}, {"integral"},
-                         {"largest"}});
+  TableWriter catalogue(
+      connection_, "kestrelix$column",
+      {{"table_name"}, {"column_name"}, {"position"}, {"oracle_type"}, {"integral"}, {"largest"}});
   for (const auto& [name, table] : tables_) {
     for (std::size_t i = 0; i < table->columns_.size(); ++i) {
       const NewColumn& column = table->columns_[i];
@@ -187,7 +200,7 @@ void RepositoryWriter::finish() {
   flush(unfinished_);
   std::error_code error;
   std::filesystem::rename(unfinished_, path_, error);
-  if (error) throw RepositoryError(path_.string() + ": cannot be written: " + error.message());
+  if (error) throw RepositoryError(unwritable(path_, error.message()));
 }
 
 }  // namespace kestrelix::embedded
