@@ -19,6 +19,7 @@ fi
 [ -f "$deb" ] || fail "there is no $deb"
 
 root=${ROOT:-$(mktemp -d /tmp/kestrelix-debian.XXXXXX)}
+chmod 755 "$root" || exit 1 # plain users of the fresh system pass through it
 cleanup() {
   umount "$root/proc" 2>/dev/null
   [ -n "${ROOT:-}" ] || rm -rf --one-file-system "$root"

@@ -17,6 +17,7 @@ namespace {
 constexpr int kWidth = 980;
 constexpr int kHeight = 680;
 constexpr int kContentsWidth = 280;
+constexpr int kRowHeight = 20;
 constexpr int kAddress = Qt::UserRole;
 
 void named(QWidget& widget, const char* name) {
@@ -102,6 +103,7 @@ void HelpWindow::fillContents() {
     open.resize(depth);
     auto* item = depth == 0 ? new QTreeWidgetItem(contents_) : new QTreeWidgetItem(open.back());
     item->setText(0, text(topic.title));
+    item->setSizeHint(0, QSize(0, kRowHeight));
     item->setData(0, kAddress, text(topic.address));
     open.push_back(item);
   }
