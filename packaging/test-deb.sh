@@ -56,6 +56,7 @@ cp -r /etc/apt/apt.conf.d "$root/etc/apt/"
 cp /etc/resolv.conf /etc/hosts "$root/etc/"
 inside apt-get update -qq || fail "apt-get update"
 inside id dba >/dev/null 2>&1 || inside useradd -m dba
+rm -rf "$root/home/dba/.local"
 
 (cd "$root" && find . -xdev \( -path ./proc -o -path ./var -o -path ./tmp -o -path ./etc -o -path ./home \) -prune -o -print | sort) >/tmp/kestrelix-before.$$
 cp "$deb" "$root/tmp/kestrelix.deb"
@@ -75,13 +76,17 @@ for key in Exec Icon; do
 done
 say "ok: the menu entry leads to the program and its picture"
 
+missing=$(for plugin in "$root"/usr/lib/*/qt6/plugins/platforms/*.so; do inside ldd "${plugin#"$root"}"; done | grep 'not found')
+[ -z "$missing" ] || fail "the screen plugins lack libraries: $missing"
+[ -f "$(echo "$root"/usr/lib/*/qt6/plugins/platforms/libqxcb.so)" ] || fail "the package brings no plugin for X11"
+say "ok: brings all that a screen needs"
 check "starts for a user without the right to write its folder" runs_on as_user timeout 8 /opt/kestrelix/kestrelix
 logins=$root/home/dba/.local/share/kestrelix/Login.txt
 [ -f "$logins" ] || fail "the stored logins are not in the user's own folder"
 [ "$(stat -c %a "$logins")" = 600 ] || fail "others can read the stored logins"
 [ ! -e "$root/opt/kestrelix/Login.txt" ] || fail "the stored logins are in the program's folder"
 say "ok: keeps the stored logins in the user's own folder"
-check "makes a demo repository" as_user /opt/kestrelix/kestrelix-repository demo /home/dba/DEMO.sqlite --snapshots 5
+check "makes a demo repository" as_user /opt/kestrelix/kestrelix-repository demo /home/dba/DEMO.sqlite --snapshots 5 --force
 check "prints a report" as_user /opt/kestrelix/kestrelix-report --repository /home/dba/DEMO.sqlite \
   section Snapshot --instance 0 --pair 0
 check "starts for root" runs_on inside env HOME=/root QT_QPA_PLATFORM=offscreen timeout 8 \

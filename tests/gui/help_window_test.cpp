@@ -118,6 +118,16 @@ TEST_F(HelpTest, closedHelpOpensAnew) {
   EXPECT_NE(window("HelpWindow"), nullptr);
 }
 
+TEST_F(HelpTest, escapeClosesTheHelpFromContentsAndPage) {
+  layHelpFile();
+  startWithHelp();
+  for (const char* name : {"HelpContents", "HelpPage"}) {
+    press("HELP");
+    key(name, Qt::Key_Escape);
+    EXPECT_EQ(window("HelpWindow"), nullptr) << name;
+  }
+}
+
 TEST_F(HelpTest, helpGoesWithTheMainWindow) {
   layHelpFile();
   startWithHelp();
