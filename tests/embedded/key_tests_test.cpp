@@ -153,5 +153,23 @@ TEST_F(KeyTests, withAMarkRestrictTheOptionalSideAlone) {
   EXPECT_EQ(rows(sql), "10|-;20|7;30|-");
 }
 
+TEST_F(KeyTests, reachANamedGroupAtEachOfItsUses) {
+  const std::string sql =
+      "with g as (select snap_id, name, sum(value) as v from stats$sysstat group by snap_id, name) "
+      "select e.name, e.v - nvl(b.v, 0) as grown from g b, g e "
+      "where b.snap_id(+) = 1 and e.snap_id = 2 and b.name(+) = e.name order by e.name";
+  EXPECT_EQ(rows(sql), "a|50;b|2;c|1");
+  EXPECT_EQ(database->loweredText(sql).find("WITH "), std::string::npos);
+}
+
+TEST_F(KeyTests, leaveNamedRowsThatAreCountedToBeReadOnce) {
+  const std::string sql =
+      "with g as (select v.name, max(v.r) as m from (select name, rownum as r from stats$sysstat) v "
+      "group by v.name) select a.name, b.m - a.m as apart from g a, g b where a.name = b.name order by "
+      "a.name";
+  EXPECT_EQ(rows(sql), "a|0;b|0;c|0");
+  EXPECT_NE(database->loweredText(sql).find("WITH "), std::string::npos);
+}
+
 }  // namespace
 }  // namespace kestrelix::embedded

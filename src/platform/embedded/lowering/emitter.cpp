@@ -7,6 +7,21 @@
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
+namespace {
+
+// Groups of a table's rows that are made at each use are made of the rows that the use asks for, and not of
+// all that there are: SQLite hands no test down into a named query that is used twice. Rows that are counted
+// could be others at each use, so there is no ROWNUM below.
+bool isPlainGroup(const sql::Query& query) {
+  const sql::SelectBlock* block = query.single();
+  return block && !block->groupBy.empty() && !block->usesRownum &&
+         std::all_of(block->from.begin(), block->from.end(), [](const sql::FromItem* item) {
+           const auto* table = sql::as<sql::TableItem>(item);
+           return table && !table->with;
+         });
+}
+
+}  // namespace
 
 std::string quoted(std::string_view name) {
   std::string text = "\"";
@@ -92,7 +107,10 @@ QueryText Emitter::query(const sql::Query& query) {
     if (item->uses == 0) continue;
     QueryText text = this->query(*item->query);
     Source source{uniqueAlias(item->name), std::move(text.columns)};
-    with += (with.empty() ? "WITH " : ", ") + quoted(source.alias) + " AS (" + text.text + ")";
+    if (isPlainGroup(*item->query))
+      repeated_[item] = std::move(text.text);
+    else
+      with += (with.empty() ? "WITH " : ", ") + quoted(source.alias) + " AS (" + text.text + ")";
     sources_[item] = std::move(source);
   }
   QueryText text =
@@ -122,7 +140,8 @@ std::string Emitter::source(const sql::FromItem& item) {
   } else if (table.with) {
     const Source& named = sources_.at(table.with);
     source.columns = named.columns;
-    from = quoted(named.alias) + as;
+    const auto repeated = repeated_.find(table.with);
+    from = (repeated == repeated_.end() ? quoted(named.alias) : "(" + repeated->second + ")") + as;
   } else {
     const auto& columns = table.table->columns;
     for (std::size_t i = 0; i < columns.size(); ++i)

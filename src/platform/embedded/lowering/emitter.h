@@ -110,6 +110,7 @@ class Emitter {
   const LoweringFacts& facts_;
   LoweredStatement result_;
   std::unordered_map<const void*, Source> sources_;
+  std::unordered_map<const sql::WithItem*, std::string> repeated_;  ///< texts that stand at each use
   std::unordered_set<std::string> aliases_;
   std::unordered_map<const sql::Expr*, Piece> replacements_;
   std::unordered_map<const sql::SelectBlock*, std::vector<KeyTest>> keyTests_;
