@@ -98,6 +98,21 @@ TEST_F(RepositoryFile, damagedPagesAreAnErrorAndNoCrash) {
   EXPECT_THAT(refusal(folder_ / "damaged"), HasSubstr("is damaged"));
 }
 
+TEST_F(RepositoryFile, fileThatLostATableOrAColumnIsRefused) {
+  const std::string sound = bytesOf(file_);
+  for (const char* change :
+       {"ALTER TABLE \"stats$snapshot\" RENAME COLUMN snap_id TO snap",
+        "ALTER TABLE \"stats$snapshot\" RENAME TO other", "DROP TABLE \"stats$snapshot\""}) {
+    write(folder_ / "changed", sound);
+    sqlite3* changed = nullptr;
+    ASSERT_EQ(sqlite3_open((folder_ / "changed").c_str(), &changed), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(changed, change, nullptr, nullptr, nullptr), SQLITE_OK) << change;
+    sqlite3_close(changed);
+    EXPECT_THAT(refusal(folder_ / "changed"),
+                HasSubstr("is damaged: it has no column STATS$SNAPSHOT.SNAP_ID"));
+  }
+}
+
 TEST_F(RepositoryFile, readingLeavesFileAndFolderAsTheyWere) {
   const std::string before = bytesOf(file_);
   {

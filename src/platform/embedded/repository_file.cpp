@@ -73,6 +73,15 @@ std::string uriOf(const std::filesystem::path& path) {
   return uri + "?mode=ro&immutable=1";
 }
 
+/// A column that the file tells of and no longer has, as TABLE.COLUMN; empty if there is none.
+std::string missingColumn(sqlite3* connection) {
+  const auto lost = prepare(connection,
+                            "SELECT upper(table_name || '.' || column_name) FROM \"kestrelix$column\" EXCEPT "
+                            "SELECT upper(held.name || '.' || own.name) FROM sqlite_schema AS held, "
+                            "pragma_table_info(held.name) AS own WHERE held.type = 'table' LIMIT 1");
+  return step(lost.get()) ? columnText(lost.get(), 0) : std::string();
+}
+
 }  // namespace
 
 ConnectionHandle openRepositoryFile(const std::filesystem::path& path) {
@@ -91,6 +100,7 @@ ConnectionHandle openRepositoryFile(const std::filesystem::path& path) {
   // A quoted name that is unknown must be an error and never turn into a text.
   sqlite3_db_config(raw, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   sqlite3_limit(raw, SQLITE_LIMIT_ATTACHED, 0);
+  std::string lost;
   try {
     step(prepare(raw, "PRAGMA query_only = 1").get());
     step(prepare(raw, "PRAGMA cache_size = -65536").get());
@@ -99,9 +109,11 @@ ConnectionHandle openRepositoryFile(const std::filesystem::path& path) {
                  "SELECT (SELECT max(position) FROM \"kestrelix$column\"), (SELECT max(value) FROM "
                  "\"kestrelix$setting\")")
              .get());
+    lost = missingColumn(raw);
   } catch (const DatabaseError& error) {
     refuse(path, std::string("is damaged: ") + error.what());
   }
+  if (!lost.empty()) refuse(path, "is damaged: it has no column " + lost);
   return connection;
 }
 
