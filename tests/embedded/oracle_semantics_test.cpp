@@ -229,6 +229,36 @@ TEST_F(OracleSemantics, rownumBoundIsAnyNumber) {
   EXPECT_THAT(rows("select id from stats$n where rownum <= null"), IsEmpty());
 }
 
+// ---- set operators ----
+
+TEST_F(OracleSemantics, branchesSortTogetherByTheirNumbers) {
+  const std::string both =
+      "select id, v / 10 as q from stats$n union all select 6, to_number(null) from dual "
+      "union all select 7, id / 1000 from stats$n where id = 5 order by q";
+  EXPECT_THAT(rows(both), ElementsAre("3|-0.025", "7|0.005", "2|0.25", "5|0.9", "1|1", "4|-", "6|-"));
+  EXPECT_THAT(
+      rows("select id, w / 100 as q from stats$n union all select 6, id / 10 from stats$n where id = 1 "
+           "union all select 7, 0 from dual order by q desc, 1"),
+      ElementsAre("5|-", "6|0.1", "4|0.04", "3|0.03", "2|0.02", "1|0.01", "7|0"));
+  EXPECT_THAT(rows("select w / 10 as q from stats$n union select id / 10 from stats$n order by 1 desc"),
+              ElementsAre("-", "0.5", "0.4", "0.3", "0.2", "0.1"));
+  EXPECT_THAT(rows("select v from stats$n minus select 2.5 from dual order by v desc"),
+              ElementsAre("-", "10", "9", "-0.25"));
+}
+
+TEST_F(OracleSemantics, setOperatorsGoFromLeftToRight) {
+  EXPECT_THAT(rows("select 1 x from dual union all select 2 from dual union all select 2 from dual "
+                   "minus select 1 from dual order by 1"),
+              ElementsAre("2"));
+  EXPECT_THAT(rows("select id from stats$n minus (select 1 from dual union all select 2 from dual) "
+                   "order by id desc"),
+              ElementsAre("5", "4", "3"));
+  EXPECT_THAT(
+      rows("select q from (select id / 100 q from stats$n union all select 1.5 from dual order by q desc) "
+           "where rownum <= 2"),
+      ElementsAre("1.5", "0.05"));
+}
+
 // ---- joins ----
 
 TEST_F(OracleSemantics, outerMarkKeepsTheRowsWithoutPartner) {

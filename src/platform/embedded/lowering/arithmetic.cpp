@@ -61,7 +61,7 @@ Piece divided(Emitter&, const Piece& left, const Piece& right, sql::Place place)
     dividend = left.quotient.dividend;
     divisor = std::to_string(left.quotient.divisor) + " * " + bracketed(right);
   } else if (left.number.integral && power > 0) {
-    piece.quotient = {left.text, power};
+    piece.quotient = {left.text, power, left.number.largest};
   }
   // Only a divisor that may be zero needs the place where the failure is told.
   const bool literal = right.present && right.cheap && right.number.integral && divisor != "0";

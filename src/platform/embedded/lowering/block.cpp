@@ -55,7 +55,7 @@ QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const s
                         const std::string& where, const sql::List<sql::OrderItem>* order) {
   QueryText result;
   std::string list;
-  std::vector<Piece> outputs;
+  std::vector<Piece>& outputs = result.outputs;
   std::unordered_set<std::string> names;
   for (const auto& column : block.columns) {
     Piece piece = emitter.expression(*column.expr);
@@ -71,7 +71,9 @@ QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const s
     result.columns.push_back({name, column.type.kind, piece.number});
     outputs.push_back(std::move(piece));
   }
-  result.text = std::string("SELECT ") + (block.distinct ? "DISTINCT " : "") + list + " FROM " + from + where;
+  result.text = std::string("SELECT ") + (block.distinct ? "DISTINCT " : "") + list;
+  result.listEnd = result.text.size();
+  result.text += " FROM " + from + where;
 
   std::string keys;
   for (const sql::Expr* key : block.groupBy)

@@ -19,6 +19,7 @@ namespace kestrelix::embedded {
 struct ExactQuotient {
   std::string dividend;  ///< empty for any other expression
   std::int64_t divisor = 1;
+  double largest = 0;  ///< no absolute value of the dividend is above
 };
 
 /// An expression in SQLite's words, with what is known of its values.
@@ -65,6 +66,10 @@ struct KeyTest {
 struct QueryText {
   std::string text;
   std::vector<SourceColumn> columns;
+
+  // Of a block on its own:
+  std::vector<Piece> outputs;  ///< its select list, in words that hold inside the block
+  std::size_t listEnd = 0;     ///< where in `text` more could be selected
 };
 
 class Emitter {

@@ -5,6 +5,8 @@
 namespace kestrelix::embedded {
 
 std::string sortKey(const Piece& piece) {
+  // A quotient sorts as its dividend does.
+  if (!piece.quotient.dividend.empty()) return piece.quotient.dividend;
   if (piece.kind == sql::TypeKind::Number && !piece.number.integral) return "num_key(" + piece.text + ")";
   return piece.text;
 }

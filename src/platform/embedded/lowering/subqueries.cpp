@@ -58,7 +58,8 @@ std::string lowerInQuery(Emitter& emitter, const std::vector<Piece>& operand, bo
     list += (list.empty() ? "" : ", ") + member;
   }
   return "((" + left + (negated ? ") NOT IN (" : ") IN (") +
-         (converts ? "SELECT " + list + " FROM (" + text.text + ")" : text.text) + "))";
+         (converts || !query.orderBy.empty() ? "SELECT " + list + " FROM (" + text.text + ")" : text.text) +
+         "))";
 }
 
 }  // namespace kestrelix::embedded
