@@ -1,6 +1,9 @@
 // query FILE 'select ...': runs Oracle SQL on a repository file and prints its rows as CSV (RFC 4180).
 #include <iostream>
 #include <optional>
+#include <span>
+#include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "commands.h"
@@ -106,21 +109,21 @@ void printField(const std::string& text) {
   std::cout << '"';
 }
 
-void printRows(embedded::ResultRows& rows) {
-  const auto& columns = rows.columns();
-  for (std::size_t i = 0; i < columns.size(); ++i) {
+void printNames(const std::vector<std::string>& names) {
+  for (std::size_t i = 0; i < names.size(); ++i) {
     if (i > 0) std::cout << ',';
-    printField(columns[i]);
+    printField(names[i]);
   }
   std::cout << "\r\n";
-  for (; !rows.Eof(); rows.MoveNext()) {
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-      const auto field = rows.field(i);
-      if (i > 0) std::cout << ',';
-      if (!field.isNull()) printField(field.value());
-    }
-    std::cout << "\r\n";
+}
+
+void printLine(std::span<const std::optional<std::string>> cells) {
+  bool first = true;
+  for (const auto& cell : cells) {
+    if (!std::exchange(first, false)) std::cout << ',';
+    if (cell) printField(*cell);
   }
+  std::cout << "\r\n";
 }
 
 }  // namespace
@@ -143,7 +146,13 @@ int queryCommand(std::span<const std::string> arguments) {
     std::cout << database.loweredText(request->sql) << "\n";
     return kExitDone;
   }
-  printRows(*database.run(request->sql));
+  bool headed = false;
+  const auto names = database.stream(request->sql, [&](const auto& columns, const auto row) {
+    if (!std::exchange(headed, true)) printNames(columns);
+    printLine(row);
+    if (!std::cout) throw std::runtime_error("the standard output cannot be written");
+  });
+  if (!headed) printNames(names);
   return kExitDone;
 }
 

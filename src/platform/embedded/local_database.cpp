@@ -1,6 +1,8 @@
 #include "platform/embedded/local_database.h"
 
+#include <algorithm>
 #include <ctime>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -97,20 +99,53 @@ class LocalDatabase::Engine {
   }
 
   std::unique_ptr<ResultRows> run(const std::string& text, const Parameters& binds) {
+    std::shared_ptr<const std::vector<std::string>> names;
+    std::vector<std::optional<std::string>> cells;
+    std::size_t rows = 0;
+    const auto collect = [&](bool wideSums) {
+      cells.clear();
+      names = walk(text, binds, wideSums, [&](const Names&, Row& row) {
+        std::move(row.begin(), row.end(), std::back_inserter(cells));
+      });
+      rows = names->empty() ? 0 : cells.size() / names->size();
+    };
     try {
-      return run(prepared(text, binds), binds);
-    } catch (const DatabaseError& error) {
-      if (!evaluation_.failure &&
-          std::string_view(error.what()).find("integer overflow") != std::string_view::npos)
-        return run(prepared(text, binds, true), binds);
-      if (!evaluation_.failure) throw DatabaseError(error.sqlState(), error.nativeCode(), error.what(), text);
-      const auto failure = *std::exchange(evaluation_.failure, std::nullopt);
-      fail(sql::SqlError::wrong(failure.code, failure.message, placeOf(text, failure.offset)), text);
+      collect(false);
+    } catch (const SumTooLarge&) {
+      collect(true);
+    }
+    return std::make_unique<ResultRows>(std::move(names), std::move(cells), rows);
+  }
+
+  std::vector<std::string> stream(const std::string& text, const Parameters& binds, const RowSink& sink) {
+    std::size_t given = 0;
+    const auto give = [&](const Names& names, Row& row) {
+      ++given;
+      sink(names, row);
+    };
+    try {
+      return *walk(text, binds, false, give);
+    } catch (const SumTooLarge&) {
+      // The same rows in the same order: those that were given already are passed over.
+      std::size_t toPass = given;
+      return *walk(text, binds, true, [&](const Names& names, Row& row) {
+        if (toPass == 0) return sink(names, row);
+        --toPass;
+      });
     }
   }
 
  private:
-  std::unique_ptr<ResultRows> run(PreparedStatement& statement, const Parameters& binds) {
+  using Names = std::vector<std::string>;
+  using Row = std::vector<std::optional<std::string>>;
+  /// A sum of whole numbers left 64 bits: the statement has to run with sums of NUMBER.
+  struct SumTooLarge {};
+
+  /// Runs the statement and hands over its rows, each in turn; gives the names of the columns.
+  std::shared_ptr<const std::vector<std::string>> walk(const std::string& text, const Parameters& binds,
+                                                       bool wideSums,
+                                                       const std::function<void(const Names&, Row&)>& sink) {
+    PreparedStatement& statement = prepared(text, binds, wideSums);
     sqlite3_stmt* handle = statement.handle.get();
     evaluation_.failure.reset();
     evaluation_.rownums.assign(static_cast<std::size_t>(statement.lowered.rownumCounters), 0);
@@ -120,13 +155,28 @@ class LocalDatabase::Engine {
     const std::unique_ptr<sqlite3_stmt, ResetStatement> reset(handle);
 
     const auto& columns = statement.lowered.columns;
-    std::vector<std::optional<std::string>> cells;
-    std::size_t rows = 0;
-    for (; step(handle); ++rows)
+    Row row(columns.size());
+    while (next(handle, text, wideSums)) {
       for (std::size_t i = 0; i < columns.size(); ++i)
-        cells.push_back(cellText(handle, static_cast<int>(i), columns[i].type));
+        row[i] = cellText(handle, static_cast<int>(i), columns[i].type);
+      sink(*statement.names, row);
+    }
+    return statement.names;
+  }
 
-    return std::make_unique<ResultRows>(statement.names, std::move(cells), rows);
+  /// Whether there is a row; an error is told in Oracle's terms and with its place.
+  bool next(sqlite3_stmt* handle, const std::string& text, bool wideSums) {
+    try {
+      return step(handle);
+    } catch (const DatabaseError& error) {
+      if (evaluation_.failure) {
+        const auto failure = *std::exchange(evaluation_.failure, std::nullopt);
+        fail(sql::SqlError::wrong(failure.code, failure.message, placeOf(text, failure.offset)), text);
+      }
+      if (!wideSums && std::string_view(error.what()).find("integer overflow") != std::string_view::npos)
+        throw SumTooLarge();
+      throw DatabaseError(error.sqlState(), error.nativeCode(), error.what(), text);
+    }
   }
 
   void bind(PreparedStatement& statement, const Parameters& binds) {
@@ -157,6 +207,10 @@ std::unique_ptr<Dynaset> LocalDatabase::DbCreateDynaset(const std::string& sql, 
 
 std::unique_ptr<ResultRows> LocalDatabase::run(const std::string& sql) {
   return engine_->run(sql, parameters());
+}
+
+std::vector<std::string> LocalDatabase::stream(const std::string& sql, const RowSink& sink) {
+  return engine_->stream(sql, parameters(), sink);
 }
 
 void LocalDatabase::logOn(const Credentials& credentials) {

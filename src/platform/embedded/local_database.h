@@ -2,13 +2,21 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "platform/database.h"
 #include "platform/embedded/result_rows.h"
 
 namespace kestrelix::embedded {
+
+/// Takes the names of the columns and a row of a result, a NULL without a value.
+using RowSink = std::function<void(const std::vector<std::string>& names,
+                                   std::span<const std::optional<std::string>> row)>;
 
 /// An open repository file. One thread.
 class LocalDatabase final : public Database {
@@ -21,6 +29,9 @@ class LocalDatabase final : public Database {
 
   /// The same with fields by their place.
   std::unique_ptr<ResultRows> run(const std::string& sql);
+  /// Hands over the rows one by one and holds none; gives the names of the columns. An error comes behind the
+  /// rows before it.
+  std::vector<std::string> stream(const std::string& sql, const RowSink& sink);
   /// Throws DatabaseError ORA-01017 for a user or password that is not the file's.
   void logOn(const Credentials& credentials);
   /// What SQLite is asked to run for the statement with the binds that stand in parameters().
