@@ -1,14 +1,16 @@
 #!/usr/bin/env python3
 """Drives the real program under Xvfb through its report states and keeps a picture of each.
 
-usage: screenshots.py BIN_FOLDER OUT_FOLDER [STATE...]
+usage: screenshots.py BIN_FOLDER OUT_FOLDER
 
-BIN_FOLDER holds kestrelix and repository/DEMO.sqlite. Needs xvfb, xdotool and imagemagick.
+BIN_FOLDER holds kestrelix, Kestrelix.chm and repository/DEMO.sqlite. Needs xvfb, xdotool and imagemagick.
+OUT_FOLDER gets the pictures, those of a dark desktop and of a screen of double size in folders of their own.
 """
 
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -19,18 +21,20 @@ DEADLINE = 30  # seconds for a window to appear
 
 
 class Screen:
-    """A screen of its own, with a window that is found by its title."""
+    """A screen of its own, with a window that is found by its title. `scale` is that of the desktop."""
 
-    def __init__(self):
+    def __init__(self, scale=1):
+        self.scale = scale
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-dpi", "96", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{1280 * scale}x{900 * scale}x24", "-dpi", "96", "-nolisten", "tcp"],
             pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as pipe:
             self.display = ":" + pipe.readline().strip()
         self.environment = {**os.environ, "DISPLAY": self.display, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8"}
         self.environment.pop("WAYLAND_DISPLAY", None)
+        self.environment["QT_SCALE_FACTOR"] = str(scale)
 
     def run(self, *command):
         return subprocess.run(command, env=self.environment, check=True, capture_output=True, text=True).stdout
@@ -71,13 +75,23 @@ class Screen:
                      self.run("xdotool", "getwindowgeometry", "--shell", window).split())
         return tuple(int(lines[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
 
-    def click(self, window, left, top, times=1):
-        """A click at a place of the window in twips."""
+    def point(self, window, left, top):
+        """Moves the pointer to a place of the window in twips."""
         x, y, _, _ = self.place(window)
-        self.run("xdotool", "mousemove", str(x + left // TWIPS), str(y + top // TWIPS))
+        self.run("xdotool", "mousemove", str(x + left * self.scale // TWIPS), str(y + top * self.scale // TWIPS))
+
+    def click(self, window, left, top, times=1):
+        self.point(window, left, top)
         time.sleep(0.05)
         self.run("xdotool", "click", "--repeat", str(times), "--delay", "60", "1")
         self.settle()
+
+    def strip(self, window, top, height):
+        """The pixels of a strip across the window, in pixels of a plain screen."""
+        x, y, width, _ = self.place(window)
+        crop = f"{width}x{height * self.scale}+{x}+{y + top * self.scale}"
+        return subprocess.run(["import", "-window", "root", "-crop", crop, "-depth", "8", "rgb:-"],
+                              env=self.environment, check=True, capture_output=True).stdout
 
     def key(self, name):
         self.run("xdotool", "key", name)
@@ -94,7 +108,33 @@ GRID_ROW = 15 * TWIPS
 GRID_TOP = 3982
 FIRST_LOGIN = (1500, 120 + 19 * TWIPS + 140)
 BUTTONS = {"GRID": 255, "SQL": 645, "PLAN": 1035, "GRAPH_START": 1575, "GRAPH_LEFT": 1965, "GRAPH_DISP": 2355,
-           "GRAPH_MAX": 2745, "LIST": 3135, "GRAPH_RIGHT": 3525, "GRAPH_END": 3915}
+           "GRAPH_MAX": 2745, "LIST": 3135, "GRAPH_RIGHT": 3525, "GRAPH_END": 3915, "HELP": 6435}
+BAR = (515, 10)  # top and height, in pixels, of what the bar of a long series covers
+
+DARK = """[Colors:Window]
+BackgroundNormal=38,40,44
+ForegroundNormal=236,238,240
+[Colors:View]
+BackgroundNormal=24,25,28
+ForegroundNormal=236,238,240
+BackgroundAlternate=30,31,35
+[Colors:Button]
+BackgroundNormal=48,51,56
+ForegroundNormal=236,238,240
+[Colors:Selection]
+BackgroundNormal=58,120,190
+ForegroundNormal=255,255,255
+[Colors:Tooltip]
+BackgroundNormal=48,51,56
+ForegroundNormal=236,238,240
+"""
+
+
+def dark_desktop(folder):
+    """The environment of a desktop whose colours are light on dark."""
+    (folder / "kdeglobals").write_text(DARK)
+    return {"XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": "5",
+            "XDG_CONFIG_HOME": str(folder)}
 
 
 def pair(row):
@@ -110,14 +150,72 @@ def cell(row, left=2000):
 
 
 class Tour:
-    def __init__(self, screen, bin_folder, out):
+    def __init__(self, screen, bin_folder, out, dark=False):
         self.screen = screen
         self.out = out
+        self.out.mkdir(parents=True, exist_ok=True)
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="kestrelix-pictures-"))
         shutil.copy(bin_folder / "kestrelix", self.folder)
         (self.folder / "repository").symlink_to((bin_folder / "repository").resolve())
         (self.folder / "Login.txt").write_bytes(b"DEMO,PERFSTAT,perfstat\r\nPROD,SYSTEM,manager\r\n")
-        self.program = subprocess.Popen([self.folder / "kestrelix"], env=screen.environment)
+        if (bin_folder / "Kestrelix.chm").exists():
+            shutil.copy(bin_folder / "Kestrelix.chm", self.folder)
+        environment = {**screen.environment, **(dark_desktop(self.folder) if dark else {})}
+        self.program = subprocess.Popen([self.folder / "kestrelix"], env=environment)
+
+    def glance(self):
+        """The states in which colours and sizes could go wrong."""
+        screen = self.screen
+        login = screen.window("^FormLogin$")
+        self.keep(login, "login")
+        screen.click(login, *FIRST_LOGIN, times=2)
+        main = screen.window("^Kestrelix ")
+        self.keep(main, "first-report")
+        screen.click(main, 11000, 451 + 560)
+        self.keep(main, "instances")
+        screen.key("Return")
+        self.choose(main, "Wait Events", 5)
+        self.drag(main, cell(2), cell(4, 6000))
+        self.keep(main, "selection")
+        time.sleep(1)
+        screen.click(main, *cell(1), times=2)
+        self.keep(main, "col")
+        screen.click(main, *cell(1, 1200), times=2)
+        self.keep(None, "graph-refused")
+        screen.key("Return")
+        screen.click(main, *cell(1, 5600), times=2)
+        self.hover(main, 2100, 4000)
+        self.keep(None, "graph")
+        self.button(main, "LIST", "graph-left")
+        self.choose(main, "SQL ordered by Gets TOTAL", 7)
+        self.button(main, "SQL", "sql-text")
+        self.busy(main)
+        self.help(main)
+
+    def busy(self, main):
+        """Slows the program down in a long series until its bar shows, and keeps it standing for the picture."""
+        screen = self.screen
+        self.choose(main, "SQL ordered by Gets TOTAL", 7)
+        time.sleep(1)
+        before = screen.strip(main, *BAR)
+        screen.point(main, *cell(1))
+        screen.run("xdotool", "click", "--repeat", "2", "--delay", "60", "1")
+        end = time.monotonic() + DEADLINE
+        while screen.strip(main, *BAR) == before:
+            self.program.send_signal(signal.SIGSTOP)
+            time.sleep(0.1)
+            self.program.send_signal(signal.SIGCONT)
+            time.sleep(0.005)
+            if time.monotonic() > end:
+                sys.exit("no bar shows in a long series")
+        self.program.send_signal(signal.SIGSTOP)
+        self.keep(main, "busy")
+        self.program.send_signal(signal.SIGCONT)
+        screen.settle()
+
+    def help(self, main):
+        self.screen.click(main, BUTTONS["HELP"], 210)
+        self.keep(self.screen.window("^Kestrelix ヘルプ"), "help")
 
     def go(self):
         screen = self.screen
@@ -172,13 +270,17 @@ class Tour:
         self.keep(main, "top-5-graph")
         screen.click(main, 5000, 560, times=2)
         self.keep(main, "graph-left-by-frame")
-        self.main = main
-        return self
+        self.choose(main, "Undo Segment Stats", 103)
+        screen.click(main, *cell(1), times=2)
+        self.keep(None, "series-refused")
+        screen.key("Return")
+        self.keep(main, "series-refused-left")
+        self.busy(main)
+        self.help(main)
 
     def hover(self, main, left, top):
-        x, y, _, _ = self.screen.place(main)
-        for step in (0, 2):
-            self.screen.run("xdotool", "mousemove", str(x + left // TWIPS + step), str(y + top // TWIPS))
+        for step in (0, 2 * TWIPS):
+            self.screen.point(main, left + step, top)
             time.sleep(0.3)
 
     def choose(self, main, name, row):
@@ -196,9 +298,9 @@ class Tour:
 
     def drag(self, main, start, end):
         time.sleep(1)  # apart from the click before, not to make a double click of the two
-        x, y, _, _ = self.screen.place(main)
-        self.screen.run("xdotool", "mousemove", str(x + start[0] // TWIPS), str(y + start[1] // TWIPS), "mousedown", "1")
-        self.screen.run("xdotool", "mousemove", str(x + end[0] // TWIPS), str(y + end[1] // TWIPS))
+        self.screen.point(main, *start)
+        self.screen.run("xdotool", "mousedown", "1")
+        self.screen.point(main, *end)
         self.screen.run("xdotool", "mouseup", "1")
 
     def keep(self, window, name):
@@ -213,13 +315,19 @@ class Tour:
 def main():
     if len(sys.argv) < 3:
         sys.exit(__doc__)
+    bin_folder = pathlib.Path(sys.argv[1])
     out = pathlib.Path(sys.argv[2])
-    out.mkdir(parents=True, exist_ok=True)
-    screen = Screen()
+    take(bin_folder, out, Tour.go)
+    take(bin_folder, out / "dark", Tour.glance, dark=True)
+    take(bin_folder, out / "double", Tour.glance, scale=2)
+
+
+def take(bin_folder, out, path, scale=1, dark=False):
+    screen = Screen(scale)
     try:
-        tour = Tour(screen, pathlib.Path(sys.argv[1]), out)
+        tour = Tour(screen, bin_folder, out, dark)
         try:
-            tour.go()
+            path(tour)
         finally:
             tour.close()
     finally:

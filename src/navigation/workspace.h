@@ -10,6 +10,7 @@
 #include "platform/controls.h"
 #include "platform/database.h"
 #include "platform/message_box.h"
+#include "platform/progress.h"
 
 namespace kestrelix {
 
@@ -36,9 +37,14 @@ struct MainControls {
 
 /// One connection with one report on it. The members named g... are what every part of the report shares.
 struct Workspace {
-  explicit Workspace(MessageBoxes& messageBoxes) : boxes(messageBoxes) {}
+  /// Without `shown` nobody is told how far an action has come.
+  explicit Workspace(MessageBoxes& messageBoxes, Progress* shown = nullptr)
+      : boxes(messageBoxes), progress(shown != nullptr ? *shown : untold_) {}
+  Workspace(const Workspace&) = delete;
+  Workspace& operator=(const Workspace&) = delete;
 
   MessageBoxes& boxes;
+  Progress& progress;
   MainControls controls;
 
   std::unique_ptr<Session> gOraSession;
@@ -49,6 +55,9 @@ struct Workspace {
 
   /// Unloads the main window: there is no state of it without instances or pairs.
   std::function<void()> unloadMain = [] {};
+
+ private:
+  Progress untold_;
 };
 
 }  // namespace kestrelix

@@ -44,6 +44,7 @@ bool fetchEveryPair(Workspace& workspace, SectionObject& object, const std::vect
                     const std::vector<std::string>& arguments) {
   const clsSnapId& pairs = *workspace.gSnapId;
   for (int i = 0; i < pairs.rownum(); ++i) {
+    workspace.progress.step(i + 1, static_cast<int>(pairs.rownum()));
     const auto get = [&](const std::string& member) { return object.get(member, i); };
     if (!object.setBAIND_VALUE(pairs.keys(i), arguments) ||
         !std::all_of(members.begin(), members.end(), get) || !object.unsetBAIND_VALUE())

@@ -26,7 +26,9 @@ FormLogin::FormLogin(Workspace& workspace, const ShellServices& services)
 
   const auto when = [this](void (FormLogin::*handler)()) {
     return [this, handler] {
-      if (!unloaded_) (this->*handler)();
+      if (unloaded_) return;
+      const Action action(workspace_.progress);
+      (this->*handler)();
     };
   };
   controls.CommandOK.Click.connect(when(&FormLogin::CommandOK_Click));

@@ -67,7 +67,9 @@ void FormMain::setUpControls() {
 void FormMain::connectEvents() {
   const auto when = [this](void (FormMain::*handler)()) {
     return [this, handler] {
-      if (!unloaded_) (this->*handler)();
+      if (unloaded_) return;
+      const Action action(workspace_.progress);
+      (this->*handler)();
     };
   };
   controls_.ComboDbInstance.Click.connect(when(&FormMain::ComboDbInstance_Click));
@@ -78,12 +80,15 @@ void FormMain::connectEvents() {
     if (!unloaded_) ShowGraphPanel(false);
   });
   controls_.ToolbarTop.ButtonClick.connect([this](const std::string& key) {
-    if (!unloaded_) ToolbarTop_ButtonClick(key);
+    if (unloaded_) return;
+    const Action action(workspace_.progress);
+    ToolbarTop_ButtonClick(key);
   });
   workspace_.unloadMain = [this] { Unload(); };
 }
 
 void FormMain::Load(clsWheelMouse::Handle hWnd, const FormLogin& login) {
+  const Action action(workspace_.progress);
   m_CWheel = std::make_unique<clsWheelMouse>();
   m_CWheel->MouseWheel.connect([this](int direction) { m_CWheel_MouseWheel(direction); });
   m_CWheel->Initialize(hWnd);

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QTableView>
 #include <QTest>
+#include <QWheelEvent>
 #include <memory>
 
 #include "platform/qt/Desktop.h"
@@ -48,7 +49,8 @@ class GuiTest : public ShellTest {
     desktop = std::make_unique<Desktop>(DesktopParts{
         boxes,
         {qtClipboard, services.help, services.programFolder, services.makeSession, services.sections},
-        [this](Workspace&) { return recorded.operations(); }});
+        operations,
+        progressClock});
     desktop->start();
     settle();
   }
@@ -100,9 +102,21 @@ class GuiTest : public ShellTest {
     QTest::keyClick(find(widget), pressed, keys);
     settle();
   }
+  /// A turn of the wheel, in eighths of a degree, as the window system sends it.
+  static void turn(QWidget* over, QPoint angle) {
+    const QPoint at = over->rect().center();
+    QWheelEvent event(at, over->mapToGlobal(at), {}, angle, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(over, &event);
+    settle();
+  }
   static std::string clipboardText() { return QApplication::clipboard()->text().toStdString(); }
 
   RecordingOperations recorded;
+  std::function<ReportOperations(Workspace&)> operations = [this](Workspace&) {
+    return recorded.operations();
+  };
+  std::function<QtProgress::Time()> progressClock = std::chrono::steady_clock::now;
   QtClipboard qtClipboard;
   std::unique_ptr<Desktop> desktop;
 };

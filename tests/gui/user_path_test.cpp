@@ -238,13 +238,6 @@ class LongGrid : public GuiTest {
     click("ListSnapId", 0);
     bar = find<QTableView>("MSFlexGridMain")->verticalScrollBar();
   }
-  static void turn(QWidget* over, QPoint angle) {
-    const QPoint at = over->rect().center();
-    QWheelEvent event(at, over->mapToGlobal(at), {}, angle, Qt::NoButton, {}, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&event);  // as the window system sends it
-    qApp->notify(over, &event);
-    settle();
-  }
   QScrollBar* bar;
 };
 

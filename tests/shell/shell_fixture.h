@@ -15,6 +15,7 @@
 
 #include "shell/FormLogin.h"
 #include "support/recording_boxes.h"
+#include "support/recording_progress.h"
 #include "support/snapshots.h"
 
 namespace kestrelix::testing_support {
@@ -87,7 +88,8 @@ class ShellTest : public testing::Test {
   RecordingBoxes boxes;
   RecordingClipboard clipboard;
   RecordingHelp help{server};
-  Workspace workspace{boxes};
+  RecordingProgress progress;
+  Workspace workspace{boxes, &progress};
   ShellServices services{
       clipboard, help, folder.path(), [this] { return std::make_unique<FakeSession>(server); }, {}};
 };

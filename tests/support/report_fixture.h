@@ -12,6 +12,7 @@
 #include "sections/SectionList.h"
 #include "support/fixture_repository.h"
 #include "support/recording_boxes.h"
+#include "support/recording_progress.h"
 
 namespace kestrelix::testing_support {
 
@@ -34,7 +35,7 @@ inline std::string printed(const Grid& grid) {
 ///   EXPECT_THAT(boxes(), IsEmpty());
 class ReportFixture {
  public:
-  explicit ReportFixture(const std::string& path) : workspace_(boxes_) {
+  explicit ReportFixture(const std::string& path) : workspace_(boxes_, &progress_) {
     workspace_.gOraSession = embedded::localSession(path);
     workspace_.gOraDatabase =
         workspace_.gOraSession->OpenDatabase("FIXTURE", "PERFSTAT/perfstat", kDatabaseOptions);
@@ -73,6 +74,8 @@ class ReportFixture {
   /// The boxes shown so far.
   const std::vector<std::string>& boxes() const { return boxes_.shown; }
   const std::vector<std::string>& errors() const { return boxes_.errors; }
+  /// What was told of how far the views had come.
+  const std::vector<std::string>& told() const { return progress_.calls; }
 
  private:
   void select(const std::string& section) {
@@ -86,12 +89,13 @@ class ReportFixture {
   }
 
   void addButtons() {
-    for (const char* key : {"GRID", "SQL", "PLAN", "GRAPH_START", "GRAPH_LEFT", "GRAPH_DISP", "GRAPH_MAX", "LIST",
-                            "GRAPH_RIGHT", "GRAPH_END", "START", "END", "COPY", "HELP"})
+    for (const char* key : {"GRID", "SQL", "PLAN", "GRAPH_START", "GRAPH_LEFT", "GRAPH_DISP", "GRAPH_MAX",
+                            "LIST", "GRAPH_RIGHT", "GRAPH_END", "START", "END", "COPY", "HELP"})
       workspace_.controls.ToolbarTop.Add(key, key, "");
   }
 
   RecordingBoxes boxes_;
+  RecordingProgress progress_;
   Workspace workspace_;
   std::string version_;
 };

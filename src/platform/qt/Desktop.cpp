@@ -6,6 +6,8 @@
 #include <QStyleFactory>
 #include <iostream>
 
+#include "platform/qt/mirror.h"
+
 namespace kestrelix {
 namespace {
 
@@ -43,7 +45,10 @@ class Application final : public QApplication {
 }  // namespace
 
 Desktop::Desktop(DesktopParts parts)
-    : parts_(std::move(parts)), workspace_(parts_.boxes), login_(workspace_, parts_.services) {
+    : parts_(std::move(parts)),
+      progress_(parts_.clock),
+      workspace_(parts_.boxes, &progress_),
+      login_(workspace_, parts_.services) {
   login_.showMain = [this] { showMain(); };
   login_.Unloaded.connect([this] { windowGone(loginWindow_); });
 }
@@ -63,6 +68,7 @@ void Desktop::showMain() {
   main_ = std::make_unique<FormMain>(workspace_, parts_.services, parts_.operations(workspace_));
   main_->Unloaded.connect([this] { windowGone(mainWindow_); });
   mainWindow_ = std::make_unique<MainWindow>(*main_, workspace_.controls);
+  progress_.showOver(*mainWindow_->findChild<QWidget*>(text(workspace_.controls.MSFlexGridMain.name())));
   main_->Load(mainWindow_->handle(), login_);
   if (mainWindow_) mainWindow_->open();
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
 
+#include "platform/qt/QtProgress.h"
 #include "platform/qt/windows.h"
 
 namespace kestrelix {
@@ -14,6 +16,7 @@ struct DesktopParts {
   ShellServices services;
   /// The operations behind the toolbar, on the window's workspace.
   std::function<ReportOperations(Workspace&)> operations = [](Workspace&) { return ReportOperations{}; };
+  std::function<QtProgress::Time()> clock = std::chrono::steady_clock::now;
 };
 
 /// The program on the screen: the login first, then the main window; with the last of them gone the event
@@ -30,6 +33,7 @@ class Desktop {
   void windowGone(std::unique_ptr<FormWindow>& window);
 
   DesktopParts parts_;
+  QtProgress progress_;
   Workspace workspace_;
   FormLogin login_;
   std::unique_ptr<FormMain> main_;

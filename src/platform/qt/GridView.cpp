@@ -39,7 +39,9 @@ GridView::GridView(Grid& grid, const QFont& font, QWidget* parent)
   named(*this, grid);
   setFont(font);
   setModel(model_);
-  setItemDelegate(new grid_style::CellDelegate(this));
+  setItemDelegate(new grid_style::CellDelegate(
+      // Where a selection began: the row and column that a report is asked for.
+      [this] { return cell(grid_.Row(), grid_.Col()); }, this));
   setSelectionMode(ContiguousSelection);
   setSelectionBehavior(SelectItems);
   setEditTriggers(NoEditTriggers);

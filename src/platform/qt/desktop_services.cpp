@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCursor>
 #include <QMessageBox>
 #include <iostream>
 
@@ -16,7 +17,10 @@ void QtMessageBoxes::show(BoxIcon icon, const std::string& message, const std::s
   box.setTextFormat(Qt::PlainText);
   box.setObjectName("MessageBox");
   box.setAccessibleName("MessageBox");
+  // The pointer is the user's again while the box stands, within an action too.
+  QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
   box.exec();
+  QGuiApplication::restoreOverrideCursor();
 }
 
 void QtClipboard::Clear() { QApplication::clipboard()->clear(); }

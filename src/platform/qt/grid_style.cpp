@@ -17,11 +17,6 @@ bool manySelected(const QStyleOptionViewItem& option) {
          (selection.size() > 1 || selection.first().width() * selection.first().height() > 1);
 }
 
-bool isCurrent(const QStyleOptionViewItem& option, const QModelIndex& index) {
-  const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
-  return view != nullptr && view->currentIndex() == index;
-}
-
 void drawEdges(QPainter& painter, const QRect& rect, const QColor& colour) {
   painter.setPen(colour);
   painter.drawLine(rect.topRight(), rect.bottomRight());
@@ -57,7 +52,7 @@ QColor colour(Colour bgr) {
 
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
-  const bool current = isCurrent(option, index);
+  const bool current = index == current_();
   const bool highlighted = option.state.testFlag(QStyle::State_Selected) && !current && manySelected(option);
   painter->save();
   painter->setClipRect(option.rect);

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <functional>
 
 #include "platform/controls/control.h"
 
@@ -31,11 +32,16 @@ void dress(QAbstractScrollArea& view);
 /// A colour of the controls as one of the screen.
 QColor colour(Colour bgr);
 
-/// Paints a cell: text in one line, a line right and below, the current cell with an edge.
+/// Paints a cell: text in one line, a line right and below, the current cell, which `current` tells, with an
+/// edge.
 class CellDelegate final : public QStyledItemDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  CellDelegate(std::function<QModelIndex()> current, QObject* parent)
+      : QStyledItemDelegate(parent), current_(std::move(current)) {}
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+ private:
+  std::function<QModelIndex()> current_;
 };
 
 /// Paints an entry of a list, its text beginning kMargin pixels in, in rows of a height in pixels.

@@ -44,6 +44,7 @@ ListBoxView::ListBoxView(ListBox& list, const QFont& font, QWidget* parent)
   setTabKeyNavigation(false);
   grid_style::dress(*this);
   setBackgroundRole(QPalette::Base);  // below the last entry too
+  setForegroundRole(QPalette::WindowText);
   setAutoFillBackground(true);
   new Mirror(
       list, [this] { refresh(); }, this);
@@ -81,7 +82,8 @@ void ListBoxView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ListBoxView::keyPressEvent(QKeyEvent* event) {
-  if (event->matches(QKeySequence::Copy)) return event->accept();
+  // The space bar would look for the next entry that begins with a blank, as those of the pairs do.
+  if (event->matches(QKeySequence::Copy) || event->key() == Qt::Key_Space) return event->accept();
   const QModelIndex before = currentIndex();
   QListView::keyPressEvent(event);
   if (currentIndex() != before) choose(currentIndex());
