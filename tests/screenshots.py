@@ -109,7 +109,9 @@ GRID_TOP = 3982
 FIRST_LOGIN = (1500, 120 + 19 * TWIPS + 140)
 BUTTONS = {"GRID": 255, "SQL": 645, "PLAN": 1035, "GRAPH_START": 1575, "GRAPH_LEFT": 1965, "GRAPH_DISP": 2355,
            "GRAPH_MAX": 2745, "LIST": 3135, "GRAPH_RIGHT": 3525, "GRAPH_END": 3915, "HELP": 6435}
+UNDO_SEGMENT_STATS = 55  # row among the Sections of an Oracle 10 cluster
 BAR = (515, 10)  # top and height, in pixels, of what the bar of a long series covers
+BAR_COLOUR = bytes.fromhex("b9d3ee")
 
 DARK = """[Colors:Window]
 BackgroundNormal=38,40,44
@@ -197,18 +199,17 @@ class Tour:
         screen = self.screen
         self.choose(main, "SQL ordered by Gets TOTAL", 7)
         time.sleep(1)
-        before = screen.strip(main, *BAR)
         screen.point(main, *cell(1))
+        self.program.send_signal(signal.SIGSTOP)
         screen.run("xdotool", "click", "--repeat", "2", "--delay", "60", "1")
         end = time.monotonic() + DEADLINE
-        while screen.strip(main, *BAR) == before:
-            self.program.send_signal(signal.SIGSTOP)
-            time.sleep(0.1)
+        while BAR_COLOUR * 20 not in screen.strip(main, *BAR):
             self.program.send_signal(signal.SIGCONT)
-            time.sleep(0.005)
+            time.sleep(0.002)
+            self.program.send_signal(signal.SIGSTOP)
+            time.sleep(0.05)
             if time.monotonic() > end:
                 sys.exit("no bar shows in a long series")
-        self.program.send_signal(signal.SIGSTOP)
         self.keep(main, "busy")
         self.program.send_signal(signal.SIGCONT)
         screen.settle()
@@ -270,7 +271,7 @@ class Tour:
         self.keep(main, "top-5-graph")
         screen.click(main, 5000, 560, times=2)
         self.keep(main, "graph-left-by-frame")
-        self.choose(main, "Undo Segment Stats", 103)
+        self.choose(main, "Undo Segment Stats", UNDO_SEGMENT_STATS)
         screen.click(main, *cell(1), times=2)
         self.keep(None, "series-refused")
         screen.key("Return")

@@ -11,6 +11,7 @@ namespace {
 
 const QColor kBarColour(0x2f, 0x6f, 0xa8);
 const QColor kGridColour(0xd8, 0xd8, 0xd8);
+const QColor kTextColour(0x35, 0x35, 0x35);
 
 }  // namespace
 
@@ -26,6 +27,7 @@ ChartView::ChartView(Chart& chart, const QFont& font, QWidget* parent)
   drawing.legend()->hide();
   drawing.setAnimationOptions(QChart::NoAnimation);
   drawing.setBackgroundRoundness(0);
+  drawing.setTheme(QChart::ChartThemeLight);
   drawing.setTitleFont(font);
   const int line = QFontMetrics(font).height();
   drawing.setMargins(QMargins(8, 4, 16, 2 * line + 8));
@@ -87,7 +89,7 @@ void ChartView::drawForeground(QPainter* painter, const QRectF& rectangle) {
   const qreal width = area.width() / control_.RowCount();
   const qreal line = QFontMetrics(font()).height();
   painter->setFont(font());
-  painter->setPen(palette().color(QPalette::WindowText));
+  painter->setPen(kTextColour);
   for (int k = 1; k <= control_.RowCount(); ++k) {
     qreal y = area.bottom() + 6;
     for (const std::string& part : labelLines(control_.RowLabel(k))) {

@@ -42,6 +42,11 @@ void dress(QAbstractScrollArea& view) {
   view.setPalette(colours);
   QPalette bars(kScrollBar, kEmptyArea);
   for (QScrollBar* bar : {view.verticalScrollBar(), view.horizontalScrollBar()}) bar->setPalette(bars);
+  auto* corner = new QWidget;
+  corner->setPalette(bars);
+  corner->setBackgroundRole(QPalette::Base);
+  corner->setAutoFillBackground(true);
+  view.setCornerWidget(corner);
 }
 
 QColor colour(Colour bgr) {

@@ -16,6 +16,15 @@ constexpr int kTextButtonWidth = 48;
 constexpr int kIcon = 16;
 constexpr int kGap = 10;
 
+/// A soft line on a light window and on a dark one.
+QColor lineColour(const QPalette& palette) {
+  const QColor window = palette.color(QPalette::Window);
+  const QColor text = palette.color(QPalette::WindowText);
+  const auto between = [](int a, int b) { return (3 * a + b) / 4; };
+  return {between(window.red(), text.red()), between(window.green(), text.green()),
+          between(window.blue(), text.blue())};
+}
+
 /// The buttons behind which a gap sets the next group off.
 bool endsGroup(const std::string& key) { return key == "PLAN" || key == "GRAPH_END" || key == "END"; }
 
@@ -76,7 +85,7 @@ void FrameView::paintEvent(QPaintEvent*) {
   const QFontMetrics metrics(font());
   const QString caption = text(frame_.Caption());
   const int top = metrics.height() / 2;
-  painter.setPen(palette().color(QPalette::Mid));
+  painter.setPen(lineColour(palette()));
   painter.drawRoundedRect(QRectF(0.5, top + 0.5, width() - 1, height() - top - 1), 2, 2);
   const QRect place(8, 0, metrics.horizontalAdvance(caption) + 6, metrics.height());
   painter.fillRect(place, palette().color(QPalette::Window));
