@@ -194,6 +194,97 @@ TEST_F(DemoTest, commitsWaitForTheLog) {
   EXPECT_EQ(breaches(where(stat("redo synch writes") + " <> " + syncs)), kNone);
 }
 
+// The pairs of neighbouring snapshots of an instance that has not restarted between.
+const char* const kPairs =
+    R"(with p as (select * from (select dbid, instance_number, snap_id, lag(snap_id) over w b,
+         snap_time - lag(snap_time) over w seconds, startup_time = lag(startup_time) over w runs
+         from "stats$snapshot" window w as (partition by dbid, instance_number order by snap_id)) where runs) )";
+
+// There is one log writer: it can't wait longer than the hour lasts.
+TEST_F(DemoTest, theLogWriterWaitsNoLongerThanTheTimeBetweenSnapshots) {
+  EXPECT_EQ(breaches(kPairs + std::string(R"(select p.snap_id from p
+      join "stats$system_event" e using (dbid, instance_number, snap_id)
+      join "stats$system_event" x on x.dbid = p.dbid and x.instance_number = p.instance_number
+        and x.snap_id = p.b and x.event = e.event
+      where e.event = 'log file parallel write'
+        and e.time_waited_micro - x.time_waited_micro > seconds * 1000000)")),
+            kNone);
+}
+
+TEST_F(DemoTest, noTwoSegmentsHaveTheSameFigures) {
+  EXPECT_EQ(breaches(R"(select snap_id||' '||count(*) from "stats$seg_stat" where logical_reads > 10000
+                        group by dbid, instance_number, snap_id, logical_reads having count(*) > 1)"),
+            kNone);
+  EXPECT_EQ(breaches(R"(select snap_id||' '||count(*) from "stats$seg_stat" where db_block_changes > 10000
+                        group by dbid, instance_number, snap_id, db_block_changes having count(*) > 1)"),
+            kNone);
+  EXPECT_EQ(breaches(R"(select snap_id||' '||"obj#" from "stats$seg_stat"
+                        where physical_reads > logical_reads or direct_physical_reads > physical_reads)"),
+            kNone);
+}
+
+TEST_F(DemoTest, segmentsAndTheirInstanceWaitForTheSameLocks) {
+  const auto events = [](const std::string& names) {
+    return sum("total_waits", "stats$system_event", "and event in (" + names + ")");
+  };
+  EXPECT_EQ(breaches(where(sum("itl_waits", "stats$seg_stat") + " > " +
+                           events("'enqueue', 'enq: TX - allocate ITL entry'"))),
+            kNone);
+  EXPECT_EQ(
+      breaches(where(sum("row_lock_waits", "stats$seg_stat") + " > " +
+                     events("'enqueue', 'enq: TX - row lock contention', 'enq: TX - index contention'") +
+                     " + 120")),
+      kNone);
+}
+
+TEST_F(DemoTest, everyInstanceHasPairsWithWaitsForTransactionSlots) {
+  EXPECT_EQ(ask(kPairs + std::string(R"(select count(distinct p.snap_id) >= 10 from p
+      join "stats$seg_stat" e using (dbid, instance_number, snap_id)
+      join "stats$seg_stat" x on x.dbid = p.dbid and x.instance_number = p.instance_number
+        and x.snap_id = p.b and x."obj#" = e."obj#"
+      where e.itl_waits > x.itl_waits group by p.dbid, p.instance_number)")),
+            Texts(6, "1"));
+}
+
+// The report takes wait_time for microseconds.
+TEST_F(DemoTest, readsIntoTheCacheWaitAsLongAsTheirEvents) {
+  EXPECT_EQ(breaches(R"(select f.snap_id from "stats$iostat_function" f join "stats$iostat_function_name" n
+                    using (function_id) where n.function_name = 'Buffer Cache Reads' and f.wait_time <>
+                    (select sum(time_waited_micro_fg) from "stats$system_event" e where e.dbid = f.dbid
+                      and e.instance_number = f.instance_number and e.snap_id = f.snap_id
+                      and e.event in ('db file sequential read', 'db file scattered read')))"),
+            kNone);
+}
+
+// Hundredths of a second over reads are tens of milliseconds: 10 * readtim / phyrds, told in tenths.
+TEST_F(DemoTest, filesAndKindsOfBlocksHaveSpeedsOfTheirOwn) {
+  EXPECT_EQ(breaches(R"(select dbid||'/'||snap_id from "stats$filestatxs" where phyrds > 20000
+                        group by dbid, instance_number, snap_id
+                        having count(*) > 5 and count(distinct readtim * 100 / phyrds) < 4)"),
+            kNone);
+  EXPECT_EQ(breaches(R"(select dbid||'/'||snap_id from "stats$filestatxs" where wait_count > 20000
+                        group by dbid, instance_number, snap_id
+                        having count(*) > 5 and count(distinct time * 100 / wait_count) < 4)"),
+            kNone);
+  EXPECT_EQ(breaches(R"(select dbid||'/'||snap_id from "stats$instance_cache_transfer" where cr_block > 10000
+                        group by dbid, instance_number, snap_id
+                        having count(*) > 3 and (count(distinct cr_busy * 1000 / cr_block) < 3
+                          or count(distinct current_busy * 1000 / current_block) < 3))"),
+            kNone);
+}
+
+TEST_F(DemoTest, timesOfTheFilesAreThoseOfTheirReads) {
+  // Kept in hundredths, each file cuts off less than one at each snapshot.
+  EXPECT_EQ(
+      breaches(where("exists (select 1 from \"stats$filestatxs\" f where f.snap_id = s.snap_id) and abs(" +
+                     sum("readtim", "stats$filestatxs") + " * 10000 - " +
+                     sum("time_waited_micro", "stats$system_event",
+                         "and event in ('db file sequential read', 'db file scattered read', "
+                         "'direct path read')") +
+                     ") > 0.15 * " + sum("readtim", "stats$filestatxs") + " * 10000")),
+      kNone);
+}
+
 TEST_F(DemoTest, latchesAreGotMissedAndSleptOnInThatOrder) {
   EXPECT_EQ(
       breaches(R"(select name from "stats$latch" where misses > gets or sleeps > misses or spin_gets > misses
@@ -251,6 +342,25 @@ TEST_F(DemoTest, theSharedPoolIsTheSumOfItsParts) {
       and name in ('__shared_pool_size', 'shared_pool_size')))";
   EXPECT_EQ(breaches(where(parts + " <> " + size)), kNone);
   EXPECT_EQ(breaches(R"(select name from "stats$sgastat" where bytes < 0)"), kNone);
+}
+
+// What is made at the start of an instance stays as it is; what serves statements comes and goes.
+TEST_F(DemoTest, theSharedPoolMovesBetweenSnapshots) {
+  const auto moved = [](const std::string& names) {
+    return kPairs + std::string(R"(select p.snap_id from p
+      left join "stats$sgastat" e on e.dbid = p.dbid and e.instance_number = p.instance_number
+        and e.snap_id = p.snap_id and e.pool = 'shared pool' and e.name in ()") +
+           names + R"()
+      left join "stats$sgastat" x on x.dbid = p.dbid and x.instance_number = p.instance_number
+        and x.snap_id = p.b and x.pool = e.pool and x.name = e.name
+      group by p.dbid, p.instance_number, p.snap_id)";
+  };
+  EXPECT_EQ(breaches(moved("'library cache', 'free memory', 'sql area', 'PL/SQL MPCODE', 'KQR M PO'") +
+                     " having sum(e.bytes <> x.bytes) < 3"),
+            kNone);
+  EXPECT_EQ(breaches(moved("'db_block_hash_buckets', 'sessions', 'transaction', 'enqueue'") +
+                     " having sum(e.bytes <> x.bytes) > 0"),
+            kNone);
 }
 
 TEST_F(DemoTest, theClustersServeAboutWhatTheyReceive) {

@@ -10,27 +10,28 @@ namespace {
 
 struct BlockClass {
   const char* name;
-  int share;  // of the waits for buffers, in thousandths
+  int share;     // of the waits for buffers, in thousandths
+  int slowness;  // thousandths of the usual time of a wait
 };
 
-constexpr auto kClasses = std::to_array<BlockClass>({{"data block", 905},
-                                                     {"undo header", 41},
-                                                     {"segment header", 24},
-                                                     {"undo block", 14},
-                                                     {"1st level bmb", 11},
-                                                     {"2nd level bmb", 3},
-                                                     {"file header block", 2},
-                                                     {"extent map", 0},
-                                                     {"free list", 0},
-                                                     {"sort block", 0},
-                                                     {"save undo block", 0},
-                                                     {"save undo header", 0},
-                                                     {"system undo block", 0},
-                                                     {"system undo header", 0},
-                                                     {"bitmap block", 0},
-                                                     {"bitmap index block", 0},
-                                                     {"unused", 0},
-                                                     {"3rd level bmb", 0}});
+constexpr auto kClasses = std::to_array<BlockClass>({{"data block", 905, 980},
+                                                     {"undo header", 41, 420},
+                                                     {"segment header", 24, 2900},
+                                                     {"undo block", 14, 650},
+                                                     {"1st level bmb", 11, 1900},
+                                                     {"2nd level bmb", 3, 2300},
+                                                     {"file header block", 2, 7400},
+                                                     {"extent map", 0, 1000},
+                                                     {"free list", 0, 1000},
+                                                     {"sort block", 0, 1000},
+                                                     {"save undo block", 0, 1000},
+                                                     {"save undo header", 0, 1000},
+                                                     {"system undo block", 0, 1000},
+                                                     {"system undo header", 0, 1000},
+                                                     {"bitmap block", 0, 1000},
+                                                     {"bitmap index block", 0, 1000},
+                                                     {"unused", 0, 1000},
+                                                     {"3rd level bmb", 0, 1000}});
 
 class BufferCache : public Topic {
  public:
@@ -71,7 +72,8 @@ class BufferCache : public Topic {
     busy_ += waits;
     for (std::size_t i = 0; i < kClasses.size(); ++i) {
       counts_[i] += scaled(waits, kClasses[i].share, 1000);
-      micros_[i] += scaled(micros, kClasses[i].share, 1000);
+      micros_[i] +=
+          scaled(scaled(micros, kClasses[i].share, 1000), random_.around(kClasses[i].slowness, 80), 1000);
     }
     redoRate_ = w.redoBytes / 512 * 1000 / std::max<std::int64_t>(1, w.seconds);
     checkpointWrites_ += w.writes / 20;

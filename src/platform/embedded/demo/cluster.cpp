@@ -79,13 +79,15 @@ constexpr auto kMessages = std::to_array<Message>({
 struct BlockClass {
   const char* name;
   int share;  // of the blocks, in thousandths
+  // Of 10000 blocks that came: what had to wait for its holder, and for the interconnect.
+  int crBusy, crCongested, currentBusy, currentCongested;
 };
-constexpr auto kClasses = std::to_array<BlockClass>({{"data block", 871},
-                                                     {"undo header", 62},
-                                                     {"undo block", 21},
-                                                     {"segment header", 18},
-                                                     {"1st level bmb", 22},
-                                                     {"extent map", 1}});
+constexpr auto kClasses = std::to_array<BlockClass>({{"data block", 871, 120, 26, 190, 18},
+                                                     {"undo header", 62, 410, 14, 60, 9},
+                                                     {"undo block", 21, 270, 35, 20, 12},
+                                                     {"segment header", 18, 90, 40, 640, 31},
+                                                     {"1st level bmb", 22, 60, 22, 370, 24},
+                                                     {"extent map", 1, 30, 10, 120, 10}});
 
 struct Transfer {
   std::int64_t cr = 0, crBusy = 0, crCongested = 0, current = 0, currentBusy = 0, currentCongested = 0;
@@ -138,13 +140,20 @@ class Cluster : public Topic {
     for (std::size_t i = 0; i < kClasses.size(); ++i) {
       const std::int64_t cr = scaled(w.crReceived, kClasses[i].share, 1000);
       const std::int64_t current = scaled(w.currentReceived, kClasses[i].share, 1000);
-      const std::int64_t busy = w.bad ? 90 : 14;
-      transfer_[i].crBusy += cr * busy / 1000;
-      transfer_[i].crCongested += cr * 3 / 1000;
-      transfer_[i].cr += cr - cr * busy / 1000 - cr * 3 / 1000;
-      transfer_[i].currentBusy += current * busy / 700;
-      transfer_[i].currentCongested += current * 2 / 1000;
-      transfer_[i].current += current - current * busy / 700 - current * 2 / 1000;
+      // A bad hour keeps the holders busy.
+      const auto late = [&](std::int64_t blocks, int usual, int inBadHour) {
+        return blocks * random_.around(usual * (w.bad ? inBadHour : 10), 120) / 100000;
+      };
+      const std::int64_t crBusy = late(cr, kClasses[i].crBusy, 40);
+      const std::int64_t crCongested = late(cr, kClasses[i].crCongested, 60);
+      const std::int64_t currentBusy = late(current, kClasses[i].currentBusy, 40);
+      const std::int64_t currentCongested = late(current, kClasses[i].currentCongested, 60);
+      transfer_[i].crBusy += crBusy;
+      transfer_[i].crCongested += crCongested;
+      transfer_[i].cr += cr - crBusy - crCongested;
+      transfer_[i].currentBusy += currentBusy;
+      transfer_[i].currentCongested += currentCongested;
+      transfer_[i].current += current - currentBusy - currentCongested;
     }
     for (std::size_t i = 0; i < ping_.size(); ++i)
       addPings(ping_[i], w, static_cast<int>(i) + 1 == instance_.number);

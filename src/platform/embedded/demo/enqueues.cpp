@@ -76,11 +76,8 @@ constexpr auto kLocks = std::to_array<Lock>({
      [](const Work& w) { return part(w.rowLock, 80); }, 10},
     {"TX", "Transaction", "index contention", [](const Work& w) { return w.rowLock.waits / 5; },
      [](const Work& w) { return part(w.rowLock, 20); }, 10},
-    {"TX", "Transaction", "allocate ITL entry", [](const Work& w) { return w.rowLock.waits / 4; },
-     [](const Work& w) {
-       return Waited{w.rowLock.waits / 12, w.rowLock.micros / 40};
-     },
-     10},
+    {"TX", "Transaction", "allocate ITL entry", [](const Work& w) { return w.itl.waits; },
+     [](const Work& w) { return w.itl; }, 10},
     {"UL", "User-defined", "contention", [](const Work& w) { return w.seconds / 30; },
      [](const Work& w) {
        return Waited{w.seconds / 1800, w.seconds * 2600};
@@ -130,7 +127,8 @@ class Enqueues : public Topic {
     for (std::size_t i = 0; i < kLocks.size(); ++i) {
       // Release 9 tells a type as a whole.
       Waited waits = kLocks[i].waits(w);
-      if (!database_.has(10) && std::string_view(kLocks[i].type) == "TX") waits = w.rowLock;
+      if (!database_.has(10) && std::string_view(kLocks[i].type) == "TX")
+        waits = {w.rowLock.waits + w.itl.waits, w.rowLock.micros + w.itl.micros};
       counters_[i].requests += std::max(kLocks[i].requests(w), waits.waits);
       counters_[i].failed +=
           waits.waits / 20 + (std::string_view(kLocks[i].type) == "JQ" ? w.seconds / 900 : 0);

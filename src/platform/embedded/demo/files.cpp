@@ -16,7 +16,9 @@ struct File {
   int readShare = 0;
   int scanShare = 0;
   int writeShare = 0;
-  int slowness = 1000;  // thousandths of the usual time of a read
+  // Thousandths of the usual time of a read, and of a wait for a buffer.
+  int slowness = 1000;
+  int waitSlowness = 1000;
   std::int64_t reads = 0, writes = 0, singleReads = 0, readBlocks = 0, writeBlocks = 0;
   std::int64_t readMicros = 0, writeMicros = 0, singleMicros = 0, waits = 0, waitMicros = 0;
   Histogram histogram{};
@@ -33,15 +35,21 @@ class Files : public Topic {
         temporaryHistogram_(setting.tables.perSnapshot(database_, "stats$temp_histogram", kBuckets)) {
     int number = 0;
     for (const Tablespace& space : tablespacesOf(setting.instance)) {
-      for (int i = 1; i <= space.files; ++i) {
-        // The first file of a tablespace is the fullest.
-        const auto share = [&](int whole) {
-          const int rest = whole / (space.files + 1);
-          return i == 1 ? whole - rest * (space.files - 1) : rest;
+      // The first file of a tablespace is the fullest: it has what the others, each a little else, leave.
+      int reads = space.readShare, scans = space.scanShare, writes = space.writeShare;
+      const int first = ++number;
+      for (int i = 2; i <= space.files; ++i) {
+        const auto part = random_.between(780, 1220);
+        const auto share = [&](int whole, int& left) {
+          const int mine = static_cast<int>((whole * part / (space.files + 1) + 500) / 1000);
+          left -= mine;
+          return mine;
         };
-        add(space.name, i, ++number, false, share(space.readShare), share(space.scanShare),
-            share(space.writeShare));
+        const int ofReads = share(space.readShare, reads);
+        const int ofScans = share(space.scanShare, scans);
+        add(space.name, i, ++number, false, ofReads, ofScans, share(space.writeShare, writes));
       }
+      add(space.name, 1, first, false, reads, scans, writes);
     }
     add("TEMP", 1, 1, true, 600, 600, 600);
     add("TEMP", 2, 2, true, 400, 400, 400);
@@ -60,15 +68,17 @@ class Files : public Topic {
     give(w.multiRequests + w.directRequests, false, &File::reads, &File::scanShare);
     give(w.singleReads, false, &File::readBlocks, &File::readShare);
     give(w.multiReads + w.directReads, false, &File::readBlocks, &File::scanShare);
-    give(w.multiRead.micros + w.directRead.micros, false, &File::readMicros, &File::scanShare);
+    giveTime(w.multiRead.micros + w.directRead.micros, false, &File::readMicros, &File::scanShare,
+             &File::slowness);
     give(w.writeRequests + w.directWriteRequests, false, &File::writes, &File::writeShare);
     give(w.writes + w.directWrites, false, &File::writeBlocks, &File::writeShare);
     give(w.writeRequests * 1900 + w.directWrite.micros, false, &File::writeMicros, &File::writeShare);
     give(w.bufferBusy.waits + w.otherRead.waits, false, &File::waits, &File::readShare);
-    give(w.bufferBusy.micros + w.otherRead.micros, false, &File::waitMicros, &File::readShare);
+    giveTime(w.bufferBusy.micros + w.otherRead.micros, false, &File::waitMicros, &File::readShare,
+             &File::waitSlowness);
     give(w.tempReadRequests, true, &File::reads, &File::readShare);
     give(w.tempReads, true, &File::readBlocks, &File::readShare);
-    give(w.tempRead.micros, true, &File::readMicros, &File::readShare);
+    giveTime(w.tempRead.micros, true, &File::readMicros, &File::readShare, &File::slowness);
     give(w.tempWriteRequests, true, &File::writes, &File::writeShare);
     give(w.tempWrites, true, &File::writeBlocks, &File::writeShare);
     give(w.tempWrite.micros, true, &File::writeMicros, &File::writeShare);
@@ -107,7 +117,8 @@ class Files : public Topic {
     file.temporary = temporary;
     file.readShare = reads;
     file.scanShare = scans;
-    file.slowness = static_cast<int>(random_.between(890, 1110));
+    file.slowness = static_cast<int>(random_.between(820, 1210));
+    file.waitSlowness = static_cast<int>(random_.between(550, 1600));
     file.writeShare = writes;
     files_.push_back(std::move(file));
   }
@@ -126,13 +137,24 @@ class Files : public Topic {
     largest->*counter += left;
   }
 
+  // Deals times out likewise, more of them to the slow files.
+  void giveTime(std::int64_t whole, bool temporary, std::int64_t File::*counter, int File::*share,
+                int File::*slowness) {
+    std::int64_t shares = 0;
+    for (const File& file : files_)
+      if (file.temporary == temporary) shares += std::int64_t{file.*share} * (file.*slowness);
+    for (File& file : files_)
+      if (file.temporary == temporary && shares > 0)
+        file.*counter += scaled(whole, std::int64_t{file.*share} * (file.*slowness), shares);
+  }
+
   void addSingleReads(File& file, const Work& w) {
     const Waited& kind = file.temporary ? w.tempRead : w.singleRead;
     const std::int64_t count = file.temporary ? scaled(w.tempReadRequests, file.readShare, 4000)
                                               : scaled(w.singleReads, file.readShare, 1000);
     if (count == 0) return;
     const std::int64_t usual = kind.micros / std::max<std::int64_t>(1, kind.waits);
-    const std::int64_t micros = count * usual * file.slowness / 1000;
+    const std::int64_t micros = count * usual * random_.around(file.slowness, 40) / 1000;
     file.singleReads += count;
     if (!file.temporary) file.readMicros += micros;
     file.singleMicros += micros;

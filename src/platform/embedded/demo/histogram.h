@@ -29,6 +29,9 @@ inline void addSpread(Histogram& histogram, std::int64_t count, std::int64_t mic
     histogram[std::min(bucket, histogram.size() - 1)] += part;
     left -= part;
   };
+  // The longest are rare and not met every time.
+  give(centre + 5, scaled(count, random.between(0, 3) / 2, 60000));
+  give(centre + 4, scaled(count, random.between(0, 4), 20000));
   give(centre + 3, scaled(count, random.between(2, 7), 1000));
   give(centre + 2, scaled(count, random.between(15, 30), 1000));
   give(centre + 1, scaled(count, random.between(90, 140), 1000));

@@ -1,4 +1,6 @@
 // Segments: what each table, index and partition was read and changed.
+#include <algorithm>
+#include <array>
 #include <map>
 
 #include "platform/embedded/demo/storage.h"
@@ -10,24 +12,71 @@ namespace {
 
 constexpr int kPartitions = 12;
 
+/// Parts of a statement's work are told in these, fine enough for the oldest of a table's partitions.
+constexpr std::int64_t kWhole = 100000;
+
+/// What is counted of a segment. Row locks and transaction slots are rare and kept in parts of a wait.
+enum Count : std::size_t {
+  Reads,
+  Busy,
+  Changes,
+  PhysicalReads,
+  PhysicalWrites,
+  DirectReads,
+  DirectWrites,
+  CrServed,
+  CurrentServed,
+  Itl,
+  RowLocks,
+  CrReceived,
+  CurrentReceived,
+  GlobalBusy,
+  kCounts
+};
+using Counts = std::array<std::int64_t, kCounts>;
+
 struct Segment {
   std::int64_t object = 0;
   int tablespace = kDataTablespace;
-  std::int64_t reads = 0, busy = 0, changes = 0, physicalReads = 0, physicalWrites = 0;
-  std::int64_t directReads = 0, directWrites = 0, itl = 0, rowLocks = 0;
-  std::int64_t crReceived = 0, currentReceived = 0, globalBusy = 0, crServed = 0, currentServed = 0;
-
-  void clear() {
-    reads = busy = changes = physicalReads = physicalWrites = directReads = directWrites = itl = rowLocks = 0;
-    crReceived = currentReceived = globalBusy = crServed = currentServed = 0;
-  }
+  Counts counts{};
 };
+
+/// How much an index is read and changed where its table is 1000, from and to.
+struct IndexUse {
+  int reads[2];
+  int misses[2];
+  int changes[2];
+  int meetings[2];  // of sessions at the same block
+};
+
+// A lookup by key passes two or three blocks of the index and one of the table; a scan leaves the index
+// alone. An update touches an index only if it is of the changed columns, while all who insert meet at its
+// last leaf.
+IndexUse indexUseOf(PlanShape plan) {
+  switch (plan) {
+    case PlanShape::UniqueLookup:
+      return {{2050, 2900}, {90, 340}, {0, 0}, {300, 700}};
+    case PlanShape::RangeScan:
+      return {{180, 460}, {120, 420}, {0, 0}, {250, 600}};
+    case PlanShape::NestedLoops:
+      return {{650, 1350}, {200, 520}, {0, 0}, {400, 800}};
+    case PlanShape::Insert:
+      return {{1250, 2150}, {1300, 2600}, {850, 1400}, {1500, 2400}};
+    case PlanShape::Update:
+      return {{1350, 2250}, {150, 400}, {60, 240}, {200, 450}};
+    case PlanShape::Delete:
+      return {{900, 1600}, {400, 900}, {750, 1250}, {800, 1300}};
+    default:
+      return {{60, 240}, {30, 140}, {280, 640}, {300, 800}};
+  }
+}
 
 class Segments : public Topic {
  public:
   explicit Segments(const Setting& setting)
       : database_(setting.database()),
         statements_(setting.workload.statements()),
+        random_(setting.random),
         rows_(setting.tables.perSnapshot(
             database_, "stats$seg_stat",
             "dataobj# obj# ts# logical_reads buffer_busy_waits db_block_changes physical_reads "
@@ -43,7 +92,7 @@ class Segments : public Topic {
   }
 
   void restart() override {
-    for (auto& [name, segment] : segments_) segment.clear();
+    for (auto& [name, segment] : segments_) segment.counts.fill(0);
   }
 
   void advance(const Work& work) override {
@@ -51,24 +100,26 @@ class Segments : public Topic {
       const StatementWork& one = work.statements[i];
       const auto& used = uses_[i];
       if (used.empty() || one.executions == 0) continue;
-      for (const Use& use : used) addWork(*use.segment, one, work, use.share);
+      for (const Use& use : used) addWork(use, one, work);
     }
   }
 
   void write(const Snapshot& snapshot) override {
     if (snapshot.level < 7) return;
-    for (const auto& [name, s] : segments_)
-      if (s.reads > 0)
-        rows_.at(snapshot, s.object, s.object, s.tablespace, s.reads, s.busy, s.changes, s.physicalReads,
-                 s.physicalWrites, s.directReads, s.directWrites, s.crServed, s.currentServed, s.itl,
-                 s.rowLocks, s.crReceived, s.currentReceived, s.globalBusy);
+    for (const auto& [name, s] : segments_) {
+      const Counts& c = s.counts;
+      if (c[Reads] == 0) continue;
+      rows_.at(snapshot, s.object, s.object, s.tablespace, c[Reads], c[Busy], c[Changes], c[PhysicalReads],
+               c[PhysicalWrites], c[DirectReads], c[DirectWrites], c[CrServed], c[CurrentServed],
+               c[Itl] / kWhole, c[RowLocks] / kWhole, c[CrReceived], c[CurrentReceived], c[GlobalBusy]);
+    }
   }
 
  private:
-  /// A segment that a statement works on, and its share of the work in thousandths.
+  /// A segment that a statement works on, and its shares of the work.
   struct Use {
     Segment* segment = nullptr;
-    std::int64_t share = 0;
+    Counts shares{};
   };
 
   static bool isPartitioned(std::string_view table) {
@@ -85,22 +136,60 @@ class Segments : public Topic {
       rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     std::vector<Use> used;
+    const std::vector<Counts> shares = sharesOf(statement.plan, objects.size());
     for (std::size_t i = 0; i < objects.size(); ++i) {
-      std::int64_t share = 900 / static_cast<std::int64_t>(objects.size());
       if (!isPartitioned(objects[i])) {
         used.push_back(
-            {segment(statement, tables, names, objects[i], "", i % 2 == 0 ? "TABLE" : "INDEX"), share});
+            {segment(statement, tables, names, objects[i], "", isIndex(i) ? "INDEX" : "TABLE"), shares[i]});
         continue;
       }
-      // The newest partition takes half of the work, the one before half of the rest, and so on.
+      // The newest partition takes about half of the work, the one before half of the rest, and so on.
+      Counts rest = shares[i];
       for (int part = kPartitions; part >= 1; --part) {
-        share = std::max<std::int64_t>(share / 2, 1);
+        Counts mine{};
+        for (std::size_t count = 0; count < kCounts; ++count) {
+          mine[count] = std::max<std::int64_t>(rest[count] * random_.between(420, 560) / 1000, 1);
+          rest[count] = std::max<std::int64_t>(rest[count] - mine[count], 0);
+        }
         const std::string month = (part < 10 ? "0" : "") + std::to_string(part);
         const std::string name = "P" + database_.start.substr(0, 4) + month;
-        used.push_back({segment(statement, tables, names, objects[i], name, "TABLE PARTITION"), share});
+        used.push_back({segment(statement, tables, names, objects[i], name, "TABLE PARTITION"), mine});
       }
     }
     return used;
+  }
+
+  // Each table of a statement has its index behind it.
+  static bool isIndex(std::size_t place) { return place % 2 == 1; }
+
+  // What each of `objects` takes of a statement's work: nine tenths together, the rest is not told.
+  std::vector<Counts> sharesOf(PlanShape plan, std::size_t objects) {
+    std::vector<Counts> all(objects);
+    const IndexUse index = indexUseOf(plan);
+    for (std::size_t i = 0; i < objects; ++i) {
+      const auto weight = [&](const int(&ofIndex)[2]) {
+        return isIndex(i) ? random_.between(ofIndex[0], ofIndex[1]) : random_.between(800, 1200);
+      };
+      Counts& w = all[i];
+      w[Reads] = weight(index.reads);
+      w[PhysicalReads] = weight(index.misses);
+      w[Changes] = weight(index.changes);
+      w[PhysicalWrites] = weight(index.changes);
+      w[Busy] = weight(index.meetings);
+      w[GlobalBusy] = weight(index.meetings);
+      w[Itl] = w[Changes] == 0 ? 0 : weight({1100, 1700});
+      w[RowLocks] = w[Changes] == 0 ? 0 : weight({20, 90});
+      // Blocks are read past the cache, and written so, in tables alone.
+      w[DirectReads] = w[DirectWrites] = weight({0, 0});
+      for (const Count count : {CrServed, CrReceived, CurrentServed, CurrentReceived})
+        w[count] = random_.around(count == CrServed || count == CrReceived ? w[Reads] : w[Busy], 250);
+    }
+    for (std::size_t count = 0; count < kCounts; ++count) {
+      std::int64_t sum = 0;
+      for (const Counts& w : all) sum += w[count];
+      for (Counts& w : all) w[count] = w[count] * (kWhole * 9 / 10) / std::max<std::int64_t>(1, sum);
+    }
+    return all;
   }
 
   Segment* segment(const Statement& statement, Tables& tables, Rows& names, const std::string& name,
@@ -125,31 +214,40 @@ class Segments : public Topic {
     return &made;
   }
 
-  void addWork(Segment& segment, const StatementWork& one, const Work& all, std::int64_t share) const {
-    const auto mine = [&](std::int64_t whole) { return scaled(whole, share, 1000); };
-    const auto ofAll = [&](std::int64_t whole, std::int64_t part, std::int64_t parts) {
-      return parts == 0 ? 0 : scaled(whole, mine(part) / 1000, std::max<std::int64_t>(1, parts / 1000));
+  static void addWork(const Use& use, const StatementWork& one, const Work& all) {
+    const auto mine = [&](Count count, std::int64_t whole) {
+      return scaled(whole, use.shares[count], kWhole);
     };
-    segment.reads += mine(one.gets);
-    segment.changes += mine(one.changes);
-    segment.physicalReads += mine(one.reads);
-    segment.directReads += mine(one.directReads);
-    segment.directWrites += mine(one.changes / 400);
-    segment.physicalWrites += mine(one.changes / 12);
-    segment.busy += ofAll(all.bufferBusy.waits + all.otherRead.waits, one.gets, all.gets);
-    if (one.changes > 0) {
-      segment.rowLocks += ofAll(all.rowLock.waits, one.changes, all.changes);
-      segment.itl += ofAll(all.rowLock.waits / 4, one.changes, all.changes);
-    }
-    segment.crReceived += ofAll(all.crReceived, one.gets, all.gets);
-    segment.currentReceived += ofAll(all.currentReceived, one.gets, all.gets);
-    segment.globalBusy += ofAll(all.globalBusy.waits, one.gets, all.gets);
-    segment.crServed += ofAll(all.crServed, one.gets, all.gets);
-    segment.currentServed += ofAll(all.currentServed, one.gets, all.gets);
+    // Its part of what the instance counts, by the statement's gets.
+    const auto byGets = [&](Count count, std::int64_t whole) {
+      return scaled(whole, mine(count, one.gets) / 1000, std::max<std::int64_t>(1, all.gets / 1000));
+    };
+    // The same by its changes, in parts of one.
+    const auto byChanges = [&](Count count, std::int64_t whole) {
+      return whole * use.shares[count] * one.changes / std::max<std::int64_t>(1, all.changes);
+    };
+    const std::int64_t reads = mine(Reads, one.gets);
+    const std::int64_t physical = std::min(reads, mine(PhysicalReads, one.reads));
+    Counts& c = use.segment->counts;
+    c[Reads] += reads;
+    c[PhysicalReads] += physical;
+    c[DirectReads] += std::min(physical, mine(DirectReads, one.directReads));
+    c[Changes] += mine(Changes, one.changes);
+    c[PhysicalWrites] += mine(PhysicalWrites, one.changes / 12);
+    c[DirectWrites] += mine(DirectWrites, one.changes / 400);
+    c[Busy] += byGets(Busy, all.bufferBusy.waits + all.otherRead.waits);
+    c[RowLocks] += byChanges(RowLocks, all.rowLock.waits);
+    c[Itl] += byChanges(Itl, all.itl.waits);
+    c[CrReceived] += byGets(CrReceived, all.crReceived);
+    c[CurrentReceived] += byGets(CurrentReceived, all.currentReceived);
+    c[GlobalBusy] += byGets(GlobalBusy, all.globalBusy.waits);
+    c[CrServed] += byGets(CrServed, all.crServed);
+    c[CurrentServed] += byGets(CurrentServed, all.currentServed);
   }
 
   const Database& database_;
   const std::vector<Statement>& statements_;
+  Random random_;
   Rows rows_;
   std::map<std::string, Segment> segments_;
   std::vector<std::vector<Use>> uses_;  // by statement

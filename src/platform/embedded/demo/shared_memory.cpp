@@ -13,40 +13,41 @@ struct PoolPart {
   const char* name;
   int share;  // of the shared pool, in thousandths
   int first = 9;
+  int sway = 0;  // how far it moves between two snapshots, in thousandths of it; 0 for what a start settles
 };
 
-constexpr auto kSharedParts = std::to_array<PoolPart>({{"sql area", 300, 9},
-                                                       {"library cache", 190},
-                                                       {"dictionary cache", 14},
-                                                       {"KGLH0", 61, 11},
-                                                       {"KGLHD", 28, 11},
-                                                       {"CCursor", 46, 10},
-                                                       {"PCursor", 24, 10},
+constexpr auto kSharedParts = std::to_array<PoolPart>({{"sql area", 300, 9, 14},
+                                                       {"library cache", 190, 9, 11},
+                                                       {"dictionary cache", 14, 9, 9},
+                                                       {"KGLH0", 61, 11, 12},
+                                                       {"KGLHD", 28, 11, 8},
+                                                       {"CCursor", 46, 10, 13},
+                                                       {"PCursor", 24, 10, 12},
                                                        {"ASH buffers", 9, 10},
                                                        {"Checkpoint queue", 8},
                                                        {"FileOpenBlock", 4},
-                                                       {"KQR L PO", 9},
-                                                       {"KQR M PO", 6},
-                                                       {"PL/SQL DIANA", 11},
-                                                       {"PL/SQL MPCODE", 17},
-                                                       {"XDB Schema Cac", 3, 10},
+                                                       {"KQR L PO", 9, 9, 10},
+                                                       {"KQR M PO", 6, 9, 14},
+                                                       {"PL/SQL DIANA", 11, 9, 22},
+                                                       {"PL/SQL MPCODE", 17, 9, 18},
+                                                       {"XDB Schema Cac", 3, 10, 6},
                                                        {"db_block_hash_buckets", 28},
                                                        {"dbwriter coalesce buffer", 4},
                                                        {"enqueue", 3},
                                                        {"event statistics per sess", 5},
                                                        {"fixed allocation callback", 1},
-                                                       {"kglsim object batch", 7, 10},
+                                                       {"kglsim object batch", 7, 10, 7},
                                                        {"ksunfy : SSO free list", 2, 10},
                                                        {"message pool freequeue", 1},
-                                                       {"miscellaneous", 36, 9},
+                                                       {"miscellaneous", 36, 9, 5},
                                                        {"parameters", 2},
-                                                       {"partitioning d", 1},
+                                                       {"partitioning d", 1, 9, 25},
                                                        {"row cache", 21, 10},
                                                        {"sessions", 3},
-                                                       {"sim memory hea", 4},
-                                                       {"table definiti", 2},
+                                                       {"sim memory hea", 4, 9, 4},
+                                                       {"table definiti", 2, 9, 20},
                                                        {"transaction", 2},
-                                                       {"trigger inform", 1}});
+                                                       {"trigger inform", 1, 9, 30}});
 
 struct Limit {
   const char* name;
@@ -113,6 +114,7 @@ class SharedMemory : public Topic {
   void restart() override {
     most_ = 0;
     parses_ = 0;
+    levels_.fill(0);
   }
 
   void advance(const Work& w) override {
@@ -149,13 +151,18 @@ class SharedMemory : public Topic {
   void writeParts(const Snapshot& snapshot, const MemoryLayout& layout) {
     const int release = std::stoi(database_.major);
     std::int64_t used = 0;
+    const std::int64_t atStart = database_.sharedPoolMb * 1048576;
     // The statements fill the pool through the day until it is full.
     const std::int64_t filled = std::min<std::int64_t>(random_.between(955, 1000), 620 + parses_ / 400);
-    for (const PoolPart& part : kSharedParts) {
+    for (std::size_t i = 0; i < kSharedParts.size(); ++i) {
+      const PoolPart& part = kSharedParts[i];
       if (part.first > release) continue;
+      // It wanders, and the further it is off its usual size the more it is drawn back.
+      levels_[i] += random_.between(-part.sway, part.sway) - levels_[i] / 6;
+      const std::int64_t pool = part.sway == 0 ? atStart : layout.sharedPool;
       const bool grows = part.share > 40;
-      const std::int64_t bytes =
-          scaled(layout.sharedPool, part.share, 1000) * (grows ? filled : 1000) / 1000 / 8 * 8;
+      const std::int64_t bytes = scaled(pool, part.share, 1000) * (grows ? filled : 1000) / 1000 *
+                                 (1000 + levels_[i]) / 1000 / 8 * 8;
       parts_.at(snapshot, part.name, "shared pool", bytes);
       used += bytes;
     }
@@ -227,6 +234,7 @@ class SharedMemory : public Topic {
   int most_ = 0;
   std::int64_t parses_ = 0;
   std::int64_t last_ = 0;
+  std::array<std::int64_t, kSharedParts.size()> levels_{};  // off the usual size, in thousandths
 };
 
 }  // namespace

@@ -81,7 +81,7 @@ constexpr auto kStatistics = std::to_array<Statistic>({
     {"enqueue releases", [](const Work& w) { return w.commits * 5 + w.seconds * 20; }},
     {"enqueue requests", [](const Work& w) { return w.commits * 5 + w.seconds * 20; }},
     {"enqueue timeouts", [](const Work& w) { return w.seconds / 60; }},
-    {"enqueue waits", [](const Work& w) { return w.rowLock.waits + w.seconds / 300; }},
+    {"enqueue waits", [](const Work& w) { return w.rowLock.waits + w.itl.waits + w.seconds / 300; }},
     {"exchange deadlocks", [](const Work& w) { return w.bad ? w.seconds / 1200 : w.seconds / 90000; }},
     {"execute count", [](const Work& w) { return w.executions; }},
     {"free buffer inspected", [](const Work& w) { return (w.singleReads + w.multiReads) * 11 / 10; }},

@@ -217,6 +217,10 @@ void Workload::addWaits(Work& work) {
   const std::int64_t pressure = work.load + (work.bad ? 900 : 0);
   work.rowLock = waited(work.commits * pressure / 14000000 + random_.between(0, 2),
                         random_.between(160000, 420000) + (work.bad ? 900000 : 0));
+  // Transaction slots run out where many sessions change the same blocks; a parallel load does that by
+  // itself.
+  work.itl = waited(work.rowLock.waits / 8 + work.changes / 5000000 + random_.between(0, 2),
+                    random_.between(8000, 60000));
   work.bufferBusy = waited(work.gets / 1000 * pressure / 60000, random_.between(500, 1900));
   work.latch = waited(work.gets / 1000 * pressure * pressure / 900000000, random_.between(700, 2600));
   work.library = waited(work.hardParses * pressure / 9000 + work.seconds / 400, random_.between(1500, 7000));
@@ -267,8 +271,8 @@ void Workload::shareTimes(Work& work) {
   work.dbTime = work.cpu + work.queue + work.singleRead.micros + work.multiRead.micros +
                 work.directRead.micros + work.tempRead.micros + work.tempWrite.micros +
                 work.directWrite.micros + work.otherRead.micros + work.commit.micros + work.rowLock.micros +
-                work.bufferBusy.micros + work.latch.micros + work.library.micros + work.network.micros +
-                work.redoSpace.micros + work.clusterMicros();
+                work.itl.micros + work.bufferBusy.micros + work.latch.micros + work.library.micros +
+                work.network.micros + work.redoSpace.micros + work.clusterMicros();
   std::int64_t locking = 0;
   for (const StatementWork& one : work.statements) locking += one.changes > 0 ? one.executions : 0;
   const auto part = [](std::int64_t micros, std::int64_t mine, std::int64_t all) {

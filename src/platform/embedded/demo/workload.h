@@ -60,7 +60,7 @@ struct Work {
   // Waits of the foreground.
   Waited singleRead, multiRead, directRead, tempRead, tempWrite, directWrite, otherRead;
   Waited logWrite;  // of the log writer
-  Waited commit, rowLock, bufferBusy, latch, library, network, redoSpace;
+  Waited commit, rowLock, itl, bufferBusy, latch, library, network, redoSpace;
   Waited crBlock, currentBlock, globalBusy;  // of the cluster
   std::int64_t crReceived = 0, currentReceived = 0, crServed = 0, currentServed = 0;
 
