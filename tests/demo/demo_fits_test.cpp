@@ -256,7 +256,7 @@ TEST_F(DemoTest, readsIntoTheCacheWaitAsLongAsTheirEvents) {
             kNone);
 }
 
-// Hundredths of a second over reads are tens of milliseconds: 10 * readtim / phyrds, told in tenths.
+// Times are hundredths of a second: a hundred of them over the reads are tenths of a millisecond a read.
 TEST_F(DemoTest, filesAndKindsOfBlocksHaveSpeedsOfTheirOwn) {
   EXPECT_EQ(breaches(R"(select dbid||'/'||snap_id from "stats$filestatxs" where phyrds > 20000
                         group by dbid, instance_number, snap_id

@@ -26,7 +26,7 @@ std::vector<std::string> sectionsOf(testing_support::ReportFixture& report) {
 
 TEST_F(DemoTest, everySectionHasRowsInABusyPairAndGivesNoBox) {
   testing_support::ReportFixture report(path());
-  // Rare events: waits of the interested transaction lists are met in the bad hour, if at all in a warehouse.
+  // Rare events: a warehouse meets them in many pairs, not in all.
   const std::set<std::string> rare = {"Segments by ITL Waits", "Segments by Row Lock Waits"};
   const std::vector<std::size_t> sections = {46, 86, 86, 94, 94, 76};
   for (int instance = 0; instance < 6; ++instance) {
