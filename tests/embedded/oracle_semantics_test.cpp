@@ -170,6 +170,22 @@ TEST_F(OracleSemantics, rowThatTheKeyDropsIsNotEvaluated) {
               ElementsAre("a|0.8333333333333333333333333333333333333333"));
 }
 
+TEST_F(OracleSemantics, whatNoBlockReadsIsLeftOut) {
+  EXPECT_THAT(rows("select count(*) from (select sum(v), max(id / 0) from stats$n)"), ElementsAre("1"));
+  EXPECT_THAT(rows("select count(*) from (select id, 1 / 0 from stats$n)"), ElementsAre("5"));
+  EXPECT_THAT(rows("select x from (select 1 as x, sum(v) as y from stats$n where id > 9)"), ElementsAre("1"));
+  EXPECT_THAT(rows("select count(*) from (select distinct dbid, instance_number from stats$keyed)"),
+              ElementsAre("1"));
+  EXPECT_THAT(rows("select count(*) from (select name from stats$keyed union select 'a' from dual)"),
+              ElementsAre("2"));
+  EXPECT_THAT(
+      rows("select id from (select id, w as hidden from stats$n order by hidden desc) where rownum <= 2"),
+      ElementsAre("5", "4"));
+  EXPECT_THAT(rows("select a.id from (select id, w from stats$n) a where exists "
+                   "(select 1 from dual where a.w = 2)"),
+              ElementsAre("2"));
+}
+
 TEST_F(OracleSemantics, everyRowThatIsReturnedIsEvaluated) {
   EXPECT_THAT(failure("select name, 10 / value from stats$keyed order by name"), HasSubstr("ORA-01476"));
 }

@@ -57,20 +57,28 @@ QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const s
   std::string list;
   std::vector<Piece>& outputs = result.outputs;
   std::unordered_set<std::string> names;
-  for (const auto& column : block.columns) {
-    Piece piece = emitter.expression(*column.expr);
+  const bool oneGroup = block.grouped && block.groupBy.empty();
+  bool allUsed = true;
+  for (std::size_t i = 0; i < block.columns.size(); ++i)
+    allUsed = allUsed && isUsed(emitter.usedColumns(), block, i);
+  for (std::size_t i = 0; i < block.columns.size(); ++i) {
+    const auto& column = block.columns[i];
     std::string name(column.name);
-    for (int i = 2; !names.insert(asciiUpper(name)).second; ++i)
-      name = std::string(column.name) + "_" + std::to_string(i);
-    // Without GROUP BY SQLite takes the rows for one group only if it sees an aggregate outside windows and
-    // HAVING.
-    const bool hidden =
-        list.empty() && block.grouped && block.groupBy.empty() && (block.having || block.windowed);
-    const std::string text = hidden ? "CASE WHEN count(*) >= 0 THEN " + piece.text + " END" : piece.text;
-    list += (list.empty() ? "" : ", ") + text + " AS " + quoted(name);
+    for (int n = 2; !names.insert(asciiUpper(name)).second; ++n)
+      name = std::string(column.name) + "_" + std::to_string(n);
+    Piece piece;
+    if (isUsed(emitter.usedColumns(), block, i)) {
+      piece = emitter.expression(*column.expr);
+      // Without GROUP BY SQLite takes the rows for one group only if it sees an aggregate outside windows and
+      // HAVING.
+      const bool hidden = list.empty() && oneGroup && (block.having || block.windowed || !allUsed);
+      const std::string text = hidden ? "CASE WHEN count(*) >= 0 THEN " + piece.text + " END" : piece.text;
+      list += (list.empty() ? "" : ", ") + text + " AS " + quoted(name);
+    }
     result.columns.push_back({name, column.type.kind, piece.number});
     outputs.push_back(std::move(piece));
   }
+  if (list.empty()) list = oneGroup ? "count(*) AS \"rows\"" : "1 AS \"rows\"";
   result.text = std::string("SELECT ") + (block.distinct ? "DISTINCT " : "") + list;
   result.listEnd = result.text.size();
   result.text += " FROM " + from + where;

@@ -81,6 +81,7 @@ LoweredStatement lower(const sql::Tree& tree, const LoweringFacts& facts) {
 
 LoweredStatement Emitter::statement() {
   const sql::Query& whole = *tree_.query();
+  markUsedColumns(whole, usedColumns_);
   result_.text = query(whole).text;
   for (const auto& column : whole.columns)
     result_.columns.push_back({std::string(column.name), column.type.kind});

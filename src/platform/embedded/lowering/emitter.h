@@ -62,6 +62,9 @@ struct KeyTest {
   sql::Place place;
 };
 
+/// Which columns of a block's select list are read by the blocks around it.
+using UsedColumns = std::unordered_map<const sql::SelectBlock*, std::vector<bool>>;
+
 /// A lowered query with the facts of its columns.
 struct QueryText {
   std::string text;
@@ -103,6 +106,7 @@ class Emitter {
   std::unordered_map<const sql::Expr*, Piece>& replacements() { return replacements_; }
   /// The tests that a block takes from the blocks around it.
   std::unordered_map<const sql::SelectBlock*, std::vector<KeyTest>>& keyTests() { return keyTests_; }
+  const UsedColumns& usedColumns() const { return usedColumns_; }
   std::vector<Wrap*>& wraps() { return wraps_; }
   /// ROWNUM's text in the block that is being lowered; empty where it cannot stand.
   std::string& rownum() { return rownum_; }
@@ -119,6 +123,7 @@ class Emitter {
   std::unordered_set<std::string> aliases_;
   std::unordered_map<const sql::Expr*, Piece> replacements_;
   std::unordered_map<const sql::SelectBlock*, std::vector<KeyTest>> keyTests_;
+  UsedColumns usedColumns_;
   std::vector<Wrap*> wraps_;
   std::string rownum_;
   const std::vector<Piece>* outputs_ = nullptr;

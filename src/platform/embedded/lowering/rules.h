@@ -15,6 +15,10 @@ QueryText lowerSetOperators(Emitter& emitter, const sql::Query& query);
 /// block: one SELECT with the order of the query that it alone makes up (`order` may be null).
 QueryText lowerBlock(Emitter& emitter, const sql::SelectBlock& block, const sql::List<sql::OrderItem>* order);
 
+/// used_columns: what nobody reads of an inline view is not selected.
+void markUsedColumns(const sql::Query& query, UsedColumns& used);
+bool isUsed(const UsedColumns& used, const sql::SelectBlock& block, std::size_t column);
+
 /// The parts of a block that the rules below put together.
 struct BlockParts {
   std::string from;
