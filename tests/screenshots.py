@@ -3,7 +3,8 @@
 
 usage: screenshots.py BIN_FOLDER OUT_FOLDER
 
-BIN_FOLDER holds kestrelix, Kestrelix.chm and repository/DEMO.sqlite. Needs xvfb, xdotool and imagemagick.
+BIN_FOLDER holds kestrelix, kestrelix-repository, Kestrelix.chm and repository/DEMO.sqlite. Needs xvfb, xdotool and
+imagemagick.
 OUT_FOLDER gets the pictures, those of a dark desktop and of a screen of double size in folders of their own.
 """
 
@@ -109,6 +110,7 @@ GRID_TOP = 3982
 FIRST_LOGIN = (1500, 120 + 19 * TWIPS + 140)
 BUTTONS = {"GRID": 255, "SQL": 645, "PLAN": 1035, "GRAPH_START": 1575, "GRAPH_LEFT": 1965, "GRAPH_DISP": 2355,
            "GRAPH_MAX": 2745, "LIST": 3135, "GRAPH_RIGHT": 3525, "GRAPH_END": 3915, "HELP": 6435}
+LONG_SERIES = 300  # snapshots
 UNDO_SEGMENT_STATS = 55  # row among the Sections of an Oracle 10 cluster
 BAR = (515, 10)  # top and height, in pixels, of what the bar of a long series covers
 BAR_COLOUR = bytes.fromhex("b9d3ee")
@@ -158,8 +160,10 @@ class Tour:
         self.out.mkdir(parents=True, exist_ok=True)
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="kestrelix-pictures-"))
         shutil.copy(bin_folder / "kestrelix", self.folder)
-        (self.folder / "repository").symlink_to((bin_folder / "repository").resolve())
+        (self.folder / "repository").mkdir()
+        (self.folder / "repository" / "DEMO.sqlite").symlink_to((bin_folder / "repository" / "DEMO.sqlite").resolve())
         (self.folder / "Login.txt").write_bytes(b"DEMO,PERFSTAT,perfstat\r\nPROD,SYSTEM,manager\r\n")
+        self.maker = bin_folder / "kestrelix-repository"
         if (bin_folder / "Kestrelix.chm").exists():
             shutil.copy(bin_folder / "Kestrelix.chm", self.folder)
         environment = {**screen.environment, **(dark_desktop(self.folder) if dark else {})}
@@ -191,13 +195,21 @@ class Tour:
         self.button(main, "LIST", "graph-left")
         self.choose(main, "SQL ordered by Gets TOTAL", 7)
         self.button(main, "SQL", "sql-text")
-        self.busy(main)
         self.help(main)
 
-    def busy(self, main):
+    def busy(self):
         """Slows the program down in a long series until its bar shows, and keeps it standing for the picture."""
         screen = self.screen
-        self.choose(main, "SQL ordered by Gets TOTAL", 7)
+        long = self.folder / "repository" / "LONG.sqlite"
+        subprocess.run([self.maker, "demo", long, "--snapshots", str(LONG_SERIES)], check=True, stdout=subprocess.DEVNULL)
+        login = screen.window("^FormLogin$")
+        for row, typed in enumerate(("perfstat", "perfstat", "long")):
+            screen.click(login, 2000, 2800 + row * 480)
+            screen.run("xdotool", "type", typed)
+        screen.key("Return")
+        screen.click(login, 700, 4300)
+        main = screen.window("^Kestrelix ")
+        self.choose(main, "before a long series", 5)
         time.sleep(1)
         screen.point(main, *cell(1))
         self.program.send_signal(signal.SIGSTOP)
@@ -205,7 +217,7 @@ class Tour:
         end = time.monotonic() + DEADLINE
         while BAR_COLOUR * 20 not in screen.strip(main, *BAR):
             self.program.send_signal(signal.SIGCONT)
-            time.sleep(0.002)
+            time.sleep(0.001)
             self.program.send_signal(signal.SIGSTOP)
             time.sleep(0.05)
             if time.monotonic() > end:
@@ -276,7 +288,6 @@ class Tour:
         self.keep(None, "series-refused")
         screen.key("Return")
         self.keep(main, "series-refused-left")
-        self.busy(main)
         self.help(main)
 
     def hover(self, main, left, top):
@@ -308,6 +319,7 @@ class Tour:
         self.screen.keep(window, self.out / f"{name}.png")
 
     def close(self):
+        self.program.send_signal(signal.SIGCONT)
         self.program.terminate()
         self.program.wait()
         shutil.rmtree(self.folder)
@@ -319,6 +331,7 @@ def main():
     bin_folder = pathlib.Path(sys.argv[1])
     out = pathlib.Path(sys.argv[2])
     take(bin_folder, out, Tour.go)
+    take(bin_folder, out, Tour.busy)
     take(bin_folder, out / "dark", Tour.glance, dark=True)
     take(bin_folder, out / "double", Tour.glance, scale=2)
 

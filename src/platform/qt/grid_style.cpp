@@ -38,15 +38,11 @@ void dress(QAbstractScrollArea& view) {
   QPalette colours = view.palette();
   colours.setColor(QPalette::Base, kBase);
   colours.setColor(QPalette::Text, kText);
+  colours.setColor(QPalette::Window, kEmptyArea);  // the corner between the scroll bars
   colours.setColor(QPalette::WindowText, kFrameLine);
   view.setPalette(colours);
   QPalette bars(kScrollBar, kEmptyArea);
   for (QScrollBar* bar : {view.verticalScrollBar(), view.horizontalScrollBar()}) bar->setPalette(bars);
-  auto* corner = new QWidget;
-  corner->setPalette(bars);
-  corner->setBackgroundRole(QPalette::Base);
-  corner->setAutoFillBackground(true);
-  view.setCornerWidget(corner);
 }
 
 QColor colour(Colour bgr) {
