@@ -110,6 +110,13 @@ TEST_F(ImportedReport, aMissingParameterIsItsGettersBoxAndNoView) {
   }
 }
 
+TEST_F(ImportedReport, aRowThatIsNotThereIsWrongUsage) {
+  const Outcome outcome = report("section Snapshot --instance 0 --pair 0 --row 4");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.errors,
+            "kestrelix-report: the view has no row 4, they go from 1 to 3; --help tells the usage\n");
+}
+
 TEST_F(ImportedReport, aRangeOfOnePairKeepsItsNumber) {
   EXPECT_EQ(shown("section Snapshot --instance 0 --pair 1 --row 3 --from 1"),
             "NO,NAME,END TIME,OTHER VALUE,STATUS\r\n"

@@ -131,6 +131,7 @@ void ReportRun::showAll() {
 void ReportRun::selectRow() {
   Grid& grid = workspace_.controls.MSFlexGridMain;
   const int row = needed(options_.row, "--row");
+  if (grid.Rows() < 2) throw UsageError("the view has no rows");
   if (row < 1 || row >= grid.Rows())
     throw UsageError("the view has no row " + std::to_string(row) + ", they go from 1 to " +
                      std::to_string(grid.Rows() - 1));
