@@ -10,6 +10,7 @@ PLANTED = [
     ("arrows.py", "report/a.h", '#include "sections/b.h"\n'),
     ("arrows.py", "report/a.h", "#include <QWidget>\n"),
     ("arrows.py", "shell/a.h", "#include <sqlite3.h>\n"),
+    ("arrows.py", "platform/qt/a.h", "#include <chm_lib.h>\n"),
     ("arrows.py", "platform/embedded/a.h", "#include <sqlext.h>\n"),
     ("arrows.py", "elsewhere/a.h", "int a;\n"),
     ("locale_dependence.py", "report/a.h", "double a = std::stod(text);\n"),
