@@ -127,6 +127,7 @@ bool RowStream::next(Row& row) {
 }
 
 std::string RowStream::textOf(const Column& column, const char* bytes, std::size_t length) {
+  if (length == 0) return {};
   switch (column.kind) {
     case Kind::Number:
       return plainNumber(std::string_view(bytes, length));
