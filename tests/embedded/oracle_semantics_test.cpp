@@ -199,6 +199,17 @@ TEST_F(OracleSemantics, whatDecodeAndCaseDoNotChooseIsNotEvaluated) {
   EXPECT_THAT(rows("select coalesce(1, 1 / 0), nvl2(null, 1 / 0, 2) from dual"), ElementsAre("1|2"));
 }
 
+TEST_F(OracleSemantics, decodeOfNullGivesTheValueOrTheBlank) {
+  EXPECT_THAT(rows("select decode(v, null, ' ', v), decode(v, null, ' ', round(v)), decode(v, null, ' ', "
+                   "trunc(v, 1)), "
+                   "decode(v, null, ' ', w) from stats$n order by id"),
+              ElementsAre("10|10|10|1", "2.5|3|2.5|2", "-.25|0|-.2|3", " | | | ", "9|9|9|-"));
+  EXPECT_THAT(rows("select decode(v, null, 0, v) from stats$n where id > 3 order by id"),
+              ElementsAre("0", "9"));
+  EXPECT_THAT(rows("select decode(t, null, 'none', t) from stats$n where id in (3, 4) order by id"),
+              ElementsAre("none", "x"));
+}
+
 TEST_F(OracleSemantics, scalarSubqueryOfTwoRowsFails) {
   EXPECT_THAT(rows("select (select t from stats$n where id = 1) from dual"), ElementsAre("10"));
   EXPECT_THAT(rows("select (select t from stats$n where id = 99) from dual"), ElementsAre("-"));

@@ -1,5 +1,6 @@
 // DECODE(value, search, result, ..., default) compares in the type of its first search, takes null as equal
 // to null, never pads with blanks, and evaluates no result but the one that it gives.
+#include "oracle_sql/printer.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
@@ -30,9 +31,30 @@ std::string test(const Piece& value, const Piece& search) {
   return bracketed(value) + (search.present ? " = " : " IS ") + bracketed(search);
 }
 
+bool isNullLiteral(const sql::Expr& expr) {
+  return expr.type.kind == TypeKind::Null && expr.kind <= sql::ExprKind::String;
+}
+
+/// Whether `expr` is `value`, or ROUND or TRUNC of it: null for a null value and for no other.
+bool isThereWith(const sql::Expr& expr, const sql::Expr& value) {
+  const auto* call = sql::as<sql::Call>(&expr);
+  if (!call || call->args.empty() || (call->name != "ROUND" && call->name != "TRUNC") ||
+      !call->package.empty())
+    return sql::equal(expr, value);
+  for (std::size_t i = 1; i < call->args.size(); ++i)
+    if (call->args[i]->kind != sql::ExprKind::Number) return false;
+  return sql::equal(*call->args.front(), value);
+}
+
+/// DECODE(x, null, ' ', ROUND(x, 2)) is COALESCE(ROUND(x, 2), ' '), which computes x once.
+bool isCoalesce(const sql::Call& call) {
+  return call.args.size() == 4 && isNullLiteral(*call.args[1]) && isThereWith(*call.args[3], *call.args[0]);
+}
+
 }  // namespace
 
 Piece lowerDecode(Emitter& emitter, const sql::Call& call) {
+  if (isCoalesce(call)) return lowerEither(emitter, call, *call.args[3], *call.args[2]);
   Piece result;
   result.kind = call.type.kind;
   result.atom = true;

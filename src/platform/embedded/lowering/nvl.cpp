@@ -32,12 +32,12 @@ Piece lowerCoalesce(Emitter& emitter, const sql::Call& call) {
   return result;
 }
 
-Piece lowerNvl(Emitter& emitter, const sql::Call& call) {
+Piece lowerEither(Emitter& emitter, const sql::Call& call, const sql::Expr& first, const sql::Expr& second) {
   Piece result;
   result.kind = call.type.kind;
   result.atom = true;
-  const Piece value = argument(emitter, *call.args[0], result.kind);
-  const Piece otherwise = argument(emitter, *call.args[1], result.kind);
+  const Piece value = argument(emitter, first, result.kind);
+  const Piece otherwise = argument(emitter, second, result.kind);
   CommonFacts facts;
   facts.add(value);
   facts.add(otherwise);
@@ -45,6 +45,10 @@ Piece lowerNvl(Emitter& emitter, const sql::Call& call) {
   result.number = facts.facts();
   result.present = value.present || otherwise.present;
   return result;
+}
+
+Piece lowerNvl(Emitter& emitter, const sql::Call& call) {
+  return lowerEither(emitter, call, *call.args[0], *call.args[1]);
 }
 
 Piece lowerNvl2(Emitter& emitter, const sql::Call& call) {

@@ -87,6 +87,8 @@ Piece lowerCase(Emitter& emitter, const sql::CaseExpr& expr);
 Piece lowerDecode(Emitter& emitter, const sql::Call& call);
 /// nvl: NVL, NVL2, COALESCE, NULLIF, LNNVL.
 Piece lowerNvl(Emitter& emitter, const sql::Call& call);
+/// `first` where it is there, else `second`, as values of `call`.
+Piece lowerEither(Emitter& emitter, const sql::Call& call, const sql::Expr& first, const sql::Expr& second);
 Piece lowerNvl2(Emitter& emitter, const sql::Call& call);
 Piece lowerCoalesce(Emitter& emitter, const sql::Call& call);
 Piece lowerNullif(Emitter& emitter, const sql::Call& call);
