@@ -220,6 +220,19 @@ TEST_F(OracleSemantics, scalarSubqueryOfTwoRowsFails) {
       ElementsAre("1|-", "2|1", "3|2", "4|3", "5|4"));
 }
 
+TEST_F(OracleSemantics, valuesWrittenTwiceInsideEachOtherAreRefusedByTheirSize) {
+  std::string value = "v";
+  for (int i = 0; i < 60; ++i) value = "decode(" + value + ", null, 1, 2, 3, 4)";
+  EXPECT_THAT(failure("select " + value + " from stats$n"),
+              HasSubstr("not supported: an expression of this size"));
+  std::string condition = "id between 1 and 2";
+  for (int i = 0; i < 60; ++i) condition = "case when " + condition + " then 1 else 2 end between 1 and 2";
+  EXPECT_THAT(failure("select 1 from stats$n where " + condition), HasSubstr("not supported"));
+  std::string nested = "v";
+  for (int i = 0; i < 30; ++i) nested = "abs(" + nested + ")";
+  EXPECT_THAT(rows("select " + nested + " from stats$n where id = 3"), ElementsAre("0.25"));
+}
+
 // ---- ROWNUM ----
 
 TEST_F(OracleSemantics, rownumCountsBeforeTheSort) {

@@ -115,6 +115,9 @@ class Emitter {
   const LoweringFacts& facts() const { return facts_; }
 
  private:
+  Piece lowered(const sql::Expr& expr);
+  std::string loweredCondition(const sql::Expr& expr);
+
   const sql::Tree& tree_;
   const LoweringFacts& facts_;
   LoweredStatement result_;

@@ -7,6 +7,9 @@
 namespace kestrelix::embedded {
 namespace {
 
+/// Far above what any statement of the reports becomes.
+constexpr std::size_t kMaxExpressionBytes = 500'000;
+
 struct CallRule {
   std::string_view name;
   Piece (*lower)(Emitter&, const sql::Call&);
@@ -61,6 +64,14 @@ std::string_view conversionName(sql::TypeKind target) {
 }  // namespace
 
 Piece Emitter::expression(const sql::Expr& expr) {
+  Piece piece = lowered(expr);
+  // Some rules write an operand twice, and such operands inside each other would grow without bounds.
+  if (piece.text.size() > kMaxExpressionBytes)
+    throw sql::SqlError::unsupported("an expression of this size", expr.place);
+  return piece;
+}
+
+Piece Emitter::lowered(const sql::Expr& expr) {
   if (const auto found = replacements_.find(&expr); found != replacements_.end()) return found->second;
   using sql::ExprKind;
   switch (expr.kind) {
@@ -94,6 +105,13 @@ Piece Emitter::expression(const sql::Expr& expr) {
 }
 
 std::string Emitter::condition(const sql::Expr& expr) {
+  std::string text = loweredCondition(expr);
+  if (text.size() > kMaxExpressionBytes)
+    throw sql::SqlError::unsupported("a condition of this size", expr.place);
+  return text;
+}
+
+std::string Emitter::loweredCondition(const sql::Expr& expr) {
   using sql::ExprKind;
   switch (expr.kind) {
     case ExprKind::And:
