@@ -1,5 +1,5 @@
-// Any bytes as a statement: lexer, parser, printer and resolver either take it or refuse it with an error
-// that can be shown; what is printed reads as an equal tree.
+// Any bytes as a statement: lexer, parser, printer, resolver and the lowering to SQLite either take it or
+// refuse it with an error that can be shown; what is printed reads as an equal tree.
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
@@ -7,6 +7,7 @@
 
 #include "oracle_sql/parser.h"
 #include "oracle_sql/printer.h"
+#include "platform/embedded/lowering/lowering.h"
 #include "support/small_catalogue.h"
 
 namespace {
@@ -14,6 +15,17 @@ namespace {
 [[noreturn]] void fault(std::string_view what, std::string_view statement) {
   std::cerr << what << "\n" << statement << "\n";
   std::abort();
+}
+
+/// Every other column holds small whole numbers, and so does every other bind.
+kestrelix::embedded::LoweringFacts facts() {
+  using kestrelix::embedded::NumberFacts;
+  return {[](const auto&, int index) {
+            return index % 2 == 0 ? NumberFacts{true, 1e6} : NumberFacts{};
+          },
+          [](std::string_view bind) {
+            return bind.size() % 2 == 0 ? NumberFacts{true, 1e6} : NumberFacts{};
+          }};
 }
 
 }  // namespace
@@ -34,6 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     resolve(tree, catalogue, &testing_support::SmallCatalogue::bind);
     if (dump(*tree.query()).empty()) fault("empty dump", statement);
+    if (kestrelix::embedded::lower(tree, facts()).text.empty()) fault("lowered to nothing", statement);
   } catch (const SqlError& e) {
     if (e.kind() == ErrorKind::Internal) fault(e.what(), statement);
     if (e.render(statement).empty() || e.place().offset > size) fault("no place", statement);

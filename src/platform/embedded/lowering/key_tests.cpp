@@ -56,8 +56,9 @@ void followEqualities(std::vector<KeyTest>& tests, const std::vector<const sql::
       const auto* left = ownColumn(compare->left);
       const auto* right = ownColumn(compare->right);
       if (!left || !right) continue;
-      for (const auto& [from, to] : {std::pair{left, right}, std::pair{right, left}}) {
-        if (!same(*from, *tests[i].column)) continue;
+      for (const auto& sides : {std::pair{left, right}, std::pair{right, left}}) {
+        if (!same(*sides.first, *tests[i].column)) continue;
+        const auto* to = sides.second;
         const bool known = std::any_of(tests.begin(), tests.end(), [&](const KeyTest& test) {
           return same(*to, *test.column) && test.value == tests[i].value;
         });
