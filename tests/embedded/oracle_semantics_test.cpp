@@ -422,5 +422,11 @@ TEST_F(OracleSemantics, lookUpByKeyUsesTheIndex) {
   }
 }
 
+TEST_F(OracleSemantics, dateLiteralMayBearASign) {
+  EXPECT_THAT(rows("select to_char(date '+2020-03-29', 'YYYY-MM-DD'), to_char(date '-0044-03-15', "
+                   "'SYYYY-MM-DD') from dual"),
+              testing::ElementsAre("2020-03-29|-0044-03-15"));
+}
+
 }  // namespace
 }  // namespace kestrelix::embedded

@@ -31,9 +31,9 @@ Piece datePiece(const sql::DateLiteral& literal) {
   const auto month = literal.value.find('-', 1) + 1;
   const auto day = literal.value.find('-', month) + 1;
   values::DateFields fields;
-  const bool negative = literal.value.front() == '-';
-  fields.year = digits(literal.value, negative ? 1 : 0, month - 1 - (negative ? 1 : 0));
-  if (negative) fields.year = -fields.year;
+  const std::size_t sign = literal.value.front() == '-' || literal.value.front() == '+' ? 1 : 0;
+  fields.year = digits(literal.value, sign, month - 1 - sign);
+  if (literal.value.front() == '-') fields.year = -fields.year;
   fields.month = digits(literal.value, month, day - 1 - month);
   fields.day = digits(literal.value, day, literal.value.size() - day);
   Piece piece;
