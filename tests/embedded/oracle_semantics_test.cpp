@@ -428,5 +428,15 @@ TEST_F(OracleSemantics, dateLiteralMayBearASign) {
               testing::ElementsAre("2020-03-29|-0044-03-15"));
 }
 
+TEST_F(OracleSemantics, dateLiteralOfADayThatIsNotIsRefusedWithItsPlace) {
+  try {
+    rows("select date '-0012-02-29' from dual");
+    FAIL() << "a day that is not was taken";
+  } catch (const DatabaseError& error) {
+    EXPECT_EQ(error.nativeCode(), 1839);
+    EXPECT_THAT(error.what(), testing::HasSubstr("line 1, column 8"));
+  }
+}
+
 }  // namespace
 }  // namespace kestrelix::embedded

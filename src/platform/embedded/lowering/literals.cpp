@@ -2,6 +2,7 @@
 #include <cstdlib>
 
 #include "oracle_sql/date.h"
+#include "oracle_sql/function_error.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
@@ -38,7 +39,12 @@ Piece datePiece(const sql::DateLiteral& literal) {
   fields.day = digits(literal.value, day, literal.value.size() - day);
   Piece piece;
   piece.kind = sql::TypeKind::Date;
-  piece.text = std::to_string(values::Date::fromFields(fields).seconds);
+  try {
+    piece.text = std::to_string(values::Date::fromFields(fields).seconds);
+  } catch (const values::FunctionError& error) {
+    // Days that the calendar lacks, such as the leap days of years before Christ.
+    throw sql::SqlError::wrong(error.code(), error.what(), literal.place);
+  }
   piece.atom = true;
   piece.cheap = true;
   piece.present = true;
