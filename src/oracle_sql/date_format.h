@@ -17,4 +17,8 @@ std::string formatDate(const Date& date, std::string_view model);
 // midnight. The ORA-018xx errors of the server for text that doesn't fit.
 Date parseDate(std::string_view text, std::string_view model, const Context& context);
 
+// The day that DATE 'YYYY-MM-DD' writes; the year may bear a sign. ORA-01861 for another form, else as
+// Date::fromFields.
+Date dateOfLiteral(std::string_view text);
+
 }  // namespace oracle_sql

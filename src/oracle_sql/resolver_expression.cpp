@@ -1,4 +1,5 @@
 // Types of expressions, and what may be compared with what.
+#include "oracle_sql/date_format.h"
 #include "oracle_sql/function_error.h"
 #include "oracle_sql/number.h"
 #include "oracle_sql/resolver_state.h"
@@ -261,26 +262,11 @@ void Resolver::subquery(Query& q, const Env& env) {
 }
 
 void Resolver::checkDate(const DateLiteral& d) const {
-  int parts[3] = {0, 0, 0};
-  std::size_t at = 0;
-  const std::string_view text = d.value;
-  if (at < text.size() && (text[at] == '-' || text[at] == '+')) ++at;
-  for (int i = 0; i < 3; ++i) {
-    const std::size_t begin = at;
-    while (at < text.size() && text[at] >= '0' && text[at] <= '9' && at - begin < 5)
-      parts[i] = parts[i] * 10 + (text[at++] - '0');
-    const bool last = i == 2;
-    if (at == begin || at - begin > (i == 0 ? 4U : 2U) ||
-        (last ? at != text.size() : at >= text.size() || text[at++] != '-'))
-      fail(1861, "literal does not match format string", d.place);
+  try {
+    dateOfLiteral(d.value);
+  } catch (const FunctionError& e) {
+    fail(e.code(), e.what(), d.place);
   }
-  const auto [year, month, day] = parts;
-  if (year < 1) fail(1841, "(full) year must be between -4713 and +9999, and not be 0", d.place);
-  if (month < 1 || month > 12) fail(1843, "not a valid month", d.place);
-  const bool leap = year % 4 == 0 && (year < 1583 || year % 100 != 0 || year % 400 == 0);
-  const int days[] = {31, leap ? 29 : 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  if (day < 1 || day > 31) fail(1847, "day of month must be between 1 and last day of month", d.place);
-  if (day > days[month - 1]) fail(1839, "date not valid for month specified", d.place);
 }
 
 }  // namespace oracle_sql

@@ -1,8 +1,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "oracle_sql/date.h"
-#include "oracle_sql/function_error.h"
+#include "oracle_sql/date_format.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
@@ -21,30 +20,10 @@ Piece numberPiece(const sql::NumberLiteral& literal) {
   return piece;
 }
 
-int digits(std::string_view text, std::size_t from, std::size_t count) {
-  int value = 0;
-  for (const char c : text.substr(from, count)) value = value * 10 + (c - '0');
-  return value;
-}
-
 Piece datePiece(const sql::DateLiteral& literal) {
-  // The resolver has checked the form YYYY-MM-DD.
-  const auto month = literal.value.find('-', 1) + 1;
-  const auto day = literal.value.find('-', month) + 1;
-  values::DateFields fields;
-  const std::size_t sign = literal.value.front() == '-' || literal.value.front() == '+' ? 1 : 0;
-  fields.year = digits(literal.value, sign, month - 1 - sign);
-  if (literal.value.front() == '-') fields.year = -fields.year;
-  fields.month = digits(literal.value, month, day - 1 - month);
-  fields.day = digits(literal.value, day, literal.value.size() - day);
   Piece piece;
   piece.kind = sql::TypeKind::Date;
-  try {
-    piece.text = std::to_string(values::Date::fromFields(fields).seconds);
-  } catch (const values::FunctionError& error) {
-    // Days that the calendar lacks, such as the leap days of years before Christ.
-    throw sql::SqlError::wrong(error.code(), error.what(), literal.place);
-  }
+  piece.text = std::to_string(values::dateOfLiteral(literal.value).seconds);
   piece.atom = true;
   piece.cheap = true;
   piece.present = true;
