@@ -54,5 +54,6 @@ void registerNumberFunctions(sqlite3* connection, Evaluation& evaluation);
 void registerTextFunctions(sqlite3* connection, Evaluation& evaluation);
 void registerAggregates(sqlite3* connection, Evaluation& evaluation);
 void registerKeptValues(sqlite3* connection, Evaluation& evaluation);
+void registerKeepAggregates(sqlite3* connection, Evaluation& evaluation);
 
 }  // namespace kestrelix::embedded

@@ -95,6 +95,7 @@ void registerFunctions(sqlite3* connection, Evaluation& evaluation) {
   registerTextFunctions(connection, evaluation);
   registerAggregates(connection, evaluation);
   registerKeptValues(connection, evaluation);
+  registerKeepAggregates(connection, evaluation);
   checkRegistration(sqlite3_create_function_v2(connection, "rownum_to_try", 1, kStateful, &evaluation,
                                                rownumToTry, nullptr, nullptr, nullptr),
                     "rownum_to_try");

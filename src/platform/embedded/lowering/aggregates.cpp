@@ -23,7 +23,7 @@ constexpr NumberAggregate kNumberAggregates[] = {
     {"MEDIAN", "num_median"},
 };
 
-/// The texts of a group in an order of their own. SQLite's aggregates know no order, so the keys go along.
+/// The texts of a group in an order of their own.
 Piece listAggregate(Emitter& emitter, const sql::Call& call, const std::vector<Piece>& arguments) {
   Piece result;
   result.kind = call.type.kind;
@@ -32,10 +32,7 @@ Piece listAggregate(Emitter& emitter, const sql::Call& call, const std::vector<P
     return emitter.converted(arguments.at(i), TypeKind::Varchar2, call.place).text;
   };
   result.text = "listagg(" + text(0) + ", " + (arguments.size() > 1 ? text(1) : "''");
-  for (const auto& item : call.withinGroup)
-    result.text += ", " + sortKey(emitter.expression(*item.expr)) + ", " +
-                   std::to_string((item.descending ? 1 : 0) + (item.nullsFirst() ? 2 : 0));
-  result.text += ")";
+  result.text += sortKeys(emitter, call.withinGroup, false) + ")";
   return result;
 }
 
@@ -44,11 +41,7 @@ Piece listAggregate(Emitter& emitter, const sql::Call& call, const std::vector<P
 Piece lowerAggregate(Emitter& emitter, const sql::Call& call) {
   std::vector<Piece> arguments;
   for (const sql::Expr* argument : call.args) arguments.push_back(emitter.expression(*argument));
-  return aggregateOver(emitter, call, arguments);
-}
-
-Piece aggregateOver(Emitter& emitter, const sql::Call& call, const std::vector<Piece>& arguments) {
-  if (call.keep) throw sql::SqlError::unsupported("KEEP (DENSE_RANK ...)", call.place);
+  if (call.keep) return lowerKeep(emitter, call, arguments);
   Piece result;
   result.kind = call.type.kind;
   result.atom = true;

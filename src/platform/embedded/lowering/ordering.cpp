@@ -1,14 +1,34 @@
 #include <utility>
 
 #include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/sort_keys.h"
 
 namespace kestrelix::embedded {
+namespace {
+
+/// SQLite hands no more than 127 arguments to a function.
+constexpr std::size_t kMaxKeysOfAggregate = 60;
+
+}  // namespace
 
 std::string sortKey(const Piece& piece) {
   // A quotient sorts as its dividend does.
   if (!piece.quotient.dividend.empty()) return piece.quotient.dividend;
   if (piece.kind == sql::TypeKind::Number && !piece.number.integral) return "num_key(" + piece.text + ")";
   return piece.text;
+}
+
+std::string sortKeys(Emitter& emitter, const sql::List<sql::OrderItem>& items, bool backwards) {
+  if (items.size() > kMaxKeysOfAggregate)
+    throw sql::SqlError::unsupported("an aggregate with so many sort keys", items.front().place);
+  std::string text;
+  for (const auto& item : items) {
+    const bool descending = item.descending != backwards;
+    const bool nullsFirst = item.nullsFirst() != backwards;
+    text += ", " + sortKey(emitter.expression(*item.expr)) + ", " +
+            std::to_string((descending ? kDescending : 0) + (nullsFirst ? kNullsFirst : 0));
+  }
+  return text;
 }
 
 std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,

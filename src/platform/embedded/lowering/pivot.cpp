@@ -27,19 +27,9 @@ std::string lowerPivot(Emitter& emitter, const sql::PivotItem& pivot) {
                                                          emitter.expression(*pivot.forColumns[i]),
                                                          emitter.expression(*value.values[i]), pivot.place);
     for (const auto& aggregate : pivot.aggregates) {
-      std::vector<Piece> arguments;
-      if (aggregate.call->star) {
-        Piece one;
-        one.text = "1";
-        one.kind = sql::TypeKind::Number;
-        one.number = {true, 1};
-        arguments.push_back(one);
-      }
-      for (const sql::Expr* argument : aggregate.call->args)
-        arguments.push_back(emitter.expression(*argument));
-      arguments.front().text = "CASE WHEN " + bears + " THEN " + arguments.front().text + " END";
-      arguments.front().atom = false;
-      add(aggregateOver(emitter, *aggregate.call, arguments));
+      Piece piece = emitter.expression(*aggregate.call);
+      piece.text += " FILTER (WHERE " + bears + ")";
+      add(piece);
     }
   }
   const std::string text = "(SELECT " + list + " FROM " + from + (keys.empty() ? "" : " GROUP BY " + keys) +

@@ -58,6 +58,8 @@ std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,
                        const std::vector<Piece>* outputs);
 /// What SQLite sorts, groups extremes and compares `piece` by.
 std::string sortKey(const Piece& piece);
+/// The order as further arguments of an aggregate (", key, how, ..."); `backwards` from its end.
+std::string sortKeys(Emitter& emitter, const sql::List<sql::OrderItem>& items, bool backwards);
 
 // ---- conditions ----
 
@@ -100,8 +102,8 @@ Piece lowerTranslate(Emitter& emitter, const sql::Call& call);
 Piece lowerCall(Emitter& emitter, const sql::Call& call);
 /// aggregates: sums and averages in NUMBER.
 Piece lowerAggregate(Emitter& emitter, const sql::Call& call);
-/// The aggregate `call` over `argument` text in place of its own argument.
-Piece aggregateOver(Emitter& emitter, const sql::Call& call, const std::vector<Piece>& arguments);
+/// keep: the aggregate over the rows that are first or last in an order.
+Piece lowerKeep(Emitter& emitter, const sql::Call& call, const std::vector<Piece>& arguments);
 /// windows: OVER with Oracle's default frame and NULL order.
 Piece lowerWindow(Emitter& emitter, const sql::Call& call);
 /// cast: CAST(x AS type).

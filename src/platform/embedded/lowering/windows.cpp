@@ -146,10 +146,11 @@ Piece lowerWindow(Emitter& emitter, const sql::Call& call) {
   if (name == "PERCENT_RANK" || name == "CUME_DIST") return rankShare(emitter, call);
   if (name == "LAG" || name == "LEAD" || name == "FIRST_VALUE" || name == "LAST_VALUE" || name == "NTH_VALUE")
     return otherRow(emitter, call);
-  if (call.distinct && name == "COUNT")
+  if (call.distinct && !call.keep && name == "COUNT")
     return rankPiece("count_distinct(" + emitter.expression(*call.args[0]).text + ")" +
                      overText(emitter, *call.over, call.place));
-  if (call.distinct) throw sql::SqlError::unsupported("DISTINCT in this window function", call.place);
+  if (call.distinct && !call.keep)
+    throw sql::SqlError::unsupported("DISTINCT in this window function", call.place);
   Piece result = lowerAggregate(emitter, call);
   // The extreme of a frame that moves needs every value in it.
   for (const char* extreme : {"num_min(", "num_max("})
