@@ -11,13 +11,11 @@ namespace {
 constexpr std::int64_t kSecondsOfDay = 86400;
 constexpr std::int64_t kEpochJulianDay = 2440588;     // of 1970-01-01
 constexpr std::int64_t kFirstGregorianDay = 2299161;  // of 1582-10-15, the day after 1582-10-04
+constexpr std::int64_t kFirstMarch = 60;              // of the year -4712
 constexpr int kMinYear = -4712;
 constexpr int kMaxYear = 9999;
 
 std::int64_t floorDivide(std::int64_t a, std::int64_t b) { return a / b - (a % b < 0 ? 1 : 0); }
-
-// The year as astronomers count it: 1 BC is 0.
-int astronomical(int year) { return year < 0 ? year + 1 : year; }
 
 // Days before the month in a year that begins in March.
 int daysBefore(int marchMonth) { return (153 * marchMonth + 2) / 5; }
@@ -27,15 +25,23 @@ std::int64_t gregorianDay(int year, int month, int day) {
   return day + daysBefore((month + 9) % 12) + 365 * y + y / 4 - y / 100 + y / 400 - 32045;
 }
 
+// The server's first year, though divisible by four, has no leap day: its day 1 is January 1 and its day 60
+// March 1.
+bool beforeFirstMarch(int year, int month) { return year == kMinYear && month < 3; }
+
 std::int64_t julianCalendarDay(int year, int month, int day) {
   const std::int64_t y = year + 4800 - (month < 3 ? 1 : 0);
-  return day + daysBefore((month + 9) % 12) + 365 * y + y / 4 - 32083;
+  return day + daysBefore((month + 9) % 12) + 365 * y + y / 4 - 32083 +
+         (beforeFirstMarch(year, month) ? 1 : 0);
 }
 
 std::int64_t julianDayOf(int year, int month, int day) {
-  const int y = astronomical(year);
-  const bool gregorian = year > 1582 || (year == 1582 && (month > 10 || (month == 10 && day >= 15)));
-  return gregorian ? gregorianDay(y, month, day) : julianCalendarDay(y, month, day);
+  const bool october = year == 1582 && month == 10;
+  if (october && day > 4 && day < 15) {
+    return kFirstGregorianDay;
+  }
+  const bool gregorian = year > 1582 || (year == 1582 && month > 10) || (october && day >= 15);
+  return gregorian ? gregorianDay(year, month, day) : julianCalendarDay(year, month, day);
 }
 
 DateFields calendarOf(std::int64_t julianDay) {
@@ -46,7 +52,7 @@ DateFields calendarOf(std::int64_t julianDay) {
     century = (4 * shifted + 3) / 146097;
     rest = shifted - 146097 * century / 4;
   } else {
-    rest = julianDay + 32082;
+    rest = julianDay + 32082 - (julianDay < kFirstMarch ? 1 : 0);
   }
   const std::int64_t year = (4 * rest + 3) / 1461;
   const auto dayOfYear = static_cast<int>(rest - 1461 * year / 4);
@@ -54,8 +60,7 @@ DateFields calendarOf(std::int64_t julianDay) {
   DateFields fields;
   fields.day = dayOfYear - daysBefore(marchMonth) + 1;
   fields.month = marchMonth < 10 ? marchMonth + 3 : marchMonth - 9;
-  const int astronomicalYear = static_cast<int>(100 * century + year - 4800) + (marchMonth < 10 ? 0 : 1);
-  fields.year = astronomicalYear <= 0 ? astronomicalYear - 1 : astronomicalYear;
+  fields.year = static_cast<int>(100 * century + year - 4800) + (marchMonth < 10 ? 0 : 1);
   return fields;
 }
 
@@ -85,7 +90,7 @@ Date shifted(const Date& date, const Number& days, bool back) {
 }  // namespace
 
 Date Date::fromFields(const DateFields& f) {
-  if (f.year < kMinYear - 1 || f.year > kMaxYear || f.year == 0) {
+  if (f.year < kMinYear || f.year > kMaxYear) {
     raiseYear();
   }
   if (f.month < 1 || f.month > 12) {
@@ -133,8 +138,7 @@ int daysInMonth(int year, int month) {
   if (month != 2) {
     return kDays[month - 1];
   }
-  const int y = astronomical(year);
-  const bool leap = y % 4 == 0 && (year <= 1582 || y % 100 != 0 || y % 400 == 0);
+  const bool leap = year % 4 == 0 && year != kMinYear && (year <= 1582 || year % 100 != 0 || year % 400 == 0);
   return leap ? 29 : 28;
 }
 
@@ -144,11 +148,10 @@ Date addMonths(const Date& date, std::int64_t months) {
   }
   DateFields f = date.fields();
   const bool monthEnd = f.day == daysInMonth(f.year, f.month);
-  const std::int64_t total = static_cast<std::int64_t>(astronomical(f.year)) * 12 + f.month - 1 + months;
-  const auto year = static_cast<int>(floorDivide(total, 12));
-  f.month = static_cast<int>(total - static_cast<std::int64_t>(year) * 12) + 1;
-  f.year = year <= 0 ? year - 1 : year;
-  if (f.year < kMinYear - 1 || f.year > kMaxYear) {
+  const std::int64_t total = std::int64_t{f.year} * 12 + f.month - 1 + months;
+  f.year = static_cast<int>(floorDivide(total, 12));
+  f.month = static_cast<int>(total - std::int64_t{f.year} * 12) + 1;
+  if (f.year < kMinYear || f.year > kMaxYear) {
     raiseYear();
   }
   const int last = daysInMonth(f.year, f.month);
@@ -159,7 +162,7 @@ Date addMonths(const Date& date, std::int64_t months) {
 Number monthsBetween(const Date& a, const Date& b) {
   const DateFields x = a.fields();
   const DateFields y = b.fields();
-  const int months = (astronomical(x.year) - astronomical(y.year)) * 12 + x.month - y.month;
+  const int months = (x.year - y.year) * 12 + x.month - y.month;
   const bool bothEnds = x.day == daysInMonth(x.year, x.month) && y.day == daysInMonth(y.year, y.month);
   if (x.day == y.day || bothEnds) {
     return months;

@@ -8,7 +8,8 @@
 
 namespace oracle_sql {
 
-// Calendar fields of a date. `year` is negative before Christ, as Oracle writes it: there is no year 0.
+// Calendar fields of a date. `year` is negative before Christ. The server counts a leap year 0 between -1 and
+// 1, which sums and date literals reach but TO_DATE refuses.
 struct DateFields {
   int year = 1;
   int month = 1;  // 1..12
@@ -18,7 +19,8 @@ struct DateFields {
   int second = 0;
 };
 
-// Oracle's DATE: a wall clock time to the second, years -4712 to 9999, Julian calendar before 1582-10-15.
+// Oracle's DATE: a wall clock time to the second, years -4712 to 9999, Julian calendar before 1582-10-15. The
+// ten days that the calendar left out then are that day too.
 struct Date {
   std::int64_t seconds = 0;  // since 1970-01-01 00:00:00
 
@@ -47,7 +49,7 @@ Date lastDay(const Date& date);
 // The next day after `date` of that English name (in full or its first three letters); ORA-01846.
 Date nextDay(const Date& date, std::string_view dayName);
 // `model` is one of TRUNC's and ROUND's own: CC, YYYY, IYYY, Q, MM, WW, IW, W, DD, DAY, HH, MI and their
-// synonyms, in any case; ORA-01898 for another.
+// synonyms, in any case; ORA-01821, ORA-01898 or ORA-01899 for another.
 Date truncDate(const Date& date, std::string_view model = "DD");
 Date roundDate(const Date& date, std::string_view model = "DD");
 

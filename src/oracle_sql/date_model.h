@@ -65,6 +65,10 @@ using DateModel = std::vector<DateItem>;
 // ORA-01821 for an element that there is none of. Valid until the next call on this thread.
 const DateModel& dateModel(std::string_view text);
 
+// The same for TO_DATE: ORA-01810 to ORA-01820 also for elements that cannot be read, come twice or exclude
+// each other.
+const DateModel& dateInputModel(std::string_view text);
+
 // `word` (upper case) in the letters of an item.
 std::string inCase(std::string_view word, LetterCase letters);
 

@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <array>
-#include <optional>
 
 #include "oracle_sql/ascii_case.h"
 #include "oracle_sql/date_format.h"
 #include "oracle_sql/date_model.h"
+#include "oracle_sql/date_parts.h"
 #include "oracle_sql/function_error.h"
 
 namespace oracle_sql {
@@ -27,21 +27,6 @@ bool isTimeOfDay(DateElement element) {
   }
 }
 
-// What a text said of a date, element by element.
-struct Found {
-  std::optional<int> year, month, day, dayOfYear, hour12, hour24, minute, second, secondOfDay, weekday;
-  std::optional<std::int64_t> julian;
-  std::optional<bool> afternoon, beforeChrist;
-};
-
-template <typename T>
-void setOnce(std::optional<T>& field, T value) {
-  if (field) {
-    throw FunctionError(1810, "format code appears twice");
-  }
-  field = value;
-}
-
 int inRange(std::int64_t value, int low, int high, int code, const char* message) {
   if (value < low || value > high) {
     throw FunctionError(code, message);
@@ -53,16 +38,27 @@ class Reader {
  public:
   Reader(std::string_view text, const Context& context) : rest_(text), now_(context.now.fields()) {}
 
-  Found read(const DateModel& model) {
+  DateParts read(const DateModel& model) {
+    bool marked = false;  // marks of the model stand between the last value and this one
+    std::size_t lastEnd = rest_.size();
     for (std::size_t i = 0; i < model.size(); ++i) {
-      if (!model[i].exact && !mayBeBlank(model[i])) {
+      const DateItem& item = model[i];
+      const DateItem* const next = i + 1 < model.size() ? &model[i + 1] : nullptr;
+      if (!item.exact && !mayBeBlank(item)) {
         skipBlanks();
       }
       if (rest_.empty()) {
         requireOptional(model, i);
         return found_;
       }
-      readItem(model[i], i + 1 < model.size() ? &model[i + 1] : nullptr);
+      if (item.element == DateElement::Punctuation) {
+        readPunctuation(item, next);
+        marked = true;
+        continue;
+      }
+      readValue(item, next, marked && rest_.size() == lastEnd);
+      marked = false;
+      lastEnd = rest_.size();
     }
     skipBlanks();
     if (!rest_.empty()) {
@@ -92,61 +88,81 @@ class Reader {
     }
   }
 
+  // `joined`: the text lacks the marks that the model has in front of this value. Then a number must have all
+  // its digits, and whatever does not fit is taken for the missing mark.
+  void readValue(const DateItem& item, const DateItem* next, bool joined) {
+    if (!joined) {
+      readItem(item, next);
+      return;
+    }
+    const std::size_t before = rest_.size();
+    try {
+      readItem(item, next);
+    } catch (const FunctionError&) {
+      raiseLiteral();
+    }
+    const std::size_t taken = before - rest_.size();
+    if (isNumeric(item) && taken < item.digits &&
+        !(item.element == DateElement::RoundedYear4 && taken == 2)) {
+      raiseLiteral();
+    }
+  }
+
+  [[noreturn]] static void raiseLiteral() {
+    throw FunctionError(1861, "literal does not match format string");
+  }
+
   void readItem(const DateItem& item, const DateItem* next) {
     switch (item.element) {
       case DateElement::Literal:
         readLiteral(item.text);
         return;
-      case DateElement::Punctuation:
-        readPunctuation(item);
-        return;
       case DateElement::Radix:
         readLiteral(".");
         return;
       case DateElement::Era:
-        setOnce(found_.beforeChrist, readMark(item, 'B', 'A', "CD", 1856, "BC/B.C. or AD/A.D. required"));
+        found_.beforeChrist = readMark(item, 'B', 'A', "CD", 1856, "BC/B.C. or AD/A.D. required");
         return;
       case DateElement::Meridian:
-        setOnce(found_.afternoon, readMark(item, 'P', 'A', "MM", 1855, "AM/A.M. or PM/P.M. required"));
+        found_.afternoon = readMark(item, 'P', 'A', "MM", 1855, "AM/A.M. or PM/P.M. required");
         return;
       case DateElement::DayName:
       case DateElement::DayAbbreviation:
-        setOnce(found_.weekday, readName(kDayNames, 1846, "not a valid day of the week"));
+        found_.weekday = readName(item, kDayNames, 1846, "not a valid day of the week");
         return;
       case DateElement::MonthName:
       case DateElement::MonthAbbreviation:
-        setOnce(found_.month, readName(kMonthNames, 1843, "not a valid month") + 1);
+        found_.month = readName(item, kMonthNames, 1843, "not a valid month") + 1;
         return;
       case DateElement::RomanMonth:
-        setOnce(found_.month, readRoman());
+        found_.month = readRoman();
         return;
       default:
         break;
     }
-    if (item.spelled || !isNumeric(item)) {
-      throw FunctionError(1820, "format code cannot appear in date input format");
-    }
-    if (item.element == DateElement::Month && isAsciiLetter(rest_[0])) {
-      setOnce(found_.month, readName(kMonthNames, 1843, "not a valid month") + 1);
+    if (item.element == DateElement::Month && isAsciiLetter(rest_[0]) && !item.exact) {
+      found_.month = readName(item, kMonthNames, 1843, "not a valid month") + 1;
       return;
     }
     readNumber(item, next);
   }
 
   void readLiteral(std::string_view literal) {
-    if (rest_.substr(0, literal.size()) != literal) {
-      throw FunctionError(1861, "literal does not match format string");
+    if (!startsWithAnyCase(rest_, asciiUpper(literal))) {
+      raiseLiteral();
     }
     rest_.remove_prefix(literal.size());
   }
 
-  // Any mark does for any other, and none at all before a digit or a letter.
-  void readPunctuation(const DateItem& item) {
+  // Any mark does for any other, and none at all before a digit or a letter. The sign of a year is no mark
+  // where the model has a blank.
+  void readPunctuation(const DateItem& item, const DateItem* next) {
     const char c = rest_[0];
     if (item.exact) {
       readLiteral(item.text);
     } else if (!isAsciiLetter(c) && !isAsciiDigit(c)) {
-      const bool sign = (c == '-' || c == '+') && item.text == " ";
+      const bool sign = (c == '-' || c == '+') && item.text == " " && next != nullptr &&
+                        next->element == DateElement::SignedYear;
       rest_.remove_prefix(sign ? 0 : 1);
     }
   }
@@ -164,12 +180,14 @@ class Reader {
     throw FunctionError(code, message);
   }
 
-  // A full name or its first three letters, whichever the model asks for.
+  // A full name or its first three letters, whichever the model asks for; under FX just that.
   template <std::size_t N>
-  int readName(const std::string_view (&names)[N], int code, const char* message) {
+  int readName(const DateItem& item, const std::string_view (&names)[N], int code, const char* message) {
+    const bool full = item.element == DateElement::MonthName || item.element == DateElement::DayName;
     for (std::size_t i = 0; i < N; ++i) {
       for (const std::string_view name : {names[i], names[i].substr(0, 3)}) {
-        if (startsWithAnyCase(rest_, name)) {
+        if (startsWithAnyCase(rest_, name) &&
+            (!item.exact || full == (name == names[i]) || names[i].size() == 3)) {
           rest_.remove_prefix(name.size());
           return static_cast<int>(i);
         }
@@ -192,10 +210,11 @@ class Reader {
     return static_cast<int>(month - std::begin(kRomanMonths)) + 1;
   }
 
-  // Digits up to the width of the element; four for a short year that nothing numeric follows directly.
+  // Digits up to the width of the element; four for YY and RR that nothing numeric follows directly.
   std::pair<std::int64_t, int> readDigits(const DateItem& item, const DateItem* next) {
     int width = item.digits;
-    const bool shortYear = item.element == DateElement::Year || item.element == DateElement::RoundedYear2;
+    const bool shortYear =
+        (item.element == DateElement::Year && width == 2) || item.element == DateElement::RoundedYear2;
     if (shortYear && !item.exact && (next == nullptr || !isNumeric(*next))) {
       width = 4;
     }
@@ -235,48 +254,46 @@ class Reader {
     const auto [value, count] = readDigits(item, next);
     switch (item.element) {
       case DateElement::Year:
-        setOnce(found_.year, count >= 4 ? checkedYear(value) : completedYear(value, item.digits));
+        found_.year = count >= 4 ? enteredYear(value) : completedYear(value, item.digits);
         return;
       case DateElement::SignedYear:
-        setOnce(found_.year, checkedYear(negative ? -value : value));
+        found_.year = enteredYear(negative ? -value : value);
         return;
       case DateElement::RoundedYear2:
       case DateElement::RoundedYear4:
-        setOnce(found_.year, count > 2 ? checkedYear(value) : roundedYear(value));
+        found_.year = count > 2 ? enteredYear(value) : roundedYear(value);
         return;
       case DateElement::Month:
-        setOnce(found_.month, inRange(value, 1, 12, 1843, "not a valid month"));
+        found_.month = inRange(value, 1, 12, 1843, "not a valid month");
         return;
       case DateElement::Day:
-        setOnce(found_.day,
-                inRange(value, 1, 31, 1847, "day of month must be between 1 and last day of month"));
+        found_.day = inRange(value, 1, 31, 1847, "day of month must be between 1 and last day of month");
         return;
       case DateElement::DayOfYear:
-        setOnce(found_.dayOfYear,
-                inRange(value, 1, 366, 1848, "day of year must be between 1 and 365 (366 for leap year)"));
+        found_.dayOfYear =
+            inRange(value, 1, 366, 1848, "day of year must be between 1 and 365 (366 for leap year)");
         return;
       case DateElement::Hour12:
-        setOnce(found_.hour12, inRange(value, 1, 12, 1849, "hour must be between 1 and 12"));
+        found_.hour12 = inRange(value, 1, 12, 1849, "hour must be between 1 and 12");
         return;
       case DateElement::Hour24:
-        setOnce(found_.hour24, inRange(value, 0, 23, 1850, "hour must be between 0 and 23"));
+        found_.hour24 = inRange(value, 0, 23, 1850, "hour must be between 0 and 23");
         return;
       case DateElement::Minute:
-        setOnce(found_.minute, inRange(value, 0, 59, 1851, "minutes must be between 0 and 59"));
+        found_.minute = inRange(value, 0, 59, 1851, "minutes must be between 0 and 59");
         return;
       case DateElement::Second:
-        setOnce(found_.second, inRange(value, 0, 59, 1852, "seconds must be between 0 and 59"));
+        found_.second = inRange(value, 0, 59, 1852, "seconds must be between 0 and 59");
         return;
       case DateElement::SecondOfDay:
-        setOnce(found_.secondOfDay,
-                inRange(value, 0, 86399, 1853, "seconds in day must be between 0 and 86399"));
+        found_.secondOfDay = inRange(value, 0, 86399, 1853, "seconds in day must be between 0 and 86399");
         return;
       case DateElement::WeekdayNumber:
-        setOnce(found_.weekday, inRange(value, 1, 7, 1846, "not a valid day of the week") - 1);
+        found_.weekday = inRange(value, 1, 7, 1846, "not a valid day of the week") - 1;
         return;
       case DateElement::Julian:
         inRange(value, 1, 5373484, 1854, "julian date must be between 1 and 5373484");
-        setOnce(found_.julian, value);
+        found_.julian = value;
         return;
       default:
         throw FunctionError(1820, "format code cannot appear in date input format");
@@ -293,14 +310,7 @@ class Reader {
     if (count == 0) {
       throw FunctionError(1858, "a non-numeric character was found where a numeric was expected");
     }
-    setOnce(found_.year, checkedYear(value));
-  }
-
-  static int checkedYear(std::int64_t year) {
-    if (year == 0 || year < -4713 || year > 9999) {
-      throw FunctionError(1841, "(full) year must be between -4713 and +9999, and not be 0");
-    }
-    return static_cast<int>(year);
+    found_.year = enteredYear(value);
   }
 
   // The digits that are missing in front come from the current year.
@@ -309,7 +319,7 @@ class Reader {
     for (int i = 0; i < digits; ++i) {
       unit *= 10;
     }
-    return checkedYear(now_.year / unit * unit + value);
+    return enteredYear(now_.year / unit * unit + value);
   }
 
   // Of the half century nearest to now.
@@ -320,88 +330,18 @@ class Reader {
     } else if (value >= 50 && now_.year % 100 < 50) {
       --century;
     }
-    return checkedYear(std::int64_t{100} * century + value);
+    return enteredYear(std::int64_t{100} * century + value);
   }
 
   std::string_view rest_;
   DateFields now_;
-  Found found_;
+  DateParts found_;
 };
-
-int hourOf(const Found& found) {
-  if (found.hour24) {
-    if (found.afternoon) {
-      throw FunctionError(1818, "'HH24' precludes use of meridian indicator");
-    }
-    return *found.hour24;
-  }
-  if (!found.hour12) {
-    return 0;
-  }
-  // Without AM or PM it is the morning: 12:30 is half past midnight.
-  return *found.hour12 % 12 + (found.afternoon.value_or(false) ? 12 : 0);
-}
-
-Date assemble(const Found& found, const DateFields& now) {
-  DateFields fields;
-  fields.year = found.year.value_or(now.year);
-  if (found.beforeChrist && *found.beforeChrist) {
-    fields.year = -fields.year;
-  }
-  Date date;
-  if (found.julian) {
-    date.seconds = (*found.julian - 2440588) * 86400;
-  } else if (found.dayOfYear) {
-    const Date first = Date::fromFields({fields.year, 1, 1, 0, 0, 0});
-    date.seconds = first.seconds + std::int64_t{86400} * (*found.dayOfYear - 1);
-    if (date.fields().year != fields.year) {
-      throw FunctionError(1848, "day of year must be between 1 and 365 (366 for leap year)");
-    }
-    const DateFields named = date.fields();
-    if ((found.month && *found.month != named.month) || (found.day && *found.day != named.day)) {
-      throw FunctionError(1834, "day of month conflicts with Julian date");
-    }
-  } else {
-    fields.month = found.month.value_or(now.month);
-    fields.day = found.day.value_or(1);
-    date = Date::fromFields(fields);
-  }
-  if (found.weekday && *found.weekday != date.weekday()) {
-    throw FunctionError(1835, "day of week conflicts with Julian date");
-  }
-  if (found.secondOfDay) {
-    date.seconds += *found.secondOfDay;
-  } else {
-    date.seconds += (hourOf(found) * 60LL + found.minute.value_or(0)) * 60 + found.second.value_or(0);
-  }
-  return date;
-}
 
 }  // namespace
 
 Date parseDate(std::string_view text, std::string_view model, const Context& context) {
-  return assemble(Reader(text, context).read(dateModel(model)), context.now.fields());
-}
-
-Date dateOfLiteral(std::string_view text) {
-  std::string_view rest = text;
-  const bool beforeChrist = rest.starts_with('-');
-  if (beforeChrist || rest.starts_with('+')) {
-    rest.remove_prefix(1);
-  }
-  int parts[3] = {0, 0, 0};
-  for (int i = 0; i < 3; ++i) {
-    const std::size_t size = std::min(rest.find_first_not_of("0123456789"), rest.size());
-    const bool endsRight = i == 2 ? size == rest.size() : size < rest.size() && rest[size] == '-';
-    if (size == 0 || size > (i == 0 ? 4U : 2U) || !endsRight) {
-      throw FunctionError(1861, "literal does not match format string");
-    }
-    for (const char c : rest.substr(0, size)) {
-      parts[i] = parts[i] * 10 + (c - '0');
-    }
-    rest.remove_prefix(i == 2 ? size : size + 1);
-  }
-  return Date::fromFields({beforeChrist ? -parts[0] : parts[0], parts[1], parts[2], 0, 0, 0});
+  return dateOfParts(Reader(text, context).read(dateInputModel(model)), context.now.fields());
 }
 
 }  // namespace oracle_sql

@@ -1,7 +1,9 @@
 #include <array>
 #include <string>
 
+#include "oracle_sql/ascii_case.h"
 #include "oracle_sql/date.h"
+#include "oracle_sql/date_model.h"
 #include "oracle_sql/function_error.h"
 
 namespace oracle_sql {
@@ -41,16 +43,16 @@ constexpr UnitName kUnits[] = {
 };
 
 Unit unitOf(std::string_view model) {
-  std::string upper;
-  for (const char c : model) {
-    upper += static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
-  }
+  const std::string upper = asciiUpper(model);
   for (const UnitName& entry : kUnits) {
     if (entry.name == upper) {
       return entry.unit;
     }
   }
-  throw FunctionError(1898, "too many precision specifiers");
+  if (dateModel(model).size() > 1) {
+    throw FunctionError(1898, "too many precision specifiers");
+  }
+  throw FunctionError(1899, "bad precision specifier");
 }
 
 Date dayOf(int year, int month, int day) { return Date::fromFields({year, month, day, 0, 0, 0}); }
@@ -70,7 +72,7 @@ Date start(const Date& date, Unit unit) {
   const DateFields f = date.fields();
   switch (unit) {
     case Unit::Century:
-      return dayOf((f.year - 1) / 100 * 100 + 1, 1, 1);
+      return dayOf((f.year + 4799) / 100 * 100 - 4799, 1, 1);  // whole numbers, also before Christ
     case Unit::Year:
       return dayOf(f.year, 1, 1);
     case Unit::IsoYear: {

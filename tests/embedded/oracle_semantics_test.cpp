@@ -430,7 +430,7 @@ TEST_F(OracleSemantics, dateLiteralMayBearASign) {
 
 TEST_F(OracleSemantics, dateLiteralOfADayThatIsNotIsRefusedWithItsPlace) {
   try {
-    rows("select date '-0012-02-29' from dual");
+    rows("select date '-0013-02-29' from dual");
     FAIL() << "a day that is not was taken";
   } catch (const DatabaseError& error) {
     EXPECT_EQ(error.nativeCode(), 1839);

@@ -19,7 +19,7 @@ TEST(Date, aDayThatDoesNotExistIsRefusedByItsOwnError) {
   EXPECT_EQ(1847, errorOf([] { Date::fromFields({2023, 1, 32}); }));
   EXPECT_EQ(1847, errorOf([] { Date::fromFields({2023, 1, 0}); }));
   EXPECT_EQ(1843, errorOf([] { Date::fromFields({2023, 13, 1}); }));
-  EXPECT_EQ(1841, errorOf([] { Date::fromFields({0, 1, 1}); }));
+  EXPECT_EQ(1841, errorOf([] { Date::fromFields({-4713, 12, 31}); }));
   EXPECT_EQ(1841, errorOf([] { Date::fromFields({10000, 1, 1}); }));
 }
 
@@ -44,10 +44,37 @@ TEST(Date, theCalendarIsJulianBeforeOctober1582) {
   const Date last = Date::fromFields({1582, 10, 4});
   EXPECT_EQ(" 1582-10-15 00:00:00", text(last + Number(1)));
   EXPECT_EQ(2299160, last.julianDay());
-  EXPECT_EQ(1, Date::fromFields({-4712, 1, 2}).julianDay() - Date::fromFields({-4712, 1, 1}).julianDay());
-  EXPECT_EQ(" 0001-01-01 00:00:00", text(Date::fromFields({-1, 12, 31}) + Number(1)));
   EXPECT_EQ(2444190, day("1979-11-12").julianDay());
   EXPECT_EQ(29, daysInMonth(1500, 2));
+}
+
+// What seanstuber.com "Looking Through Holes in Time" shows of TO_DATE.
+TEST(Date, theTenDaysThatWereLeftOutAreTheNextOne) {
+  EXPECT_EQ(" 1582-10-15 12:34:56", text(Date::fromFields({1582, 10, 10, 12, 34, 56})));
+  EXPECT_EQ(" 1582-10-15 00:00:00", text(Date::fromFields({1582, 10, 5})));
+  EXPECT_EQ(" 1582-10-15 00:00:00", text(Date::fromFields({1582, 10, 14})));
+  EXPECT_EQ(" 1582-10-16 00:00:00", text(Date::fromFields({1582, 10, 16})));
+}
+
+// The server's own answers in ixora.com.au "Julian days and year 0": 367 days, day 1721058 in year 0; day 1
+// and day 1721424 by stackoverflow.com 10437834.
+TEST(Date, theServerCountsALeapYearZero) {
+  EXPECT_EQ(" 0000-01-01 00:00:00", text(Date::fromFields({-1, 12, 31}) + Number(1)));
+  EXPECT_EQ(" 0000-12-31 00:00:00", text(Date::fromFields({1, 1, 1}) - Number(1)));
+  EXPECT_EQ("367", (Date::fromFields({1, 1, 1}) - Date::fromFields({-1, 12, 31})).toPlainText());
+  EXPECT_EQ("12.03225806451612903225806451612903225806",
+            monthsBetween(Date::fromFields({1, 1, 1}), Date::fromFields({-1, 12, 31})).toPlainText());
+  EXPECT_EQ(1721424, Date::fromFields({1, 1, 1}).julianDay());
+  EXPECT_EQ(1721058, Date::fromFields({0, 1, 1}).julianDay());
+  EXPECT_EQ(1, Date::fromFields({-4712, 1, 1}).julianDay());
+}
+
+TEST(Date, fieldsComeBackThroughEveryDayBeforeChrist) {
+  const Date first = Date::fromFields({-4712, 1, 1});
+  const Date end = Date::fromFields({5, 1, 1});
+  for (Date at = first; at < end; at.seconds += 86400) {
+    ASSERT_EQ(at.seconds, Date::fromFields(at.fields()).seconds) << text(at);
+  }
 }
 
 TEST(Date, weekdaysFollowTheCalendar) {
@@ -93,7 +120,7 @@ TEST(Date, addedMonthsStickToMonthEnds) {
   EXPECT_EQ(" 2014-09-30 00:00:00", text(addMonths(day("2014-03-31"), 6)));
   EXPECT_EQ(" 2023-02-28 10:00:00", text(addMonths(day("2023-01-29 10:00:00"), 1)));
   EXPECT_EQ(" 2022-12-15 00:00:00", text(addMonths(day("2023-01-15"), -1)));
-  EXPECT_EQ("-0001-12-01 00:00:00", text(addMonths(Date::fromFields({1, 1, 1}), -1)));
+  EXPECT_EQ("-0001-12-01 00:00:00", text(addMonths(Date::fromFields({1, 1, 1}), -13)));
 }
 
 TEST(Date, monthsBetweenAreWholeForEqualDaysAndForMonthEnds) {
@@ -131,7 +158,10 @@ TEST(Date, truncationGoesToTheBeginningOfTheUnit) {
   for (const auto& [model, result] : cases) {
     EXPECT_EQ(result, text(truncDate(day("2003-08-22 15:47:11"), model))) << model;
   }
-  EXPECT_EQ(1898, errorOf([] { truncDate(day("2003-08-22"), "SS"); }));
+  // connor-mcdonald.com "Truncating a timestamp to the second"
+  EXPECT_EQ(1899, errorOf([] { truncDate(day("2003-08-22"), "SS"); }));
+  EXPECT_EQ(1898, errorOf([] { truncDate(day("2003-08-22"), "DD-MON-YYYY"); }));
+  EXPECT_EQ(1821, errorOf([] { truncDate(day("2003-08-22"), "nonsense"); }));
 }
 
 TEST(Date, roundingTurnsWhereTheUnitDoes) {

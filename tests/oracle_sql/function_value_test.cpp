@@ -202,12 +202,13 @@ TEST(CalendarFunctions, extractGivesThePartsOfADate) {
   EXPECT_EQ("2", call("EXTRACT", {d("2020-02-03"), s("month")}));
   EXPECT_EQ("3", call("EXTRACT", {d("2020-02-03"), s("DAY")}));
   EXPECT_EQ(30076, callError("EXTRACT", {d("2020-02-03"), s("HOUR")}));
+  EXPECT_EQ(30076, callError("EXTRACT", {s("03-FEB-20"), s("YEAR")}));
 }
 
 TEST(CalendarFunctions, roundAndTruncOfDatesTakeAModel) {
   EXPECT_EQ("2003-10-01 00:00:00", call("ROUND", {d("2003-08-22"), s("Q")}));
   EXPECT_EQ("2020-01-01 00:00:00", call("TRUNC", {d("2020-01-01 23:59:59")}));
-  EXPECT_EQ(1898, callError("TRUNC", {d("2020-01-01"), s("nonsense")}));
+  EXPECT_EQ(1898, callError("TRUNC", {d("2020-01-01"), s("YYYY-MM")}));
 }
 
 }  // namespace

@@ -28,20 +28,22 @@ Value nextDay(Arguments arguments, const Context& context) {
   return oracle_sql::nextDay(date, TextOf(arguments[1]).view());
 }
 
-Value extract(Arguments arguments, const Context& context) {
-  const DateFields fields = toDate(arguments[0], context).fields();
+// A DATE has a year, a month and a day here, nothing else; text does not become one.
+Value extract(Arguments arguments, const Context&) {
   const std::string part = asciiUpper(TextOf(arguments[1]).view());
-  if (part == "YEAR") {
-    return fields.year;
+  if (arguments[0].isDate()) {
+    const DateFields fields = arguments[0].date().fields();
+    if (part == "YEAR") {
+      return fields.year;
+    }
+    if (part == "MONTH") {
+      return fields.month;
+    }
+    if (part == "DAY") {
+      return fields.day;
+    }
   }
-  if (part == "MONTH") {
-    return fields.month;
-  }
-  if (part == "DAY") {
-    return fields.day;
-  }
-  throw FunctionError(30076,
-                      "invalid extract field for extract source");  // a DATE has no others, HOUR included
+  throw FunctionError(30076, "invalid extract field for extract source");
 }
 
 }  // namespace oracle_sql::library
