@@ -96,6 +96,9 @@ Number exp(const Number& n);
 Number ln(const Number& n);
 Number log(const Number& base, const Number& n);
 
+// The digits of a whole number to the base of 16, with capital letters; not for a negative one.
+std::string hexadecimal(const Number& whole);
+
 // Radians.
 enum class Trigonometric : std::uint8_t { Sin, Cos, Tan, Asin, Acos, Atan, Sinh, Cosh, Tanh };
 Number trigonometric(Trigonometric function, const Number& n);

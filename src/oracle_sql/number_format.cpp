@@ -147,6 +147,9 @@ std::string formatFixed(const Number& number, const NumberModel& model, const Nu
     std::size_t keep = fraction.find_last_not_of('0');
     keep = keep == std::string::npos ? 0 : keep + 1;
     fraction.resize(std::max(keep, forced == std::string::npos ? 0 : forced + 1));
+    if (whole.empty() && fraction.empty() && places > 0) {
+      whole = "0";  // 0 with FM99.99 is "0."
+    }
   }
   Parts parts;
   parts.digits = groupedWhole(model, symbols, whole);
@@ -248,19 +251,16 @@ std::string formatRoman(const Number& number, const NumberModel& model) {
 
 std::string formatHexadecimal(const Number& number, const NumberModel& model) {
   const std::size_t width = model.whole.size() + 1;
-  const std::int64_t whole = number.round().toInt64().value_or(-1);
-  if (whole < 0) {
+  const Number whole = number.round();
+  if (whole.isNegative()) {
     return hashes(width);
   }
-  const std::string_view symbols = model.lower ? "0123456789abcdef" : "0123456789ABCDEF";
-  std::string text;
-  auto rest = static_cast<std::uint64_t>(whole);
-  do {
-    text.insert(0, 1, symbols[rest % 16]);
-    rest /= 16;
-  } while (rest != 0);
+  std::string text = hexadecimal(whole);
   if (text.size() > model.whole.size()) {
     return hashes(width);
+  }
+  if (model.lower) {
+    std::transform(text.begin(), text.end(), text.begin(), [](char c) { return asciiLower(c); });
   }
   if (model.whole[0] == '0') {
     text.insert(0, model.whole.size() - text.size(), '0');

@@ -118,6 +118,10 @@ Number remainder(const Number& n, const Number& m) {
   return n.isZero() ? n : rest(n, m, true);
 }
 
+std::string hexadecimal(const Number& whole) {
+  return scaled(whole.parts(), 0).str(0, std::ios_base::hex | std::ios_base::uppercase);
+}
+
 Number power(const Number& base, const Number& exponent) {
   if (exponent.isZero()) {
     return Number(1);

@@ -247,6 +247,17 @@ void Parser::castType(CastExpr& c) {
     }
     return;
   }
+  if (isAny({"FLOAT", "REAL"}) || (isWord("DOUBLE") && isWord("PRECISION", 1))) {
+    const bool plain = isWord("FLOAT");
+    c.binaryDigits = isWord("REAL") ? 63 : 126;
+    at_ += isWord("DOUBLE") ? 2 : 1;
+    c.target = TypeKind::Number;
+    if (plain && accept(Symbol::LeftParen)) {
+      c.binaryDigits = number(1, 126);
+      expectRightParen();
+    }
+    return;
+  }
   if (isAny({"VARCHAR2", "VARCHAR", "CHAR", "CHARACTER"})) {
     const bool fixed = isAny({"CHAR", "CHARACTER"});
     take();

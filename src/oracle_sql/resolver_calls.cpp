@@ -1,4 +1,6 @@
 // Calls: functions of one row, aggregates, window functions.
+#include <algorithm>
+
 #include "oracle_sql/functions.h"
 #include "oracle_sql/resolver_state.h"
 
@@ -44,7 +46,49 @@ Type Resolver::scalarCall(Call& c, const Env& env) {
     return {TypeKind::Number, true};
   }
   countArguments(c, c.function->minArguments, c.function->maxArguments);
+  if (c.package.empty()) checkArguments(c);
   return c.function->resultType(types);
+}
+
+namespace {
+
+// The functions that take nothing but numbers, and text that is one.
+constexpr std::string_view kOfNumbers[] = {"ABS",  "ACOS", "ASIN",  "ATAN",  "ATAN2",     "BITAND",
+                                           "CEIL", "COS",  "COSH",  "EXP",   "FLOOR",     "LN",
+                                           "LOG",  "MOD",  "NANVL", "POWER", "REMAINDER", "SIGN",
+                                           "SIN",  "SINH", "SQRT",  "TAN",   "TANH",      "BIN_TO_NUM"};
+
+}  // namespace
+
+// ORA-00932 where the arguments do not go together, whatever their values are.
+void Resolver::checkArguments(const Call& c) const {
+  const auto type = [&](std::size_t i) { return c.args[i]->type; };
+  const auto go = [&](Type wanted, std::size_t i) { comparable(wanted, type(i), c.args[i]->place); };
+  const std::size_t count = c.args.size();
+  if (c.name == "COALESCE" || c.name == "NULLIF") {
+    // These convert nothing.
+    if (c.name == "NULLIF" && c.args[0]->kind == ExprKind::Null)
+      fail(932, "inconsistent datatypes: expected - got CHAR", c.args[0]->place);
+    Type common = type(0);
+    for (std::size_t i = 1; i < count; ++i) {
+      const Type next = commonType(common, type(i));
+      if (next.kind == TypeKind::Unresolved)
+        fail(932,
+             std::string("inconsistent datatypes: expected ") + typeName(common.kind) + " got " +
+                 typeName(type(i).kind),
+             c.args[i]->place);
+      common = next;
+    }
+  } else if (c.name == "NVL" || c.name == "GREATEST" || c.name == "LEAST") {
+    for (std::size_t i = 1; i < count; ++i) go(type(0), i);
+  } else if (c.name == "NVL2") {
+    go(type(1), 2);
+  } else if (c.name == "DECODE") {
+    go(type(1), 0);
+    for (std::size_t i = 3; i < count; ++i) go(type(i + 1 < count && i % 2 != 0 ? 1 : 2), i);
+  } else if (std::ranges::find(kOfNumbers, c.name) != std::end(kOfNumbers)) {
+    for (std::size_t i = 0; i < count; ++i) go({TypeKind::Number}, i);
+  }
 }
 
 Type Resolver::setFunction(Call& c, const SetFunction& f, const Env& env) {

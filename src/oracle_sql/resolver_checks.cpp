@@ -89,7 +89,8 @@ bool Resolver::same(const Expr& a, const Expr& b, int level) {
     case ExprKind::Cast: {
       const auto& c = *as<CastExpr>(&a);
       const auto& d = *as<CastExpr>(&b);
-      if (c.target != d.target || c.precision != d.precision || c.scale != d.scale || c.integer != d.integer)
+      if (c.target != d.target || c.precision != d.precision || c.scale != d.scale ||
+          c.integer != d.integer || c.binaryDigits != d.binaryDigits)
         return false;
       break;
     }

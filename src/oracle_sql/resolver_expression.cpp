@@ -54,7 +54,6 @@ Type Resolver::resolved(Expr& e, const Env& env) {
     case ExprKind::String: {
       const std::size_t bytes = static_cast<StringLiteral&>(e).value.size();
       if (bytes > kMaxTextLiteral) fail(1704, "string literal too long", e.place);
-      if (bytes == 0) return {TypeKind::Null};
       return {TypeKind::Char, false, static_cast<std::uint16_t>(bytes)};
     }
     case ExprKind::DateLiteral:

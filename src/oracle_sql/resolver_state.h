@@ -96,6 +96,7 @@ class Resolver {
   Type call(Call& c, const Env& env);
   Type setFunction(Call& c, const SetFunction& f, const Env& env);
   Type scalarCall(Call& c, const Env& env);
+  void checkArguments(const Call& c) const;
   Type setFunctionType(const Call& c, const SetFunction& f) const;
   void window(Call& c, const SetFunction& f, const Env& env);
   void countArguments(const Call& c, int low, int high) const;

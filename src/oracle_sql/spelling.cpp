@@ -91,6 +91,7 @@ std::string castSpelling(const CastExpr& cast) {
   switch (cast.target) {
     case TypeKind::Number:
       if (cast.integer) return "INTEGER";
+      if (cast.binaryDigits > 0) return "FLOAT(" + std::to_string(cast.binaryDigits) + ")";
       if (cast.precision < 0) return "NUMBER";
       return "NUMBER(" + std::to_string(cast.precision) +
              (cast.scale != 0 ? "," + std::to_string(cast.scale) + ")" : ")");

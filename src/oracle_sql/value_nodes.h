@@ -106,6 +106,7 @@ struct CastExpr : Expr {
   int precision = -1;    ///< of NUMBER: digits, -1 if not written; of text and RAW: length
   int scale = 0;         ///< of NUMBER(p, s)
   bool integer = false;  ///< written INTEGER, INT or SMALLINT: NUMBER(38)
+  int binaryDigits = 0;  ///< of FLOAT(b), REAL, DOUBLE PRECISION: 1 to 126; else 0
   bool inChars = false;  ///< of text: the length counts characters, not bytes
 };
 

@@ -96,6 +96,16 @@ TEST(NumberFormat, fillModeDropsBlanksAndNoughtsThatNinesStandFor) {
              {"11", "FMRN", "XI"}});
 }
 
+// As PostgreSQL's to_char notes of the same model: '0' with FM9.9 is '0.'.
+TEST(NumberFormat, fillModeKeepsANoughtWhereNoDigitWouldStand) {
+  expectAll({{"0", "FM99.99", "0."},
+             {"0.001", "FM9.99", "0."},
+             {"-0.001", "FM9.99", "-0."},
+             {"0", "FM.99", "."},
+             {"0", "FM99.90", ".00"},
+             {"0.25", "FM99.99", ".25"}});
+}
+
 TEST(NumberFormat, signsStandWhereTheModelSays) {
   expectAll({{"42", "S999", " +42"},
              {"-42", "S999", " -42"},
@@ -155,6 +165,15 @@ TEST(NumberFormat, romanAndHexadecimalNumbers) {
              {"10", "0XXX", " 000A"},
              {"-1", "XX", "###"},
              {"0", "X", " 0"}});
+}
+
+TEST(NumberFormat, hexadecimalGoesBeyond64Bits) {
+  expectAll({{"9223372036854775808", "XXXXXXXXXXXXXXXX", " 8000000000000000"},
+             {"18446744073709551615", "FMxxxxxxxxxxxxxxxx", "ffffffffffffffff"},
+             {"18446744073709551616", "XXXXXXXXXXXXXXXX", "#################"},
+             {"18446744073709551616", "XXXXXXXXXXXXXXXXXX", "  10000000000000000"},
+             {"0", "XX", "  0"},
+             {"-1", "XX", "###"}});
 }
 
 TEST(NumberFormat, textMinimumIsTheNumberAsItStands) {

@@ -89,6 +89,42 @@ TEST(NumericFunctions, bitAndIsOfWholeNumbers) {
   EXPECT_EQ(1428, callError("BITAND", {n("1e30"), n("1")}));
 }
 
+// The credit limits of the example in Oracle's SQL Reference.
+TEST(NumericFunctions, widthBucketCountsFromTheLowBound) {
+  const auto bucket = [](const char* value) {
+    return call("WIDTH_BUCKET", {n(value), n("100"), n("5000"), n("10")});
+  };
+  EXPECT_EQ("1", bucket("500"));
+  EXPECT_EQ("2", bucket("700"));
+  EXPECT_EQ("3", bucket("1200"));
+  EXPECT_EQ("4", bucket("1800"));
+  EXPECT_EQ("5", bucket("2300"));
+  EXPECT_EQ("7", bucket("3500"));
+  EXPECT_EQ("11", bucket("5000"));
+  EXPECT_EQ("0", bucket("99.9"));
+  EXPECT_EQ("1", bucket("100"));
+}
+
+TEST(NumericFunctions, widthBucketTakesDatesAndFallingBounds) {
+  EXPECT_EQ("2", call("WIDTH_BUCKET", {d("2020-01-02"), d("2020-01-01"), d("2020-01-05"), n("4")}));
+  EXPECT_EQ("1", call("WIDTH_BUCKET", {n("10"), n("10"), n("0"), n("5")}));
+  EXPECT_EQ("6", call("WIDTH_BUCKET", {n("0"), n("10"), n("0"), n("5")}));
+  EXPECT_EQ("0", call("WIDTH_BUCKET", {n("11"), n("10"), n("0"), n("5")}));
+}
+
+TEST(NumericFunctions, widthBucketWantsBoundsAndAPositiveCount) {
+  EXPECT_EQ(30494, callError("WIDTH_BUCKET", {n("1"), null, n("10"), n("5")}));
+  EXPECT_EQ(30494, callError("WIDTH_BUCKET", {n("1"), n("0"), n("10"), n("0")}));
+  EXPECT_EQ(30494, callError("WIDTH_BUCKET", {n("1"), n("0"), n("10"), n("-1")}));
+  EXPECT_EQ("NULL", call("WIDTH_BUCKET", {null, n("0"), n("10"), n("5")}));
+}
+
+TEST(NumericFunctions, binaryDigitsMakeANumber) {
+  EXPECT_EQ("10", call("BIN_TO_NUM", {n("1"), n("0"), n("1"), n("0")}));  // Oracle's SQL Reference
+  EXPECT_EQ("1", call("BIN_TO_NUM", {n("1")}));
+  EXPECT_EQ(1428, callError("BIN_TO_NUM", {n("2")}));
+}
+
 TEST(ComparingFunctions, theFirstArgumentGivesTheTypeOfTheComparison) {
   EXPECT_EQ("10", call("GREATEST", {n("10"), n("9")}));
   EXPECT_EQ("9", call("GREATEST", {s("10"), s("9")}));

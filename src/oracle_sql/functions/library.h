@@ -47,6 +47,9 @@ ORACLE_SQL_FUNCTION(naturalLogarithm);
 ORACLE_SQL_FUNCTION(logarithm);
 ORACLE_SQL_FUNCTION(bitAnd);
 ORACLE_SQL_FUNCTION(arcTangent2);
+ORACLE_SQL_FUNCTION(binaryToNumber);
+ORACLE_SQL_FUNCTION(notANumberValue);
+ORACLE_SQL_FUNCTION(widthBucket);
 // comparing.cpp
 ORACLE_SQL_FUNCTION(greatest);
 ORACLE_SQL_FUNCTION(least);

@@ -21,6 +21,13 @@ std::int64_t bits(const Value& value) {
   return *whole;
 }
 
+// A bound or the value of WIDTH_BUCKET: dates are numbers of seconds there.
+Number scalar(const Value& value) { return value.isDate() ? Number(value.date().seconds) : toNumber(value); }
+
+[[noreturn]] void raiseInvalidBucketArgument() {
+  throw FunctionError(30494, "The argument of WIDTH_BUCKET function is NULL or invalid");
+}
+
 }  // namespace
 
 Value absolute(Arguments arguments, const Context&) { return toNumber(arguments[0]).abs(); }
@@ -73,6 +80,51 @@ Value bitAnd(Arguments arguments, const Context&) { return bits(arguments[0]) & 
 
 Value arcTangent2(Arguments arguments, const Context&) {
   return atan2(toNumber(arguments[0]), toNumber(arguments[1]));
+}
+
+Value binaryToNumber(Arguments arguments, const Context&) {
+  Number number;
+  for (const Value& argument : arguments) {
+    const Number bit = toNumber(argument);
+    if (!bit.isZero() && bit != Number(1)) {
+      raiseArgumentOutOfRange();
+    }
+    number = number + number + bit;
+  }
+  return number;
+}
+
+// A NUMBER is never NaN.
+Value notANumberValue(Arguments arguments, const Context&) {
+  toNumber(arguments[1]);
+  return toNumber(arguments[0]);
+}
+
+// Of `count` intervals of equal width from `low` up to `high`, or down to it, the one that the value is in;
+// 0 before them, count + 1 behind. An interval holds the bound where it begins.
+Value widthBucket(Arguments arguments, const Context&) {
+  for (const Value& argument : arguments.subspan(1)) {
+    if (argument.isNull()) {
+      raiseInvalidBucketArgument();
+    }
+  }
+  const Number low = scalar(arguments[1]);
+  const Number high = scalar(arguments[2]);
+  const Number count = toNumber(arguments[3]).trunc();
+  if (count.sign() <= 0) {
+    raiseInvalidBucketArgument();
+  }
+  if (arguments[0].isNull()) {
+    return {};
+  }
+  const Number value = scalar(arguments[0]);
+  const bool down = high < low;
+  const Number inside = down ? low - value : value - low;
+  const Number width = down ? low - high : high - low;
+  if (inside.isNegative()) {
+    return 0;
+  }
+  return inside >= width ? count + Number(1) : (inside * count / width).floor() + Number(1);
 }
 
 }  // namespace oracle_sql::library

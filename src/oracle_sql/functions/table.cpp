@@ -33,6 +33,7 @@ constexpr Function kTable[] = {
     {"ASIN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Asin>>},
     {"ATAN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Atan>>},
     {"ATAN2", 2, 2, true, types::number, strict<library::arcTangent2>},
+    {"BIN_TO_NUM", 1, kAny, true, types::number, strict<library::binaryToNumber>},
     {"BITAND", 2, 2, true, types::number, strict<library::bitAnd>},
     {"CEIL", 1, 1, true, types::firstAsNumber, strict<library::ceiling>},
     {"CHR", 1, 1, true, types::varchar, strict<library::character>},
@@ -60,6 +61,7 @@ constexpr Function kTable[] = {
     {"LTRIM", 1, 2, true, types::varchar, strict<library::trimLeft>},
     {"MOD", 2, 2, true, types::bothWhole, strict<library::modulo>},
     {"MONTHS_BETWEEN", 2, 2, true, types::number, strict<library::monthsBetween>},
+    {"NANVL", 2, 2, true, types::number, strict<library::notANumberValue>},
     {"NEXT_DAY", 2, 2, true, types::date, strict<library::nextDay>},
     {"NULLIF", 2, 2, true, types::first, kLazy},
     {"NVL", 2, 2, true, types::nvl, kLazy},
@@ -89,6 +91,7 @@ constexpr Function kTable[] = {
     {"TRIM", 1, 3, true, types::varchar, strict<library::trim>},
     {"TRUNC", 1, 2, true, types::dateOrNumber, strict<library::truncate>},
     {"UPPER", 1, 1, true, types::sameText, strict<library::upper>},
+    {"WIDTH_BUCKET", 4, 4, true, types::number, library::widthBucket},
 };
 
 static_assert(std::ranges::is_sorted(kTable, {}, &Function::name));

@@ -83,6 +83,16 @@ void rownumPasses(sqlite3_context* context, int, Values arguments) {
   sqlite3_result_int(context, passes);
 }
 
+/// NVL with both sides computed.
+void nvlOfBoth(sqlite3_context* context, int, Values arguments) {
+  sqlite3_result_value(context, arguments[isNull(arguments[0]) ? 1 : 0]);
+}
+
+/// NVL2 with all three computed; the first is whether the value is there.
+void nvl2OfAll(sqlite3_context* context, int, Values arguments) {
+  sqlite3_result_value(context, arguments[sqlite3_value_int(arguments[0]) != 0 ? 1 : 2]);
+}
+
 }  // namespace
 
 void checkRegistration(int result, const char* name) {
@@ -102,6 +112,12 @@ void registerFunctions(sqlite3* connection, Evaluation& evaluation) {
   checkRegistration(sqlite3_create_function_v2(connection, "rownum_passes", 2, kStateful, &evaluation,
                                                rownumPasses, nullptr, nullptr, nullptr),
                     "rownum_passes");
+  checkRegistration(sqlite3_create_function_v2(connection, "nvl_of_both", 2, kPure, nullptr, nvlOfBoth,
+                                               nullptr, nullptr, nullptr),
+                    "nvl_of_both");
+  checkRegistration(sqlite3_create_function_v2(connection, "nvl2_of_all", 3, kPure, nullptr, nvl2OfAll,
+                                               nullptr, nullptr, nullptr),
+                    "nvl2_of_all");
 }
 
 void registerFunction(sqlite3* connection, const FunctionUse& use, Evaluation& evaluation) {

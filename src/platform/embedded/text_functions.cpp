@@ -46,16 +46,20 @@ std::string_view fitting(std::string_view text, std::size_t length, bool inChara
   return text.substr(0, end);
 }
 
+/// A text that is too long is cut; what another type has turned into must fit.
 void castText(sqlite3_context* context, Values arguments, bool padded) {
   if (isNull(arguments[0])) return sqlite3_result_null(context);
   try {
     const auto length = static_cast<std::size_t>(sqlite3_value_int64(arguments[1]));
     std::size_t used = 0;
-    std::string text(fitting(textOf(arguments[0]), length, sqlite3_value_int(arguments[2]) != 0, used));
+    const std::string_view whole = textOf(arguments[0]);
+    std::string text(fitting(whole, length, sqlite3_value_int(arguments[2]) != 0, used));
+    if (text.size() < whole.size() && sqlite3_value_int(arguments[3]) == 0)
+      throw values::FunctionError(25137, "Data value out of range");
     if (padded) text.append(length - used, ' ');
     giveValue(context, values::Value::text(std::move(text)));
   } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[3]));
+    giveFailure(context, evaluationOf(context), offsetOf(arguments[4]));
   }
 }
 
@@ -72,8 +76,8 @@ void registerTextFunctions(sqlite3* connection, Evaluation& evaluation) {
   };
   add("ora_like", 4, like);
   add("padded_cmp", 2, paddedCompare);
-  add("cast_varchar", 4, castVarchar);
-  add("cast_char", 4, castChar);
+  add("cast_varchar", 5, castVarchar);
+  add("cast_char", 5, castChar);
 }
 
 }  // namespace kestrelix::embedded

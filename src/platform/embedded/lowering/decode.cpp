@@ -32,7 +32,8 @@ std::string test(const Piece& value, const Piece& search) {
 }
 
 bool isNullLiteral(const sql::Expr& expr) {
-  return expr.type.kind == TypeKind::Null && expr.kind <= sql::ExprKind::String;
+  const auto* text = sql::as<sql::StringLiteral>(&expr);
+  return expr.kind == sql::ExprKind::Null || (text && text->value.empty());
 }
 
 /// Whether `expr` is `value`, or ROUND or TRUNC of it: null for a null value and for no other.

@@ -1,4 +1,5 @@
-// NVL and its like give the first value that is there, and evaluate none behind it.
+// The first value that is there. COALESCE computes none behind it; NVL and NVL2 compute all that they are
+// given, so that a division by zero or a text that is no number fails although nobody asks for its value.
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
@@ -6,6 +7,26 @@ namespace {
 
 Piece argument(Emitter& emitter, const sql::Expr& expr, sql::TypeKind kind) {
   return emitter.converted(emitter.expression(expr), kind, expr.place);
+}
+
+/// Whether computing `expr` as a value of `kind` cannot fail: a literal, a bind or a column that needs no
+/// conversion, or none but to text.
+bool cannotFail(const sql::Expr& expr, sql::TypeKind kind) {
+  const auto* negated = sql::as<sql::Negate>(&expr);
+  const sql::Expr& value =
+      negated && negated->operand->kind == sql::ExprKind::Number ? *negated->operand : expr;
+  switch (value.kind) {
+    case sql::ExprKind::Null:
+      return true;
+    case sql::ExprKind::Number:
+    case sql::ExprKind::String:
+    case sql::ExprKind::DateLiteral:
+    case sql::ExprKind::Bind:
+    case sql::ExprKind::Column:
+      return value.type.kind == kind || sql::Type{kind}.isText();
+    default:
+      return false;
+  }
 }
 
 }  // namespace
@@ -48,7 +69,9 @@ Piece lowerEither(Emitter& emitter, const sql::Call& call, const sql::Expr& firs
 }
 
 Piece lowerNvl(Emitter& emitter, const sql::Call& call) {
-  return lowerEither(emitter, call, *call.args[0], *call.args[1]);
+  Piece result = lowerEither(emitter, call, *call.args[0], *call.args[1]);
+  if (!cannotFail(*call.args[1], result.kind)) result.text.replace(0, result.text.find('('), "nvl_of_both");
+  return result;
 }
 
 Piece lowerNvl2(Emitter& emitter, const sql::Call& call) {
@@ -60,8 +83,11 @@ Piece lowerNvl2(Emitter& emitter, const sql::Call& call) {
   CommonFacts facts;
   facts.add(there);
   facts.add(missing);
-  result.text = "CASE WHEN " + bracketed(emitter.expression(*call.args[0])) + " IS NOT NULL THEN " +
-                there.text + " ELSE " + missing.text + " END";
+  const std::string isThere = bracketed(emitter.expression(*call.args[0])) + " IS NOT NULL";
+  if (cannotFail(*call.args[1], result.kind) && cannotFail(*call.args[2], result.kind))
+    result.text = "CASE WHEN " + isThere + " THEN " + there.text + " ELSE " + missing.text + " END";
+  else
+    result.text = "nvl2_of_all(" + isThere + ", " + there.text + ", " + missing.text + ")";
   result.number = facts.facts();
   return result;
 }

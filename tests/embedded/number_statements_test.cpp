@@ -1,0 +1,101 @@
+// Numbers, their conversions and their types in whole statements, as published for Oracle or worked out by
+// hand.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "embedded/test_repository.h"
+#include "platform/embedded/local_database.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+using testing::StartsWith;
+
+class NumberStatements : public testing::Test {
+ protected:
+  NumberStatements() {
+    writeRepository(folder_ / "dual.sqlite", {});
+    database_ = std::make_unique<LocalDatabase>(folder_ / "dual.sqlite");
+  }
+
+  /// The cells of the only row joined by "|", NULL as "-", or how the statement fails.
+  std::string answer(const std::string& list) {
+    try {
+      const auto result = database_->run("select " + list + " from dual");
+      std::string line;
+      for (std::size_t i = 0; i < result->columns().size(); ++i) {
+        const auto field = result->field(i);
+        line += (i ? "|" : "") + (field.isNull() ? std::string("-") : field.value());
+      }
+      return line;
+    } catch (const DatabaseError& error) {
+      return error.what();
+    }
+  }
+
+  TestFolder folder_;
+  std::unique_ptr<LocalDatabase> database_;
+};
+
+// SQL Reference: all arguments of COALESCE and NULLIF are numbers, or all have one type; the first argument
+// of NULLIF is not the literal NULL.
+TEST_F(NumberStatements, coalesceAndNullifConvertNothing) {
+  EXPECT_THAT(answer("coalesce(1, 'a')"),
+              StartsWith("ORA-00932: inconsistent datatypes: expected NUMBER got CHAR"));
+  EXPECT_THAT(answer("coalesce(null, 'a', 1)"), StartsWith("ORA-00932"));
+  EXPECT_THAT(answer("nullif(1, '1')"), StartsWith("ORA-00932"));
+  EXPECT_THAT(answer("nullif(null, 1)"), StartsWith("ORA-00932"));
+  EXPECT_EQ("-|1|a|-",
+            answer("nullif(.1 + .2, .3), nullif(1, 2), coalesce(null, 'a', 'b'), coalesce(null, null)"));
+}
+
+TEST_F(NumberStatements, numbersAndDatesNeverTurnIntoEachOther) {
+  for (const char* list :
+       {"nvl(sysdate, 1)", "nvl(1, sysdate)", "nvl2(1, 1, sysdate)", "decode(1, 1, sysdate, 1)",
+        "decode(1, 1, 1, sysdate)", "decode(sysdate, 1, 2)", "greatest(1, sysdate)", "abs(sysdate)",
+        "mod(sysdate, 2)", "power(2, sysdate)", "bitand(sysdate, 1)"})
+    EXPECT_THAT(answer(list), StartsWith("ORA-00932: inconsistent datatypes")) << list;
+  // Through text they would, so a text beside a date is read as one.
+  EXPECT_EQ("02-JAN-20", answer("to_char(nvl(to_date('2020-01-02', 'YYYY-MM-DD'), '03-JAN-20'))"));
+}
+
+// '' is NULL, but a text all the same: CASE and UNION refuse it beside a number.
+TEST_F(NumberStatements, emptyLiteralIsATextWithoutValue) {
+  EXPECT_THAT(answer("case when 1 = 1 then '' else 1 end"),
+              StartsWith("ORA-00932: inconsistent datatypes: expected CHAR got NUMBER"));
+  EXPECT_THAT(answer("'' x from dual union all select 1"), StartsWith("ORA-01790"));
+  EXPECT_EQ(".5|0.5|.5", answer("nvl('', .5), nvl(null, .5), decode(1, 2, '', .5)"));
+}
+
+// stackoverflow.com/questions/2021140: NVL and NVL2 compute every argument, COALESCE only what it needs.
+TEST_F(NumberStatements, nvlComputesWhatItDoesNotGive) {
+  EXPECT_THAT(answer("nvl(1, 1 / 0)"), StartsWith("ORA-01476: divisor is equal to zero"));
+  EXPECT_THAT(answer("nvl2(null, 1 / 0, 2)"), StartsWith("ORA-01476"));
+  EXPECT_THAT(answer("nvl(1, 'a')"), StartsWith("ORA-01722: invalid number"));
+  EXPECT_EQ("1|1|2|3",
+            answer("coalesce(1, 1 / 0), nvl(1, 4 / 2), nvl(to_number(null), 4 / 2), nvl2(null, 1 + 1, 3)"));
+  EXPECT_EQ("1|a|.5|-1",
+            answer("nvl(1, '2'), nvl('a', .5), nvl(to_char(null), .5), nvl(to_number(null), -1)"));
+}
+
+// ORA-25137, "value from cast operand is larger than cast target size": text is cut, a number is not.
+TEST_F(NumberStatements, castOfANumberToAShortTextFails) {
+  EXPECT_THAT(answer("cast(123456 as varchar2(3))"), StartsWith("ORA-25137: Data value out of range"));
+  EXPECT_THAT(answer("cast(12 as char)"), StartsWith("ORA-25137"));
+  EXPECT_EQ("abc|123|.5|5  |", answer("cast('abcdef' as varchar2(3)), cast(123 as varchar2(3)), "
+                                      "cast(1 / 2 as varchar2(2)), cast(5 as char(3)) || '|'"));
+}
+
+// The FLOAT example of the SQL Reference: five binary digits are two decimal ones.
+TEST_F(NumberStatements, floatKeepsSignificantDigits) {
+  EXPECT_EQ("1.2|7.9|13|120",
+            answer("cast(1.23 as float(5)), cast(7.89 as float(5)), cast(12.79 as float(5)), "
+                   "cast(123.45 as float(5))"));
+  EXPECT_EQ("0.33333333333333333333333333333333333333|0|-0.0013",
+            answer("cast(1 / 3 as float), cast(0 as float(5)), cast(-.00126 as float(5))"));
+  EXPECT_EQ("0.3333333333333333333|1.5", answer("cast(1 / 3 as real), cast('1.5' as double precision)"));
+  EXPECT_THAT(answer("cast(1 as float(127))"), StartsWith("ORA-00910"));
+}
+
+}  // namespace
+}  // namespace kestrelix::embedded
