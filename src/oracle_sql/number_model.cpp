@@ -184,6 +184,11 @@ std::size_t NumberModel::wholePlaces() const {
   return whole.size() - static_cast<std::size_t>(std::ranges::count_if(whole, isGroup));
 }
 
+std::size_t NumberModel::forcedPlaces() const {
+  const auto first = std::ranges::find(whole, '0');
+  return static_cast<std::size_t>(std::count_if(first, whole.end(), [](char c) { return !isGroup(c); }));
+}
+
 const NumberModel& numberModel(std::string_view text) {
   thread_local ModelCache<NumberModel> cache;
   return cache.get(text, [](std::string_view model) { return Parser(model).parse(); });

@@ -24,7 +24,8 @@ struct NumberModel {
   std::string whole = {};     // '9', '0', ',' and 'G' as they stand before the point
   std::string fraction = {};  // '9' and '0' behind it
 
-  std::size_t wholePlaces() const;  // digits before the point
+  std::size_t wholePlaces() const;   // digits before the point
+  std::size_t forcedPlaces() const;  // those of them from the first 0 on, which always stand
 };
 
 constexpr bool isGroup(char element) { return element == ',' || element == 'G'; }

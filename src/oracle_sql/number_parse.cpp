@@ -133,7 +133,8 @@ class Reader {
       digits_ += rest_;
       rest_ = {};
     }
-    if (whole > model_.wholePlaces() || fraction > model_.fraction.size()) {
+    const bool missing = model_.form == Form::Fixed && whole > 0 && whole < model_.forcedPlaces();
+    if (whole > model_.wholePlaces() || missing || fraction > model_.fraction.size()) {
       raiseInvalidNumber();
     }
   }
@@ -151,7 +152,9 @@ Number parseNumber(std::string_view text, std::string_view model, const NumberSy
   while (!text.empty() && text.front() == ' ') {
     text.remove_prefix(1);
   }
-  while (!text.empty() && text.back() == ' ') {
+  // A blank behind is the plus of MI and PR, and no part of a number elsewhere.
+  const bool blankBehind = m.sign == Sign::TrailingMinus || m.sign == Sign::Brackets;
+  while (blankBehind && !text.empty() && text.back() == ' ') {
     text.remove_suffix(1);
   }
   switch (m.form) {

@@ -199,9 +199,20 @@ TEST(NumberParse, textThatDoesNotFitTheModelIsNoNumber) {
   }
 }
 
+// Notes taken at a server (a tour of the conversion functions by almazer-dev): a 0 of the model wants its
+// digit, a blank behind stands for the plus of MI and is no part of a number elsewhere.
+TEST(NumberParse, noughtsOfTheModelAndBlanksBehindCount) {
+  EXPECT_EQ("7.3", parseNumber("007.3", "009.9").toPlainText());
+  EXPECT_EQ(1722, errorOf([] { parseNumber("07.3", "009.9"); }));
+  EXPECT_EQ("1", parseNumber("1 ", "9MI").toPlainText());
+  EXPECT_EQ(1722, errorOf([] { parseNumber("1 ", "9"); }));
+  EXPECT_EQ("5", parseNumber("5", "S9").toPlainText());
+  EXPECT_EQ("1", parseNumber("1", "99PR").toPlainText());
+}
+
 TEST(NumberParse, textIsReadAsTheModelWritesIt) {
   const std::vector<Case> cases = {{"1234.5", "9,999.9", "1,234.5"},
-                                   {"-12.3", "99.9", " -12.3 "},
+                                   {"-12.3", "99.9", " -12.3"},
                                    {"-5", "9MI", "5-"},
                                    {"-5", "9PR", "<5>"},
                                    {"5", "S9", "+5"},
