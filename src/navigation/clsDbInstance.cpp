@@ -3,13 +3,13 @@
 #include "platform/guarded.h"
 
 namespace kestrelix {
-namespace {
 
-const std::string kStatement =
-    "SELECT DISTINCT di.DBID, di.DB_NAME, di.VERSION, di.INSTANCE_NUMBER, di.INSTANCE_NAME, di.HOST_NAME, "
-    "di.PARALLEL from stats$database_instance di order by di.DBID, di.INSTANCE_NUMBER ";
-
-}  // namespace
+const std::string& clsDbInstance::statement() {
+  static const std::string text =
+      "SELECT DISTINCT di.DBID, di.DB_NAME, di.VERSION, di.INSTANCE_NUMBER, di.INSTANCE_NAME, di.HOST_NAME, "
+      "di.PARALLEL from stats$database_instance di order by di.DBID, di.INSTANCE_NUMBER ";
+  return text;
+}
 
 void clsDbInstance::Initialize(Database& database, MessageBoxes& boxes) {
   database_ = &database;
@@ -19,7 +19,7 @@ void clsDbInstance::Initialize(Database& database, MessageBoxes& boxes) {
 
 bool clsDbInstance::getDB_INSTANCE() {
   return guarded(*boxes_, "clsDbInstance", "getDB_INSTANCE", [this] {
-    const auto dynaset = database_->DbCreateDynaset(kStatement, kDynasetOptions);
+    const auto dynaset = database_->DbCreateDynaset(statement(), kDynasetOptions);
     for (; !dynaset->Eof(); dynaset->MoveNext())
       rows_.push_back({dynaset->Fields("DBID").value(), dynaset->Fields("DB_NAME").value(),
                        dynaset->Fields("VERSION").value(), dynaset->Fields("INSTANCE_NUMBER").value(),

@@ -14,6 +14,8 @@ class clsDbInstance {
   void Initialize(Database& database, MessageBoxes& boxes);
   /// Fills the store. On a failure shows its box and gives false.
   bool getDB_INSTANCE();
+  /// What getDB_INSTANCE sends.
+  static const std::string& statement();
 
   long rownum() const { return static_cast<long>(rows_.size()); }
   const std::string& dbid(int i) const { return row(i).dbid; }

@@ -7,17 +7,20 @@ namespace {
 
 constexpr const char* kClass = "clsSnapId";
 
-std::string statement(const std::string& range) {
+std::string snapshots(const std::string& range) {
   return "select st.DBID, st.INSTANCE_NUMBER, TO_CHAR(st.SNAP_TIME,'YYYY-MM-DD HH24:MI:SS') AS SNAP_TIME, "
          "st.SNAP_ID, st.SNAP_LEVEL, TO_CHAR(st.STARTUP_TIME,'YYYY-MM-DD HH24:MI:SS') AS STARTUP_TIME "
          "from stats$snapshot st where st.DBID = :B1 and   st.INSTANCE_NUMBER = :B2 " +
          range + "order by st.DBID,st.INSTANCE_NUMBER,st.SNAP_ID ";
 }
 
-const std::string kWhole = statement("");
-const std::string kRange = statement(" and   st.SNAP_ID >= :B3 and   st.SNAP_ID <= :B4 ");
-
 }  // namespace
+
+const std::string& clsSnapId::statement(bool useRange) {
+  static const std::string whole = snapshots("");
+  static const std::string range = snapshots(" and   st.SNAP_ID >= :B3 and   st.SNAP_ID <= :B4 ");
+  return useRange ? range : whole;
+}
 
 void clsSnapId::Initialize(Database& database, MessageBoxes& boxes) {
   database_ = &database;
@@ -51,7 +54,7 @@ bool clsSnapId::unsetBAIND_VALUE() {
 
 bool clsSnapId::getSNAP_ID(bool useRange) {
   return guarded(*boxes_, kClass, "getSNAP_ID", [&] {
-    const auto dynaset = database_->DbCreateDynaset(useRange ? kRange : kWhole, kDynasetOptions);
+    const auto dynaset = database_->DbCreateDynaset(statement(useRange), kDynasetOptions);
     for (; !dynaset->Eof(); dynaset->MoveNext())
       snapshots_.push_back({dynaset->Fields("DBID").value(), dynaset->Fields("INSTANCE_NUMBER").value(),
                             dynaset->Fields("SNAP_ID").value(), dynaset->Fields("SNAP_TIME").value(),

@@ -37,6 +37,8 @@ class clsSnapId {
   bool unsetBAIND_VALUE();
   /// Reads the snapshots (those between the two ids if `useRange`) and forms the pairs.
   bool getSTART_END_SNAP_ID(bool useRange);
+  /// What getSNAP_ID sends for that.
+  static const std::string& statement(bool useRange);
 
   long rownum() const { return static_cast<long>(pairs_.size()); }
   const std::string& REPORT_STATUS(int i) const { return pair(i).status; }

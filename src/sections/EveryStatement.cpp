@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "navigation/clsDbInstance.h"
+#include "navigation/clsSnapId.h"
 #include "sections/SectionList.h"
 #include "sections/sql/clsSQLPlan.h"
 #include "sections/sql/clsSQLText.h"
@@ -38,6 +40,14 @@ void append(std::vector<SentStatement>& sent, const SectionObject& object, Versi
                       statement.versions & listed, statement.text, object.binds()});
 }
 
+/// The lists that a report starts from. The ids of a range are bound as texts.
+std::vector<SentStatement> ofTheLists() {
+  const std::vector<Bind> ids{argument("B3", ServerType::String), argument("B4", ServerType::String)};
+  return {{"clsDbInstance", "getDB_INSTANCE", "list", kAllVersions, clsDbInstance::statement(), {}},
+          {"clsSnapId", "getSNAP_ID", "list", kAllVersions, clsSnapId::statement(false), ids},
+          {"clsSnapId", "getSNAP_ID", "list", kAllVersions, clsSnapId::statement(true), ids}};
+}
+
 }  // namespace
 
 std::vector<SentStatement> everyStatement() {
@@ -60,7 +70,7 @@ std::vector<SentStatement> everyStatement() {
   // The panels behind the SQL rankings are no Sections of their own.
   classes.push_back({make<clsSQLText>(), kAllVersions});
   classes.push_back({make<clsSQLPlan>(), kAllVersions});
-  std::vector<SentStatement> sent;
+  std::vector<SentStatement> sent = ofTheLists();
   for (const Class& known : classes) append(sent, *known.object, known.listed);
   return sent;
 }
