@@ -24,9 +24,10 @@ class FormMain {
 
   /// Shift states and key codes as the window system gives them: 2 is Ctrl alone.
   static constexpr int kCtrlAlone = 2;
-  /// A key that the window sees ahead of its controls; true if it has acted.
+  /// A key that the window sees ahead of its controls; true for a key of the window's, which they then don't
+  /// see, also if its button is off.
   bool KeyDown(int keyCode, int shift);
-  /// A key on one of the grids; true if it has acted.
+  /// A key on one of the grids; true if it has copied.
   bool GridKeyDown(const Grid& grid, int keyCode, int shift);
 
   void m_CWheel_MouseWheel(int direction);
