@@ -294,6 +294,15 @@ TEST(WholeCatalogue, hasAShapeForEachListedSection) {
         << version;
 }
 
+TEST(WholeCatalogue, listsTheSectionsInTheOrderOfTheirShapes) {
+  std::vector<std::string_view> ordered;
+  for (const Shape& shape : shapes())
+    if (ordered.empty() || ordered.back() != shape.section) ordered.push_back(shape.section);
+  std::vector<std::string_view> listed;
+  for (const SectionEntry& entry : sectionList()) listed.push_back(entry.text);
+  EXPECT_EQ(listed, ordered);
+}
+
 TEST(WholeCatalogue, hasARowOfEachSectionInSomeOrdinaryPairOfEachVersion) {
   std::set<std::pair<Versions, std::string>> shown;
   std::set<std::pair<Versions, std::string>> empty;
