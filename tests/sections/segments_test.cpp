@@ -180,35 +180,94 @@ TEST(Segments, twoThatDifferByTablespaceAloneShareOneSeries) {
   EXPECT_EQ(report.grid().Rows(), 4);
 }
 
-TEST(Segments, eachRankingGoesByItsOwnStatisticAndOrder) {
-  InstanceRepository repository("9");
-  object(repository, "1", "A", "T", "LOCKED", "", "TABLE");
-  object(repository, "2", "A", "T", "READ", "", "INDEX");
-  figures(repository, "2", "1", "10", "5", "30");
-  figures(repository, "2", "2", "20", "15", "0");
+const std::initializer_list<std::string_view> kPlain = {"snap_id",
+                                                        "dataobj#",
+                                                        "obj#",
+                                                        "ts#",
+                                                        "logical_reads",
+                                                        "db_block_changes",
+                                                        "physical_reads",
+                                                        "physical_writes",
+                                                        "direct_physical_reads",
+                                                        "direct_physical_writes",
+                                                        "buffer_busy_waits",
+                                                        "row_lock_waits",
+                                                        "itl_waits"};
+
+TEST(Segments, aSegmentMadeAnewUnderItsNumberCountsFromZero) {
+  InstanceRepository repository("10");
+  repository.rows(
+      "stats$seg_stat_obj",
+      {"dataobj#", "obj#", "ts#", "owner", "tablespace_name", "object_name", "object_type"},
+      {{"80", "1", "4", "APP", "USERS", "T1", "TABLE"}, {"81", "1", "4", "APP", "USERS", "T1", "TABLE"}});
+  repository.rows("stats$seg_stat", kPlain,
+                  {{"1", "80", "1", "4", "1000", "0", "0", "0", "0", "0", "0", "0", "0"},
+                   {"2", "81", "1", "4", "40", "0", "0", "0", "0", "0", "0", "0", "0"}});
   OpenReport report(repository);
-  EXPECT_EQ(report.all("Segments by Row Lock Waits", 0),
-            "NO|OWNER|TABLESPACE|OBJECT NAME|SUB OBJECT NAME|OBJECT TYPE|ROW LOCK WAITS|PCT TOTAL|LOGICAL "
-            "READS|DB BLOCK "
-            "CHANGES|PHYSICAL READS|PHYSICAL WRITES|DIRECT READS|DIRECT WRITES|BUFFER BUSY_WAITS|ITL WAITS\n"
-            "1|A|T|LOCKED| |TABLE|30|100|10|0|5|0|0|0|0|0\n");
-  EXPECT_EQ(report.all("Segments by Physical Reads", 0),
-            "NO|OWNER|TABLESPACE|OBJECT NAME|SUB OBJECT NAME|OBJECT TYPE|PHYSICAL READS|PCT TOTAL|PHYSICAL "
-            "WRITES|LOGICAL "
-            "READS|DB BLOCK CHANGES|DIRECT READS|DIRECT WRITES|BUFFER BUSY_WAITS|ROW LOCK WAITS|ITL WAITS\n"
-            "1|A|T|READ| |INDEX|15|75|0|20|0|0|0|0|0|0\n"
-            "2|A|T|LOCKED| |TABLE|5|25|0|10|0|0|0|0|30|0\n");
-  EXPECT_EQ(
-      report.all("Segments by ITL Waits", 0),
-      "NO|OWNER|TABLESPACE|OBJECT NAME|SUB OBJECT NAME|OBJECT TYPE|ITL WAITS|PCT TOTAL|LOGICAL READS|DB "
-      "BLOCK "
-      "CHANGES|PHYSICAL READS|PHYSICAL WRITES|DIRECT READS|DIRECT WRITES|BUFFER BUSY_WAITS|ROW LOCK WAITS\n");
-  EXPECT_EQ(
-      report.all("Segments by Buffer Busy Waits", 0),
-      "NO|OWNER|TABLESPACE|OBJECT NAME|SUB OBJECT NAME|OBJECT TYPE|BUFFER BUSY_WAITS|PCT TOTAL|LOGICAL "
-      "READS|DB "
-      "BLOCK CHANGES|PHYSICAL READS|PHYSICAL WRITES|DIRECT READS|DIRECT WRITES|ROW LOCK WAITS|ITL WAITS\n");
+  EXPECT_EQ(report.all("Segments by Logical Reads", 0),
+            kLogicalHeadings + "1|APP|USERS|T1| |TABLE|40|100|0|0|0|0|0|0|0|0\n");
 }
+
+struct Ranking {
+  const char* section;
+  const char* headings;
+  const char* busy;  ///< the cells of the segment that is first in all of them
+  const char* read;  ///< those of the other one; null where it has none of the ranked statistic
+};
+void PrintTo(const Ranking& ranking, std::ostream* out) { *out << ranking.section; }
+
+class RankedSegments : public testing::TestWithParam<Ranking> {};
+
+TEST_P(RankedSegments, goByTheirOwnStatisticAndShowEachFigureUnderItsHeading) {
+  InstanceRepository repository("9");
+  object(repository, "1", "A", "T", "BUSY", "", "TABLE");
+  object(repository, "2", "A", "T", "READ", "", "INDEX");
+  repository.rows("stats$seg_stat", kPlain,
+                  {{"2", "1", "1", "4", "9", "8", "7", "6", "5", "4", "3", "2", "1"},
+                   {"2", "2", "2", "4", "1", "0", "1", "0", "0", "0", "2", "1", "0"}});
+  OpenReport report(repository);
+  const Ranking& ranking = GetParam();
+  const std::string names = "NO|OWNER|TABLESPACE|OBJECT NAME|SUB OBJECT NAME|OBJECT TYPE|";
+  const std::string headings = ranking.headings;
+  const std::string busy = ranking.busy;
+  std::string all = names + headings + "\n1|A|T|BUSY| |TABLE|" + busy + "\n";
+  if (ranking.read != nullptr) all += std::string("2|A|T|READ| |INDEX|") + ranking.read + "\n";
+  EXPECT_EQ(report.all(ranking.section, 0), all);
+  EXPECT_EQ(report.col(1), names + "END TIME|" + headings +
+                               "|STATUS\n1|A|T|BUSY| |TABLE|2026-01-05 11:00:00|" + busy +
+                               "|OK\n2||||||2026-01-05 12:00:00|||||||||||DB RESTART\n"
+                               "3||||||2026-01-05 13:30:00|||||||||||OK\n");
+}
+
+// 9 of 10 logical reads are 90 %, 7 of 8 physical ones 87.5 %, 2 of 3 waits for row locks 66.7 %, 3 of 5 for
+// busy buffers 60 %; the busy one alone waited for a transaction slot.
+INSTANTIATE_TEST_SUITE_P(
+    Plain, RankedSegments,
+    testing::Values(Ranking{"Segments by Logical Reads",
+                            "LOGICAL READS|PCT TOTAL|DB BLOCK CHANGES|PHYSICAL READS|PHYSICAL WRITES|DIRECT "
+                            "READS|DIRECT WRITES|BUFFER BUSY_WAITS|ROW LOCK WAITS|ITL WAITS",
+                            "9|90|8|7|6|5|4|3|2|1", "1|10|0|1|0|0|0|2|1|0"},
+                    Ranking{"Segments by Physical Reads",
+                            "PHYSICAL READS|PCT TOTAL|PHYSICAL WRITES|LOGICAL READS|DB BLOCK CHANGES|DIRECT "
+                            "READS|DIRECT WRITES|BUFFER BUSY_WAITS|ROW LOCK WAITS|ITL WAITS",
+                            "7|87.5|6|9|8|5|4|3|2|1", "1|12.5|0|1|0|0|0|2|1|0"},
+                    Ranking{"Segments by Row Lock Waits",
+                            "ROW LOCK WAITS|PCT TOTAL|LOGICAL READS|DB BLOCK CHANGES|PHYSICAL READS|PHYSICAL "
+                            "WRITES|DIRECT READS|DIRECT WRITES|BUFFER BUSY_WAITS|ITL WAITS",
+                            "2|66.7|9|8|7|6|5|4|3|1", "1|33.3|1|0|1|0|0|0|2|0"},
+                    Ranking{"Segments by ITL Waits",
+                            "ITL WAITS|PCT TOTAL|LOGICAL READS|DB BLOCK CHANGES|PHYSICAL READS|PHYSICAL "
+                            "WRITES|DIRECT READS|DIRECT WRITES|BUFFER BUSY_WAITS|ROW LOCK WAITS",
+                            "1|100|9|8|7|6|5|4|3|2", nullptr},
+                    Ranking{"Segments by Buffer Busy Waits",
+                            "BUFFER BUSY_WAITS|PCT TOTAL|LOGICAL READS|DB BLOCK CHANGES|PHYSICAL "
+                            "READS|PHYSICAL WRITES|DIRECT READS|DIRECT WRITES|ROW LOCK WAITS|ITL WAITS",
+                            "3|60|9|8|7|6|5|4|2|1", "2|40|1|0|1|0|0|0|1|0"}),
+    [](const auto& tested) {
+      std::string name = tested.param.section;
+      std::erase(name, ' ');
+      return name;
+    });
 
 const std::initializer_list<std::string_view> kCluster = {"snap_id",
                                                           "dataobj#",

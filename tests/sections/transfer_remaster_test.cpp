@@ -155,6 +155,32 @@ TEST(DynamicRemasteringStats, timesAreInSecondsAndAffinityIsALevelAtEachEnd) {
   EXPECT_EQ(report.all("Dynamic Remastering Stats", 1), "NO|NAME|VALUE\n");
 }
 
+TEST(DynamicRemasteringStats, aSeriesHasTheLabelOfTheSameRowOfTheBlocksServedAndItsOwnFigure) {
+  ClusterRepository repository;
+  repository.rows(
+      "stats$dynamic_remaster_stats", kRemaster,
+      {{"1", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0", "5"},
+       {"2", "1", "200", "3", "400", "600", "800", "1000", "1200", "1400", "13", "9", "11", "7"}});
+  ReportFixture report(repository.write());
+  report.open(0);
+  // Each figure is the row's number: times are hundredths of a second.
+  const char* const labels[] = {"CR Block Requests",      "CURRENT Block Requests",
+                                "Data Block Requests",    "Undo Block Requests",
+                                "TX Block Requests",      "Current Results",
+                                "Private results",        "Zero Results",
+                                "Disk Read Results",      "Fail Results",
+                                "Fairness Down Converts", "Fairness Clears",
+                                "Free GC Elements",       "Flushes"};
+  for (int row = 1; row <= 14; ++row) {
+    report.all("Dynamic Remastering Stats", 0);
+    const std::string label = labels[row - 1];
+    EXPECT_EQ(report.col(row), "NO|NAME|END TIME|VALUE|STATUS\n1|" + label + "|2026-01-05 11:00:00|" +
+                                   std::to_string(row) + "|OK\n2|" + label +
+                                   "|2026-01-05 12:00:00||DB RESTART\n");
+  }
+  EXPECT_THAT(report.boxes(), IsEmpty());
+}
+
 TEST(DynamicRemasteringStats, withoutAnOperationAllRowsAreBlank) {
   ClusterRepository repository;
   repository.rows("stats$dynamic_remaster_stats", kRemaster,
