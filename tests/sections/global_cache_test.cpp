@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "report/GridRendering.h"
 #include "sections/cluster/clsGlobalCacheEfficiency.h"
 #include "sections/cluster_support.h"
 
@@ -77,6 +78,25 @@ TEST(GlobalCacheLoadProfile, aPairWithoutTransactionsFailsInItsGetterAndTheGridS
   const std::string before = report.all("RAC Statistics", 0);
   EXPECT_EQ(report.all("Global Cache Load Profile", 0), before);
   EXPECT_THAT(report.boxes(), ElementsAre("[Critical] (clsGlobalCacheLoadProfile){getGCBR_TRAN} Error"));
+}
+
+TEST(GlobalCacheLoadProfile, theSeriesOfARowFailsInTheRowsOwnRateAndTheTrafficHasNone) {
+  ClusterRepository repository;
+  globalCacheStatistics(repository.sysstat("user commits", "5", "5").sysstat("user rollbacks", "0", "0"));
+  ReportFixture report(repository.write());
+  report.open(0);
+  gridSetUp(report.grid(), 4, 6);
+  report.all("Global Cache Load Profile", 0);
+  for (int row = 1; row <= 5; ++row) report.col(row);
+  EXPECT_THAT(report.boxes(), ElementsAre("[Critical] (clsGlobalCacheLoadProfile){getGCBR_TRAN} Error",
+                                          "[Critical] (clsGlobalCacheLoadProfile){getGCBR_TRAN} Error",
+                                          "[Critical] (clsGlobalCacheLoadProfile){getGCBS_TRAN} Error",
+                                          "[Critical] (clsGlobalCacheLoadProfile){getGGMR_TRAN} Error",
+                                          "[Critical] (clsGlobalCacheLoadProfile){getGGMS_TRAN} Error",
+                                          "[Critical] (clsGlobalCacheLoadProfile){getDFW_TRAN} Error"));
+  report.col(6);
+  EXPECT_EQ(report.grid().TextMatrix(1, 3), "13.23");
+  EXPECT_EQ(report.boxes().size(), 6u);
 }
 
 TEST(GlobalCacheLoadProfile, aMissingStatisticFailsInItsGetter) {
