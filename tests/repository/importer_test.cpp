@@ -83,6 +83,28 @@ TEST_F(ImporterTest, aBadValueIsToldWithFileLineColumnAndText) {
       "/STATS$SNAPSHOT.CSV, line 2, column SNAP_TIME: not a date as YYYY-MM-DD HH24:MI:SS: '05-JAN-26'");
 }
 
+TEST_F(ImporterTest, aFileThatIsCutWhileItIsReadIsRefused) {
+  const std::string head = "NAME,VALUE\n";
+  std::string text = head;
+  for (int i = 0; i < 50000; ++i) text += "abcdefg,12\n";
+  put("stats$sysstat.csv", text);
+  // A file that is cut between two lines looks whole from its end.
+  const auto cut = head.size() + 40000 * 11;
+  try {
+    importFolder(folder_ / "csv", path_, {}, [&](std::int64_t, std::int64_t) {
+      std::filesystem::resize_file(folder_ / "csv" / "stats$sysstat.csv", cut);
+    });
+    FAIL();
+  } catch (const ImportError& error) {
+    const std::string said = error.what();
+    EXPECT_NE(
+        said.find("stats$sysstat.csv: was changed while it was read: 440011 bytes where there were 550011"),
+        std::string::npos)
+        << said;
+  }
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_), {}), 1);
+}
+
 TEST_F(ImporterTest, longBadValuesAreCutAtACharacter) {
   std::string value = "x";
   for (int i = 0; i < 40; ++i) value += "\xe3\x81\x82";

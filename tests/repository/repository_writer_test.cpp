@@ -62,6 +62,45 @@ TEST_F(RepositoryWriterTest, anEarlierFileStaysUntilTheNewOneIsWhole) {
   EXPECT_EQ(filesInFolder(), 1);
 }
 
+TEST_F(RepositoryWriterTest, aFileThatCameMeanwhileIsKeptOnRequest) {
+  RepositoryWriter writer(path_, {}, "a test", Existing::Keep);
+  std::ofstream(path_) << "other";
+  try {
+    writer.finish();
+    FAIL();
+  } catch (const RepositoryError& error) {
+    EXPECT_EQ(error.what(), path_.string() + ": is there already");
+  }
+  EXPECT_EQ(std::filesystem::file_size(path_), 5u);
+}
+
+TEST_F(RepositoryWriterTest, whoWatchesTheFinishCanStopIt) {
+  struct Stop {};
+  {
+    RepositoryWriter writer(path_, {}, "a test");
+    TableWriter& table = writer.addTable("t", {{"dbid"}});
+    for (int i = 0; i < 100000; ++i) table.insert(std::array<Cell, 1>{i});
+    int calls = 0;
+    EXPECT_THROW(writer.finish([&] {
+      if (++calls == 5) throw Stop();
+    }),
+                 Stop);
+    EXPECT_EQ(calls, 5) << "not only once it is done";
+    EXPECT_FALSE(std::filesystem::exists(path_));
+  }
+  EXPECT_EQ(filesInFolder(), 0);
+}
+
+TEST_F(RepositoryWriterTest, aFailureNamesTheFileAndTheTable) {
+  RepositoryWriter writer(path_, {}, "a test");
+  try {
+    writer.addTable("t", {{"a"}, {"a"}});
+    FAIL();
+  } catch (const RepositoryError& error) {
+    EXPECT_EQ(error.what(), path_.string() + ": cannot be written: table t: duplicate column name: a");
+  }
+}
+
 TEST_F(RepositoryWriterTest, aTableTwiceAndARowTooLongFail) {
   RepositoryWriter writer(path_, {}, "a test");
   TableWriter& table = writer.addTable("T", {{"a"}});

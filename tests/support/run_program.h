@@ -15,13 +15,13 @@ struct Outcome {
   std::string errors;
 };
 
-/// Runs `program` of this build with a line of arguments, as a shell reads them. Its errors pass through a
-/// file beside `scratch`.
+/// Runs `program` of this build with a line of arguments, as a shell reads them, after what the shell is to do
+/// `before`. Its errors pass through a file beside `scratch`.
 inline Outcome runProgram(const std::string& program, const std::string& arguments,
-                          const std::filesystem::path& scratch) {
+                          const std::filesystem::path& scratch, const std::string& before = {}) {
   const std::string errors = scratch.string() + ".errors";
   const std::string command =
-      std::string(KESTRELIX_BIN_DIR) + "/" + program + " " + arguments + " 2>" + errors;
+      before + " " + KESTRELIX_BIN_DIR + "/" + program + " " + arguments + " 2>" + errors;
   const auto readAll = [](FILE* file, std::string& into) {
     char buffer[4096];
     for (std::size_t got; (got = std::fread(buffer, 1, sizeof buffer, file)) > 0;) into.append(buffer, got);

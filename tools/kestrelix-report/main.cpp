@@ -1,3 +1,4 @@
+#include <csignal>
 #include <iostream>
 
 #include "commands.h"
@@ -6,6 +7,8 @@
 namespace tool = kestrelix::report_tool;
 
 int main(int count, char** values) {
+  // Output to a file that may grow no further fails like that to a full disk.
+  std::signal(SIGXFSZ, SIG_IGN);
   tool::StderrBoxes boxes;
   try {
     const tool::Options options = tool::parseOptions({values + 1, values + count});

@@ -70,10 +70,8 @@ int demoCommand(std::span<const std::string> arguments) {
     }
   }
   if (file.empty()) return wrongUsage("which file is to be made?");
-  if (!force && std::filesystem::exists(file)) {
-    std::cerr << file << ": is there already; --force replaces it\n";
-    return kExitFailed;
-  }
+  if (!force && refuseToReplace(file)) return kExitFailed;
+  options.existing = force ? embedded::Existing::Replace : embedded::Existing::Keep;
   ProgressBar bar("snapshots");
   watchInterrupts();
   embedded::demo::makeDemo(file, options, [&](std::int64_t done, std::int64_t all) {

@@ -68,10 +68,8 @@ int importCommand(std::span<const std::string> arguments) {
     if (options.account.password.ends_with('\r')) options.account.password.pop_back();
     if (options.account.password.empty()) return wrongUsage("no password on the standard input");
   }
-  if (!force && std::filesystem::exists(plain[1])) {
-    std::cerr << plain[1] << ": is there already; --force replaces it\n";
-    return kExitFailed;
-  }
+  if (!force && refuseToReplace(plain[1])) return kExitFailed;
+  options.existing = force ? embedded::Existing::Replace : embedded::Existing::Keep;
   watchInterrupts();
   std::int64_t rows = 0;
   std::vector<embedded::ImportedTable> tables;
@@ -82,7 +80,11 @@ int importCommand(std::span<const std::string> arguments) {
       bar.show(done, all);
     });
   }
-  for (const auto& table : tables) rows += table.rows;
+  for (const auto& table : tables) {
+    rows += table.rows;
+    if (table.endsInLine)
+      std::cerr << table.name << ": the last line of its file has no end; is the file whole?\n";
+  }
   std::cout << plain[1] << ": " << tables.size() << " tables, " << rows << " rows\n";
   return kExitDone;
 }

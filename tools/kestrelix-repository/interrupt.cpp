@@ -8,7 +8,13 @@ namespace {
 
 volatile std::sig_atomic_t came = 0;
 
-void note(int) { came = 1; }
+void note(int signal) {
+  if (came != 0) {
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+  }
+  came = 1;
+}
 
 }  // namespace
 

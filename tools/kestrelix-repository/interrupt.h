@@ -11,7 +11,8 @@ class Interrupted : public std::runtime_error {
   Interrupted() : std::runtime_error("interrupted; nothing was made") {}
 };
 
-/// From here on SIGINT, SIGTERM and SIGHUP are noted and no longer end the program at once.
+/// From here on SIGINT, SIGTERM and SIGHUP are noted and no longer end the program at once; a second one
+/// does, for a server that does not answer.
 void watchInterrupts();
 /// Throws Interrupted if one came.
 void checkInterrupts();

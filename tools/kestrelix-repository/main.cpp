@@ -1,4 +1,5 @@
 // kestrelix-repository: makes local repositories and asks them questions.
+#include <csignal>
 #include <exception>
 #include <iostream>
 #include <string>
@@ -38,6 +39,8 @@ int printed(int status) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // A file that grows beyond what the user may write is an error like a full disk, and no end without a word.
+  std::signal(SIGXFSZ, SIG_IGN);
   const std::vector<std::string> words(argv + 1, argv + argc);
   if (!words.empty() && (words[0] == "--help" || words[0] == "-h")) {
     printUsage(std::cout);

@@ -139,6 +139,12 @@ class OdbcDatabase::Connection {
 
   void count(const RowStream& rows) { executions_ += rows.fetches(); }
   long roundTrips() const { return executions_; }
+  bool isLost() const {
+    SQLUINTEGER dead = SQL_CD_FALSE;
+    return SQL_SUCCEEDED(
+               SQLGetConnectAttr(handle_, SQL_ATTR_CONNECTION_DEAD, &dead, SQL_IS_UINTEGER, nullptr)) &&
+           dead == SQL_CD_TRUE;
+  }
 
  private:
   struct Prepared {
@@ -188,6 +194,8 @@ std::unique_ptr<Dynaset> OdbcDatabase::DbCreateDynaset(const std::string& sql, l
   return fetched;
 }
 
+bool OdbcDatabase::isLost() const { return connection_->isLost(); }
+
 long OdbcDatabase::roundTrips() const { return connection_->roundTrips(); }
 
 std::unique_ptr<OdbcDatabase> openOdbc(const std::string& name, const std::string& connect) {
@@ -197,7 +205,8 @@ std::unique_ptr<OdbcDatabase> openOdbc(const std::string& name, const std::strin
   if (const auto driver = oracleDriver(); driver && !name.empty())
     return std::make_unique<OdbcDatabase>(oracleDriverText(*driver, name, credentials));
   throw DatabaseError(
-      "IM002", 12154, "there is no ODBC data source '" + name + "', and no ODBC driver for Oracle is installed");
+      "IM002", 12154,
+      "there is no ODBC data source '" + name + "', and no ODBC driver for Oracle is installed");
 }
 
 std::unique_ptr<Database> OdbcSession::OpenDatabase(const std::string& name, const std::string& connect,

@@ -25,6 +25,8 @@ class OdbcDatabase final : public Database {
     RowStream::Row row;
     while (rows->next(row)) take(rows->columns(), row);
   }
+  /// Whether the driver knows that the connection has broken.
+  bool isLost() const;
   /// Requests that have gone to the server: preparations, executions and fetches.
   long roundTrips() const;
 
@@ -46,7 +48,8 @@ class OdbcSession final : public Session {
 
 /// The same, for whoever needs more than the interface.
 std::unique_ptr<OdbcDatabase> openOdbc(const std::string& name, const std::string& connect);
-/// What the name leads to, in words: "the ODBC data source PROD", "the ODBC driver Oracle 19"; empty if to nothing.
+/// What the name leads to, in words: "the ODBC data source PROD", "the ODBC driver Oracle 19"; empty if to
+/// nothing.
 std::string leadsTo(const std::string& name);
 
 }  // namespace kestrelix::odbc

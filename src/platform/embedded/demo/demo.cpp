@@ -66,7 +66,7 @@ void makeDemo(const std::filesystem::path& path, const DemoOptions& options,
     throw std::invalid_argument("a demo has from 2 to " + std::to_string(kLargest) +
                                 " snapshots an instance");
   Random random(options.seed);
-  RepositoryWriter writer(path, accountOf(random.next()), "kestrelix-repository demo");
+  RepositoryWriter writer(path, accountOf(random.next()), "kestrelix-repository demo", options.existing);
   Tables tables(writer);
 
   std::int64_t all = 0;
@@ -87,7 +87,9 @@ void makeDemo(const std::filesystem::path& path, const DemoOptions& options,
     }
     firstId += room;
   }
-  writer.finish();
+  writer.finish([&] {
+    if (progress) progress(all, all);
+  });
 }
 
 }  // namespace kestrelix::embedded::demo

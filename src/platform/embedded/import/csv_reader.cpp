@@ -59,6 +59,7 @@ int CsvReader::take() {
   if (c == kEnd) return kEnd;
   ++at_;
   ++bytes_;
+  last_ = c;
   if (c == '\n') ++line_;
   return c;
 }

@@ -40,6 +40,8 @@ class CsvReader {
   /// The fields of the record, at least one.
   const std::vector<CsvField>& record() const { return record_; }
   std::int64_t bytesRead() const { return bytes_; }
+  /// Whether what was read so far ends with its last line's end, which a file that was cut seldom does.
+  bool atLineEnd() const { return last_ == '\n'; }
 
  private:
   int take();
@@ -53,6 +55,7 @@ class CsvReader {
   std::size_t at_ = 0;
   std::size_t end_ = 0;
   std::int64_t bytes_ = 0;
+  int last_ = '\n';
   std::int64_t line_ = 1;
   std::size_t count_ = 0;  // fields of the record being read
   std::vector<CsvField> record_;

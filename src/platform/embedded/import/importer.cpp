@@ -100,6 +100,7 @@ class TableFile {
 
   const std::vector<std::string>& names() const { return names_; }
   std::int64_t bytesRead() const { return reader_->bytesRead(); }
+  bool atLineEnd() const { return reader_->atLineEnd(); }
 
   /// The next row, of as many fields as there are names; null behind the last one.
   const std::vector<CsvField>* next() {
@@ -111,6 +112,14 @@ class TableFile {
       throw ImportError(placeOf(record.front().line) + ": " + std::to_string(record.size()) +
                         " fields under " + std::to_string(names_.size()) + " column names");
     return &record;
+  }
+
+  /// Fails when the bytes read are not those that the file had at first.
+  void checkRead() const {
+    if (bytesRead() != source_.bytes)
+      throw ImportError(source_.path.string() +
+                        ": was changed while it was read: " + std::to_string(bytesRead()) +
+                        " bytes where there were " + std::to_string(source_.bytes));
   }
 
   [[noreturn]] void refuse(std::size_t field, const std::string& why) const {
@@ -236,7 +245,7 @@ std::vector<ImportedTable> importFolder(const std::filesystem::path& folder,
     all += source.bytes;
     tellsBackground = tellsBackground || source.table == kBackgroundEvents;
   }
-  RepositoryWriter writer(path, options.account, "kestrelix-repository import");
+  RepositoryWriter writer(path, options.account, "kestrelix-repository import", options.existing);
   std::vector<ImportedTable> imported;
   std::int64_t before = 0;
   for (const Source& source : sources) {
@@ -248,7 +257,7 @@ std::vector<ImportedTable> importFolder(const std::filesystem::path& folder,
     TableWriter& table = writer.addTable(source.table, columns);
     std::optional<BackgroundEvents> background;
     if (source.table == kEvents && !tellsBackground) background.emplace(writer, columns);
-    ImportedTable result{source.table, 0};
+    ImportedTable result{source.table};
     std::vector<Cell> cells(columns.size());
     std::vector<std::string> scratch(columns.size());
     while (const auto* row = file.next()) {
@@ -263,13 +272,17 @@ std::vector<ImportedTable> importFolder(const std::filesystem::path& folder,
       if (background) background->add(*row, cells);
       if (++result.rows % kRowsPerReport == 0) tell();
     }
+    file.checkRead();
+    result.endsInLine = !file.atLineEnd();
     imported.push_back(result);
     if (background && background->made())
-      imported.push_back({std::string(kBackgroundEvents), background->rows()});
+      imported.push_back({std::string(kBackgroundEvents), background->rows(), false});
     before += source.bytes;
     if (progress) progress(before, all);
   }
-  writer.finish();
+  writer.finish([&] {
+    if (progress) progress(all, all);
+  });
   std::sort(imported.begin(), imported.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
   return imported;
 }

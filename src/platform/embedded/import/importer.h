@@ -21,14 +21,17 @@ class ImportError : public std::runtime_error {
 struct ImportOptions {
   NewAccount account;
   bool keepUnknown = false;  // keep tables that no release has
+  Existing existing = Existing::Replace;
 };
 
 struct ImportedTable {
   std::string name;
   std::int64_t rows = 0;
+  bool endsInLine = false;  // the file's last line has no end: it may have been cut
 };
 
-/// Reads every *.csv of `folder` into the repository `path`, which takes its name only when it is whole.
+/// Reads every *.csv of `folder` into the repository `path`, which takes its name only when it is whole. A
+/// file that is cut or grows meanwhile is an error.
 ///
 /// A file bears its table's name in any case ("STATS$SYSSTAT.csv"); its first line is the column names.
 /// Columns have the types of the releases. A column that no release has is a NUMBER if every value of it is a
@@ -36,8 +39,9 @@ struct ImportedTable {
 /// field is NULL, a DATE is YYYY-MM-DD HH24:MI:SS, a RAW is hex digits. Where stats$bg_event_summary is
 /// missing and stats$system_event tells the foreground apart, it is made of the difference.
 ///
-/// `progress` is told the bytes read and those to read. Returns the tables with their rows, by name. Throws
-/// ImportError and RepositoryError, and lets pass what `progress` throws; then nothing is left behind.
+/// `progress` is told the bytes read and those to read, and called on while the file is finished. Returns the
+/// tables with their rows, by name. Throws ImportError and RepositoryError, and lets pass what `progress`
+/// throws; then nothing is left behind.
 std::vector<ImportedTable> importFolder(const std::filesystem::path& folder,
                                         const std::filesystem::path& path, const ImportOptions& options,
                                         const std::function<void(std::int64_t, std::int64_t)>& progress = {});

@@ -1,11 +1,9 @@
 #include "platform/embedded/writing/repository_writer.h"
 
-#include <fcntl.h>
 #include <sqlite3.h>
-#include <unistd.h>
 
-#include <cerrno>
 #include <cstring>
+#include <exception>
 
 #include "platform/ascii.h"
 #include "platform/embedded/writing/indexes.h"
@@ -30,33 +28,61 @@ std::string listed(const std::vector<std::string>& names) {
   return result;
 }
 
-std::string failure(sqlite3* connection) { return sqlite3_errmsg(connection); }
-
-std::string unwritable(const std::filesystem::path& path, const std::string& why) {
-  return path.string() + ": cannot be written: " + why;
+// SQLite's words, and the system's where SQLite only says that the disk failed.
+std::string failure(sqlite3* connection) {
+  const int code = sqlite3_errcode(connection) & 0xff;
+  int reason = 0;
+  sqlite3_file_control(connection, "main", SQLITE_FCNTL_LAST_ERRNO, &reason);
+  if ((code == SQLITE_IOERR || code == SQLITE_CANTOPEN) && reason != 0) return std::strerror(reason);
+  return sqlite3_errmsg(connection);
 }
 
-// The finished file takes the place of what bears its name: that may be a file, never a device or a folder.
-void checkTarget(const std::filesystem::path& path) {
-  if (path.filename().empty()) throw RepositoryError("'" + path.string() + "' is no name of a file");
-  std::error_code ignored;
-  if (std::filesystem::exists(path, ignored) && !std::filesystem::is_regular_file(path, ignored))
-    throw RepositoryError(unwritable(path, "it is no plain file"));
-}
+/// Lets a caller look at the world while SQLite works for long. An exception cannot pass through SQLite: it
+/// is kept, and SQLite told to stop.
+class Watch {
+ public:
+  Watch(sqlite3* connection, const std::function<void()>& stillWorking)
+      : connection_(connection), stillWorking_(stillWorking) {
+    constexpr int kSteps = 10000;
+    if (stillWorking_) sqlite3_progress_handler(connection_, kSteps, look, this);
+  }
+  Watch(const Watch&) = delete;
+  Watch& operator=(const Watch&) = delete;
+  ~Watch() { sqlite3_progress_handler(connection_, 0, nullptr, nullptr); }
 
-// On disk before the rename, so that a power cut cannot leave a named file with holes.
-void flush(const std::filesystem::path& path) {
-  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  const bool flushed = file >= 0 && ::fsync(file) == 0;
-  const int reason = errno;
-  if (file >= 0) ::close(file);
-  if (!flushed) throw RepositoryError(unwritable(path, std::strerror(reason)));
-}
+  template <class Work>
+  void over(Work work) {
+    try {
+      work();
+    } catch (const RepositoryError&) {
+      if (thrown_) std::rethrow_exception(thrown_);
+      throw;
+    }
+    if (stillWorking_) stillWorking_();
+  }
+
+ private:
+  static int look(void* watch) {
+    auto& self = *static_cast<Watch*>(watch);
+    try {
+      self.stillWorking_();
+      return 0;
+    } catch (...) {
+      self.thrown_ = std::current_exception();
+      return 1;
+    }
+  }
+
+  sqlite3* connection_;
+  const std::function<void()>& stillWorking_;
+  std::exception_ptr thrown_;
+};
 
 }  // namespace
 
-TableWriter::TableWriter(sqlite3* connection, std::string name, std::vector<NewColumn> columns)
-    : connection_(connection), name_(std::move(name)), columns_(std::move(columns)) {
+TableWriter::TableWriter(sqlite3* connection, const std::filesystem::path& file, std::string name,
+                         std::vector<NewColumn> columns)
+    : connection_(connection), file_(file), name_(std::move(name)), columns_(std::move(columns)) {
   std::vector<std::string> names;
   std::string marks;
   for (NewColumn& column : columns_) {
@@ -69,14 +95,18 @@ TableWriter::TableWriter(sqlite3* connection, std::string name, std::vector<NewC
   if (sqlite3_exec(connection_, create.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK ||
       sqlite3_prepare_v3(connection_, insert.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &statement_, nullptr) !=
           SQLITE_OK)
-    throw RepositoryError("table " + name_ + ": " + failure(connection_));
+    fail(failure(connection_));
   numbers_.resize(columns_.size());
 }
 
 TableWriter::~TableWriter() { sqlite3_finalize(statement_); }
 
+void TableWriter::fail(const std::string& why) const {
+  throw RepositoryError(unwritable(file_, "table " + name_ + ": " + why));
+}
+
 void TableWriter::insert(std::span<const Cell> cells) {
-  if (cells.size() > columns_.size()) throw RepositoryError("table " + name_ + ": a row of too many values");
+  if (cells.size() > columns_.size()) fail("a row of too many values");
   const int count = static_cast<int>(cells.size());
   for (int i = 0; i < count; ++i) {
     const Cell& cell = cells[static_cast<std::size_t>(i)];
@@ -104,20 +134,16 @@ void TableWriter::insert(std::span<const Cell> cells) {
   for (int i = count; i < static_cast<int>(columns_.size()); ++i) sqlite3_bind_null(statement_, i + 1);
   const int result = sqlite3_step(statement_);
   sqlite3_reset(statement_);
-  if (result != SQLITE_DONE) throw RepositoryError("table " + name_ + ": " + failure(connection_));
+  if (result != SQLITE_DONE) fail(failure(connection_));
 }
 
 RepositoryWriter::RepositoryWriter(std::filesystem::path path, const NewAccount& account,
-                                   std::string_view createdBy)
-    : path_(std::move(path)), unfinished_(path_.string() + ".unfinished-" + std::to_string(::getpid())) {
-  std::error_code ignored;
-  checkTarget(path_);
-  std::filesystem::remove(unfinished_, ignored);
-  const int result =
-      sqlite3_open_v2(unfinished_.c_str(), &connection_,
-                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+                                   std::string_view createdBy, Existing existing)
+    : file_(std::move(path)), existing_(existing) {
+  const int result = sqlite3_open_v2(file_.path().c_str(), &connection_,
+                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
   try {
-    if (result != SQLITE_OK) throw RepositoryError(unwritable(path_, sqlite3_errstr(result)));
+    if (result != SQLITE_OK) throw RepositoryError(unwritable(file_.target(), sqlite3_errstr(result)));
     // A failure drops the whole file, so nothing need be undone and no journal is kept.
     execute("PRAGMA journal_mode = OFF");
     execute("PRAGMA synchronous = OFF");
@@ -129,26 +155,26 @@ RepositoryWriter::RepositoryWriter(std::filesystem::path path, const NewAccount&
     execute("BEGIN");
     writeSettings(account, createdBy);
   } catch (...) {
-    sqlite3_close(connection_);
-    std::filesystem::remove(unfinished_, ignored);
+    close();
     throw;
   }
 }
 
-RepositoryWriter::~RepositoryWriter() {
+RepositoryWriter::~RepositoryWriter() { close(); }
+
+void RepositoryWriter::close() {
   tables_.clear();
-  if (connection_ != nullptr) sqlite3_close(connection_);
-  std::error_code ignored;
-  std::filesystem::remove(unfinished_, ignored);
+  sqlite3_close(connection_);
+  connection_ = nullptr;
 }
 
 void RepositoryWriter::execute(const std::string& sql) {
   if (sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
-    throw RepositoryError(unwritable(path_, failure(connection_)));
+    throw RepositoryError(unwritable(file_.target(), failure(connection_)));
 }
 
 void RepositoryWriter::writeSettings(const NewAccount& account, std::string_view createdBy) {
-  TableWriter settings(connection_, "kestrelix$setting", {{"name"}, {"value"}});
+  TableWriter settings(connection_, file_.target(), "kestrelix$setting", {{"name"}, {"value"}});
   const std::string user = asciiUpper(account.user);
   const std::string hash = saltedHash(account.password, account.salt);
   settings.insert(std::array<Cell, 2>{"user_name", user});
@@ -158,7 +184,7 @@ void RepositoryWriter::writeSettings(const NewAccount& account, std::string_view
 
 TableWriter& RepositoryWriter::addTable(std::string_view name, std::vector<NewColumn> columns) {
   const std::string lower = asciiLower(name);
-  auto writer = std::make_unique<TableWriter>(connection_, lower, std::move(columns));
+  auto writer = std::make_unique<TableWriter>(connection_, file_.target(), lower, std::move(columns));
   return *tables_.emplace(lower, std::move(writer)).first->second;
 }
 
@@ -169,7 +195,7 @@ TableWriter* RepositoryWriter::table(std::string_view name) {
 
 void RepositoryWriter::writeColumns() {
   TableWriter catalogue(
-      connection_, "kestrelix$column",
+      connection_, file_.target(), "kestrelix$column",
       {{"table_name"}, {"column_name"}, {"position"}, {"oracle_type"}, {"integral"}, {"largest"}});
   for (const auto& [name, table] : tables_) {
     for (std::size_t i = 0; i < table->columns_.size(); ++i) {
@@ -182,7 +208,7 @@ void RepositoryWriter::writeColumns() {
   }
 }
 
-void RepositoryWriter::finish() {
+void RepositoryWriter::makeIndexes() {
   for (const auto& [name, table] : tables_) {
     std::vector<std::string> columns;
     for (const NewColumn& column : table->columns_) columns.push_back(column.name);
@@ -191,16 +217,17 @@ void RepositoryWriter::finish() {
       execute("CREATE INDEX " + identifier(name + "_" + std::to_string(++number)) + " ON " +
               identifier(name) + " (" + listed(index) + ")");
   }
-  writeColumns();
-  execute("ANALYZE");
-  execute("COMMIT");
-  tables_.clear();
-  sqlite3_close(connection_);
-  connection_ = nullptr;
-  flush(unfinished_);
-  std::error_code error;
-  std::filesystem::rename(unfinished_, path_, error);
-  if (error) throw RepositoryError(unwritable(path_, error.message()));
+}
+
+void RepositoryWriter::finish(const std::function<void()>& stillWorking) {
+  Watch(connection_, stillWorking).over([this] {
+    makeIndexes();
+    writeColumns();
+    execute("ANALYZE");
+    execute("COMMIT");
+  });
+  close();
+  file_.takeName(existing_);
 }
 
 }  // namespace kestrelix::embedded

@@ -4,28 +4,24 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/embedded/writing/cell.h"
+#include "platform/embedded/writing/repository_error.h"
+#include "platform/embedded/writing/unfinished_file.h"
 #include "statspack/release.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
 
 namespace kestrelix::embedded {
-
-/// A repository file that cannot be written; what() names the file.
-class RepositoryError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 /// Who may open the file. Without a salt a random one is taken.
 struct NewAccount {
@@ -50,10 +46,12 @@ struct NumbersSeen {
   }
 };
 
-/// Fills one table of a file in the making.
+/// Fills one table of a file in the making. Failures are RepositoryError.
 class TableWriter {
  public:
-  TableWriter(sqlite3* connection, std::string name, std::vector<NewColumn> columns);
+  /// `file` is the repository's name, for errors; it must outlive this object.
+  TableWriter(sqlite3* connection, const std::filesystem::path& file, std::string name,
+              std::vector<NewColumn> columns);
   TableWriter(TableWriter&&) = delete;
   ~TableWriter();
 
@@ -65,21 +63,23 @@ class TableWriter {
 
  private:
   friend class RepositoryWriter;
+  [[noreturn]] void fail(const std::string& why) const;
 
   sqlite3* connection_;
+  const std::filesystem::path& file_;
   std::string name_;
   std::vector<NewColumn> columns_;
   std::vector<NumbersSeen> numbers_;
   sqlite3_stmt* statement_ = nullptr;
 };
 
-/// A repository file in the making. It is written beside its name, and takes it, over any file that has it,
-/// when finish() has made it whole; a writer that goes before that leaves nothing behind. Failures are
-/// RepositoryError.
+/// A repository file in the making. It is written beside its name, and takes it when finish() has made it
+/// whole; a writer that goes before that leaves nothing behind. Failures are RepositoryError.
 class RepositoryWriter {
  public:
-  /// `createdBy` is kept in the file.
-  RepositoryWriter(std::filesystem::path path, const NewAccount& account, std::string_view createdBy);
+  /// `createdBy` is kept in the file. With Existing::Keep a file of that name stays, and finish() fails.
+  RepositoryWriter(std::filesystem::path path, const NewAccount& account, std::string_view createdBy,
+                   Existing existing = Existing::Replace);
   RepositoryWriter(RepositoryWriter&&) = delete;
   ~RepositoryWriter();
 
@@ -88,16 +88,19 @@ class RepositoryWriter {
   /// The table of that name (in lower case), or null.
   TableWriter* table(std::string_view name);
 
-  /// Makes the indexes, tells the columns and statistics, and gives the file its name.
-  void finish();
+  /// Makes the indexes, tells the columns and statistics, and gives the file its name. `stillWorking` is
+  /// called again and again until just before that; what it throws passes, and nothing is made then.
+  void finish(const std::function<void()>& stillWorking = {});
 
  private:
   void execute(const std::string& sql);
+  void close();
+  void makeIndexes();
   void writeSettings(const NewAccount& account, std::string_view createdBy);
   void writeColumns();
 
-  std::filesystem::path path_;
-  std::filesystem::path unfinished_;
+  UnfinishedFile file_;
+  Existing existing_;
   sqlite3* connection_ = nullptr;
   std::map<std::string, std::unique_ptr<TableWriter>, std::less<>> tables_;
 };

@@ -1,0 +1,36 @@
+// The file that a repository is written into until it is whole.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "platform/embedded/writing/repository_error.h"
+
+namespace kestrelix::embedded {
+
+/// "FILE: cannot be written: WHY".
+std::string unwritable(const std::filesystem::path& file, const std::string& why);
+
+/// A new file beside its target, named "TARGET.unfinished-PID". It is removed with this object unless it has
+/// taken its target's name by then. Such files that a killed process has left for the same target are cleared
+/// away first. Failures are RepositoryError.
+class UnfinishedFile {
+ public:
+  /// Makes the empty file.
+  explicit UnfinishedFile(std::filesystem::path target);
+  UnfinishedFile(UnfinishedFile&&) = delete;
+  ~UnfinishedFile();
+
+  const std::filesystem::path& target() const { return target_; }
+  const std::filesystem::path& path() const { return path_; }
+
+  /// Brings the file to disk and gives it its target's name. With Existing::Keep a file that has the name
+  /// stays, and that is a failure.
+  void takeName(Existing existing);
+
+ private:
+  std::filesystem::path target_;
+  std::filesystem::path path_;
+};
+
+}  // namespace kestrelix::embedded
