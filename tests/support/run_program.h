@@ -8,15 +8,15 @@
 
 namespace kestrelix::testing_support {
 
-/// How a program of this build ended, and what it wrote.
+/// How a program of this build ended, and what it wrote. The status is 128 and the signal where one ended it.
 struct Outcome {
   int status = -1;
   std::string output;
   std::string errors;
 };
 
-/// Runs `program` of this build with a line of arguments, as a shell reads them, after what the shell is to do
-/// `before`. Its errors pass through a file beside `scratch`.
+/// Runs `program` of this build with a line of arguments, as a shell reads them, after what the shell is to
+/// do `before`. Its errors pass through a file beside `scratch`.
 inline Outcome runProgram(const std::string& program, const std::string& arguments,
                           const std::filesystem::path& scratch, const std::string& before = {}) {
   const std::string errors = scratch.string() + ".errors";
@@ -30,7 +30,8 @@ inline Outcome runProgram(const std::string& program, const std::string& argumen
   FILE* const pipe = ::popen(command.c_str(), "r");
   if (pipe == nullptr) return outcome;
   readAll(pipe, outcome.output);
-  outcome.status = WEXITSTATUS(::pclose(pipe));
+  const int status = ::pclose(pipe);
+  outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
   if (FILE* const file = std::fopen(errors.c_str(), "r")) {
     readAll(file, outcome.errors);
     std::fclose(file);
