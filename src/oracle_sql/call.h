@@ -51,7 +51,8 @@ struct Keep {
 };
 
 enum class NullTreatment : std::uint8_t { Default, Respect, Ignore };
-enum class CallRole : std::uint8_t { Unresolved, Scalar, Aggregate, Window };
+/// Grouping: GROUPING, GROUPING_ID and GROUP_ID, which tell of the grouping that a row belongs to.
+enum class CallRole : std::uint8_t { Unresolved, Scalar, Aggregate, Window, Grouping };
 
 /// A function of any sort: NVL(a, b), COUNT(*), SUM(x) OVER (...), STATSPACK.V1024(...), SYSDATE.
 /// TRIM(LEADING x FROM y) has option LEADING and arguments y, x; EXTRACT(YEAR FROM d) option YEAR, argument

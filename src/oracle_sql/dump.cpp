@@ -261,12 +261,31 @@ class Dump {
     }
     if (!b.groupBy.empty()) {
       line("group by");
-      below(b.groupBy);
+      if (b.grouping.empty()) below(b.groupBy);
+      groupings(b.grouping);
+      if (resolved_)
+        for (const GroupingSet set : b.groupingSets) grouping(set, b.groupBy.size());
     }
     if (b.having) {
       line("having");
       below({b.having});
     }
+  }
+
+  void groupings(const List<GroupingTerm*>& terms) {
+    const Indent in(*this);
+    for (const GroupingTerm* t : terms) {
+      line(t->kind == GroupingKind::Keys ? "keys" : std::string(spelling(t->kind)));
+      below(t->keys);
+      groupings(t->terms);
+    }
+  }
+
+  void grouping(GroupingSet set, std::size_t keys) {
+    std::string text = "grouping";
+    for (std::size_t i = 0; i < keys; ++i)
+      if ((set >> i & 1) != 0) text += " " + std::to_string(i + 1);
+    line(text);
   }
 
   void columns(const List<OutputColumn>& list) {
@@ -352,6 +371,7 @@ class Dump {
     if (c.nulls == NullTreatment::Respect) text += " respect nulls";
     if (resolved_ && c.role == CallRole::Aggregate) text += " [aggregate]";
     if (resolved_ && c.role == CallRole::Window) text += " [window]";
+    if (resolved_ && c.role == CallRole::Grouping) text += " [grouping]";
     head(c, text);
     below(c.args);
     const Indent in(*this);

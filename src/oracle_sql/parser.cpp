@@ -216,23 +216,6 @@ SelectItem Parser::selectItem() {
   return item;
 }
 
-void Parser::groupBy(SelectBlock& b) {
-  take();
-  expect(Keyword::By, 924, "missing BY keyword");
-  do {
-    if ((is(Keyword::Rollup) || is(Keyword::Cube)) && is(Symbol::LeftParen, 1))
-      unsupported(is(Keyword::Rollup) ? "ROLLUP" : "CUBE");
-    if (is(Keyword::Grouping) && is(Keyword::Sets, 1)) unsupported("GROUPING SETS");
-    Expr* e = additive(true);
-    if (auto* row = as<RowExpr>(e)) {
-      for (Expr* item : row->items) b.groupBy.push_back(item);
-    } else {
-      requireValue(*e, e->place);
-      b.groupBy.push_back(e);
-    }
-  } while (accept(Symbol::Comma));
-}
-
 void Parser::orderBy(List<OrderItem>& items) {
   take();
   if (is(Keyword::Siblings)) unsupported("ORDER SIBLINGS BY");

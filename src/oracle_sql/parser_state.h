@@ -27,11 +27,15 @@ class Parser {
   SelectBlock* block();
   void selectList(SelectBlock& b);
   SelectItem selectItem();
-  void groupBy(SelectBlock& b);
   void orderBy(List<OrderItem>& items);
   OrderItem orderItem();
   bool isQueryAt(std::size_t at) const;
   Query* bracketedQuery();
+
+  // parser_grouping.cpp: GROUP BY
+  void groupBy(SelectBlock& b);
+  GroupingTerm* groupingTerm(SelectBlock& b);
+  GroupingTerm* groupingKeys(SelectBlock& b);
 
   // parser_from.cpp: FROM
   void fromClause(SelectBlock& b);

@@ -126,11 +126,26 @@ class Printer {
     }
     if (!b.groupBy.empty()) {
       out_ += " GROUP BY ";
-      list(b.groupBy);
+      if (b.grouping.empty())
+        list(b.groupBy);
+      else
+        groupings(b.grouping);
     }
     if (b.having) {
       out_ += " HAVING ";
       expr(*b.having);
+    }
+  }
+
+  void groupings(const List<GroupingTerm*>& terms) {
+    for (std::size_t i = 0; i < terms.size(); ++i) {
+      if (i > 0) out_ += ", ";
+      const GroupingTerm& t = *terms[i];
+      out_ += spelling(t.kind);
+      out_ += '(';
+      list(t.keys);
+      groupings(t.terms);
+      out_ += ')';
     }
   }
 

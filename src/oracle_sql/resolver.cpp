@@ -5,6 +5,7 @@
 
 #include "oracle_sql/ascii_case.h"
 #include "oracle_sql/resolver_state.h"
+#include "oracle_sql/same_expression.h"
 #include "oracle_sql/walk.h"
 
 namespace oracle_sql {
@@ -100,7 +101,7 @@ int Resolver::outputNamed(const List<OutputColumn>& columns, const ColumnRef& c)
       continue;
     }
     const Expr* first = columns[static_cast<std::size_t>(found)].expr;
-    if (!first || !columns[i].expr || !same(*first, *columns[i].expr))
+    if (!first || !columns[i].expr || !sameExpression(*first, *columns[i].expr))
       fail(960, "ambiguous column naming in select list", c.place);
   }
   return found;
@@ -136,8 +137,9 @@ void Resolver::block(SelectBlock& b, const Scope* outer, const WithScope* with, 
     value(*g, {.scope = &scope});
     if (const Query* q = anyQuery(*g)) fail(22818, "Subquery expressions not allowed here", q->place);
   }
+  groupings(b);
   selectList(b, scope);
-  if (b.having) condition(*b.having, {.scope = &scope, .aggregates = true});
+  if (b.having) condition(*b.having, {.scope = &scope, .aggregates = true, .having = true});
   if (orderBy) orderBlock(b, scope, *orderBy);
   if (b.grouped) checkGrouping(b, orderBy);
 }
@@ -226,7 +228,7 @@ void Resolver::orderBlock(SelectBlock& b, const Scope& scope, List<OrderItem>& i
     value(*item.expr, {.scope = &scope, .aggregates = true, .windows = true, .aliases = true});
     if (!b.distinct) continue;
     for (std::size_t i = 0; i < b.columns.size() && item.output < 0; ++i)
-      if (same(*item.expr, *b.columns[i].expr)) item.output = static_cast<int>(i);
+      if (sameExpression(*item.expr, *b.columns[i].expr)) item.output = static_cast<int>(i);
     if (item.output < 0) fail(1791, "not a SELECTed expression", item.place);
   }
 }

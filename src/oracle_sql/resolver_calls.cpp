@@ -9,6 +9,7 @@ namespace oracle_sql {
 Type Resolver::call(Call& c, const Env& env) {
   if (c.package.empty())
     if (const SetFunction* f = findSetFunction(c.name)) return setFunction(c, *f, env);
+  if (tellsOfGrouping(c)) return groupingFunction(c, env);
   return scalarCall(c, env);
 }
 
@@ -122,7 +123,7 @@ Type Resolver::setFunction(Call& c, const SetFunction& f, const Env& env) {
     if (!env.aggregates) fail(934, "group function is not allowed here", c.place);
     if (env.aggregateDepth == 1 && (!b || b->groupBy.empty()))
       fail(978, "nested group function without GROUP BY", c.place);
-    if (env.aggregateDepth > 1) fail(935, "group function is nested too deeply", c.place);
+    if (env.aggregateDepth > (env.having ? 0 : 1)) fail(935, "group function is nested too deeply", c.place);
     if (b) {
       b->grouped = true;
       b->nestedAggregates = b->nestedAggregates || env.aggregateDepth == 1;

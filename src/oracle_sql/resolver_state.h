@@ -40,6 +40,7 @@ class Resolver {
     bool aggregates = false;  // allowed
     bool windows = false;     // allowed
     int aggregateDepth = 0;   // calls of aggregates around
+    bool having = false;      // in HAVING
     bool joins = false;       // in ON
     bool outerMarks = false;  // (+) allowed
     bool aliases = false;     // names of the select list are seen first
@@ -101,12 +102,16 @@ class Resolver {
   void window(Call& c, const SetFunction& f, const Env& env);
   void countArguments(const Call& c, int low, int high) const;
 
-  // resolver_checks.cpp
+  // resolver_grouping.cpp
+  void groupings(SelectBlock& b) const;
+  static bool tellsOfGrouping(const Call& c);
+  Type groupingFunction(Call& c, const Env& env);
   void checkGrouping(SelectBlock& b, const List<OrderItem>* orderBy) const;
-  void grouped(const Expr& e, const SelectBlock& b, int level) const;
-  void groupedQuery(const Query& q, const SelectBlock& b, int level) const;
+  void grouped(const Expr& e, const SelectBlock& b, int level, bool overGroups) const;
+  void groupedQuery(const Query& q, const SelectBlock& b, int level, bool overGroups) const;
+
+  // resolver_checks.cpp
   void checkOuterMarks(SelectBlock& b) const;
-  static bool same(const Expr& a, const Expr& b, int level = 0);
 
   [[noreturn]] static void fail(int oraCode, const std::string& message, Place place) {
     throw SqlError::wrong(oraCode, message, place);

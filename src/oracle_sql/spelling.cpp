@@ -86,6 +86,20 @@ std::string_view spelling(BoundKind kind) {
   return {};
 }
 
+std::string_view spelling(GroupingKind kind) {
+  switch (kind) {
+    case GroupingKind::Keys:
+      return "";
+    case GroupingKind::Rollup:
+      return "ROLLUP";
+    case GroupingKind::Cube:
+      return "CUBE";
+    case GroupingKind::Sets:
+      return "GROUPING SETS";
+  }
+  return {};
+}
+
 std::string castSpelling(const CastExpr& cast) {
   const std::string length = std::to_string(cast.precision) + (cast.inChars ? " CHAR)" : ")");
   switch (cast.target) {

@@ -14,6 +14,8 @@ std::string_view spelling(SetOp op);
 std::string_view spelling(JoinKind kind);
 /// Without the offset that stands before PRECEDING and FOLLOWING.
 std::string_view spelling(BoundKind kind);
+/// Empty for Keys.
+std::string_view spelling(GroupingKind kind);
 /// The type of a CAST, as in NUMBER(10,2).
 std::string castSpelling(const CastExpr& cast);
 

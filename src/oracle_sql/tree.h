@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "oracle_sql/expression.h"
+#include "oracle_sql/grouping.h"
 
 namespace oracle_sql {
 
@@ -116,22 +117,29 @@ struct PivotItem : FromItem {
   List<int> groupColumns;  ///< resolved: indexes in source->columns
 };
 
+/// One grouping of a GROUP BY: a bit for each of its expressions, the first one's the lowest.
+using GroupingSet = std::uint64_t;
+
 struct SelectBlock {
-  explicit SelectBlock(std::pmr::memory_resource* m) : items(m), from(m), groupBy(m), columns(m) {}
+  explicit SelectBlock(std::pmr::memory_resource* m)
+      : items(m), from(m), groupBy(m), grouping(m), columns(m), groupingSets(m) {}
   Place place;
   std::string_view hint;  ///< the comment as written, or empty
   bool distinct = false;
   List<SelectItem> items;
   List<FromItem*> from;
   Expr* where = nullptr;
-  ExprList groupBy;
+  ExprList groupBy;  ///< all expressions, also those in ROLLUP and its like
+  List<GroupingTerm*>
+      grouping;  ///< GROUP BY as written if it has ROLLUP, CUBE, GROUPING SETS or (); else empty
   Expr* having = nullptr;
 
   // Resolved.
-  List<OutputColumn> columns;     ///< the select list with stars replaced by the columns they stand for
-  bool grouped = false;           ///< GROUP BY or an aggregate
-  bool windowed = false;          ///< a window function in the select list or in ORDER BY
-  bool nestedAggregates = false;  ///< as in SUM(AVG(x)): one row over the groups
+  List<OutputColumn> columns;      ///< the select list with stars replaced by the columns they stand for
+  List<GroupingSet> groupingSets;  ///< the groupings that `grouping` asks for; equal ones may come twice
+  bool grouped = false;            ///< GROUP BY or an aggregate
+  bool windowed = false;           ///< a window function in the select list or in ORDER BY
+  bool nestedAggregates = false;   ///< as in SUM(AVG(x)): one row over the groups
   bool usesRownum = false;
   bool outerMarks = false;  ///< (+) in WHERE
 };

@@ -146,7 +146,7 @@ class RandomStatement {
     if (!grouped && chance(8)) text += "distinct ";
     text += items + " from " + from;
     if (!where.empty()) text += " where " + where;
-    if (!keys.empty()) text += " group by " + keys;
+    if (!keys.empty()) text += " group by " + grouping(keys);
     if (grouped && chance(30))
       text += " having " + pick({"count(*) > 0", "count(*) between 1 and 100", "max(1) is not null"});
     return text;
@@ -326,14 +326,23 @@ class RandomStatement {
     return side(kind) + pick({" = ", " <> ", " < ", " <= ", " > ", " >= "}) + side(kind);
   }
 
+  std::string grouping(const std::string& keys) {
+    if (chance(75)) return keys;
+    return pick({"rollup(", "cube(", "grouping sets ((), "}) + keys + ")";
+  }
+
   std::string groupedItem(Kind kind, const Scope& scope, const Scope& keys) {
     const std::string key = column(kind, keys);
     if (!key.empty() && chance(50)) return key;
     const std::string argument = expression(kind, 1, scope, 0);
-    if (kind != Kind::Number) return pick({"max(", "min("}) + argument + ")";
+    const RandomColumn& sort = scope[static_cast<std::size_t>(below(static_cast<int>(scope.size())))];
+    const std::string keep =
+        chance(20) ? " keep (dense_rank " + pick({"first", "last"}) + " order by " + sort.name + ")" : "";
+    if (kind != Kind::Number) return pick({"max(", "min("}) + argument + ")" + keep;
     if (chance(10)) return "sum(sum(" + argument + ")) over ()";
     if (chance(20)) return "count(*)";
-    return pick({"sum(", "avg(", "max(", "min(", "count(", "count(distinct ", "stddev("}) + argument + ")";
+    return pick({"sum(", "avg(", "max(", "min(", "count(", "count(distinct ", "stddev("}) + argument + ")" +
+           keep;
   }
 
   std::string window(Kind kind, const Scope& scope) {

@@ -2,6 +2,7 @@
 
 #include "platform/ascii.h"
 #include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/walk.h"
 
 namespace kestrelix::embedded {
 namespace {
@@ -15,11 +16,6 @@ void splitAnd(const sql::Expr* expr, std::vector<const sql::Expr*>& terms) {
   }
 }
 
-bool isConstant(const sql::Expr& expr) {
-  return expr.kind == sql::ExprKind::Null || expr.kind == sql::ExprKind::Number ||
-         expr.kind == sql::ExprKind::String || expr.kind == sql::ExprKind::DateLiteral;
-}
-
 }  // namespace
 
 QueryText lowerBlock(Emitter& emitter, const sql::SelectBlock& block,
@@ -29,8 +25,6 @@ QueryText lowerBlock(Emitter& emitter, const sql::SelectBlock& block,
   QueryText text;
   if (block.usesRownum) {
     text = lowerRownumBlock(emitter, block, parts, order);
-  } else if (hasNestedAggregates(block)) {
-    text = lowerNestedAggregates(emitter, block, parts, order);
   } else {
     std::string where;
     for (const sql::Expr* term : parts.conjuncts)
@@ -51,8 +45,8 @@ BlockParts lowerFrom(Emitter& emitter, const sql::SelectBlock& block) {
   return parts;
 }
 
-QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
-                        const std::string& where, const sql::List<sql::OrderItem>* order) {
+QueryText assembleList(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
+                       const std::string& where) {
   QueryText result;
   std::string list;
   std::vector<Piece>& outputs = result.outputs;
@@ -82,14 +76,26 @@ QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const s
   result.text = std::string("SELECT ") + (block.distinct ? "DISTINCT " : "") + list;
   result.listEnd = result.text.size();
   result.text += " FROM " + from + where;
+  return result;
+}
 
-  std::string keys;
+std::string groupByText(const std::vector<std::string>& keys) {
+  std::string list;
+  for (const std::string& key : keys) list += (list.empty() ? "" : ", ") + key;
+  return " GROUP BY " + (list.empty() ? "''||''" : list);
+}
+
+QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
+                        const std::string& where, const sql::List<sql::OrderItem>* order) {
+  if (readsGroups(block)) return assembleGroups(emitter, block, from, where, order);
+  QueryText result = assembleList(emitter, block, from, where);
+  std::vector<std::string> keys;
   for (const sql::Expr* key : block.groupBy)
     // A constant groups nothing in Oracle; SQLite would take a whole number for the place of a column.
-    if (!isConstant(*key)) keys += (keys.empty() ? "" : ", ") + emitter.expression(*key).text;
-  if (!block.groupBy.empty()) result.text += " GROUP BY " + (keys.empty() ? "''||''" : keys);
+    if (!isLiteral(*key)) keys.push_back(emitter.expression(*key).text);
+  if (!block.groupBy.empty()) result.text += groupByText(keys);
   if (block.having) result.text += " HAVING " + emitter.condition(*block.having);
-  if (order && !order->empty()) result.text += lowerOrder(emitter, *order, &outputs);
+  if (order && !order->empty()) result.text += lowerOrder(emitter, *order, &result.outputs);
   return result;
 }
 

@@ -77,7 +77,7 @@ bool contains(const sql::ExprList& keys, const sql::ColumnRef& column) {
 /// Whether dropping all other keys' rows of the block leaves the rows of this key as they are.
 bool standsAlone(const sql::SelectBlock& block, const sql::List<sql::OrderItem>& order,
                  const sql::ColumnRef& column) {
-  if (block.usesRownum || block.nestedAggregates) return false;
+  if (block.usesRownum || block.nestedAggregates || !block.grouping.empty()) return false;
   if (block.grouped && !contains(block.groupBy, column)) return false;
   bool alone = true;
   const auto look = [&](const sql::Expr& expr) {

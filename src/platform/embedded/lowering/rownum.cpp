@@ -60,21 +60,6 @@ bool namesRownumOutsideWhere(const sql::SelectBlock& block, const sql::List<sql:
   return false;
 }
 
-void addSources(const sql::FromItem* item, std::unordered_set<const sql::FromItem*>& sources) {
-  sources.insert(item);
-  if (const auto* join = sql::as<sql::JoinItem>(item)) {
-    addSources(join->left, sources);
-    addSources(join->right, sources);
-  }
-}
-
-Wrap wrapOf(Emitter& emitter, const sql::SelectBlock& block, const char* alias) {
-  Wrap wrap;
-  wrap.alias = emitter.uniqueAlias(alias);
-  for (const sql::FromItem* item : block.from) addSources(item, wrap.sources);
-  return wrap;
-}
-
 /// Whether the block reads nothing but one inline view with an order.
 bool isSortedView(const sql::SelectBlock& block) {
   if (block.from.size() != 1) return false;
@@ -87,15 +72,6 @@ std::string limitedView(Emitter& emitter, const sql::SelectBlock& block, std::st
                         const std::string& limit) {
   const std::string end = ") AS " + quoted(emitter.sourceOf(block.from.front()).alias);
   return from.substr(0, from.size() - end.size()) + " LIMIT " + limit + end;
-}
-
-/// The select list that gives what was asked of `wrap`.
-std::string exportList(Emitter& emitter, const Wrap& wrap) {
-  std::string list;
-  for (const auto& [column, name] : wrap.exports)
-    list +=
-        (list.empty() ? "" : ", ") + emitter.column(column.first, column.second).text + " AS " + quoted(name);
-  return list;
 }
 
 }  // namespace
@@ -132,8 +108,7 @@ QueryText lowerRownumBlock(Emitter& emitter, const sql::SelectBlock& block, cons
   emitter.wraps().push_back(&numbered);
   emitter.rownum() = quoted(numbered.alias) + ".\"ROWNUM\"";
   const std::string mark = "\x01";  // where the inner block goes once its columns are known
-  QueryText text = hasNestedAggregates(block) ? lowerNestedAggregates(emitter, block, {mark, {}}, order)
-                                              : assembleBlock(emitter, block, mark, "", order);
+  QueryText text = assembleBlock(emitter, block, mark, "", order);
   emitter.wraps().pop_back();
 
   std::string inner;

@@ -34,6 +34,10 @@ void passKeyTests(Emitter& emitter, const sql::SelectBlock& block,
 /// The tests that the blocks around have handed to this one, as a condition; empty without any.
 std::string givenKeyTests(Emitter& emitter, const sql::SelectBlock& block);
 
+/// A wrap of the FROM items of the block, and the select list that gives what was asked of one.
+Wrap wrapOf(Emitter& emitter, const sql::SelectBlock& block, const char* alias);
+std::string exportList(Emitter& emitter, const Wrap& wrap);
+
 /// joins: ANSI joins, with USING and NATURAL.
 std::string lowerJoin(Emitter& emitter, const sql::JoinItem& join);
 
@@ -44,14 +48,20 @@ std::string lowerPivot(Emitter& emitter, const sql::PivotItem& pivot);
 QueryText lowerRownumBlock(Emitter& emitter, const sql::SelectBlock& block, const BlockParts& parts,
                            const sql::List<sql::OrderItem>* order);
 
-/// nested_aggregates: SUM(AVG(x)) to a group over the groups. Tells whether the block has one.
-bool hasNestedAggregates(const sql::SelectBlock& block);
-QueryText lowerNestedAggregates(Emitter& emitter, const sql::SelectBlock& block, const BlockParts& parts,
-                                const sql::List<sql::OrderItem>* order);
-
 /// The select list, GROUP BY, HAVING and ORDER BY around a FROM and WHERE that stand as text.
 QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
                         const std::string& where, const sql::List<sql::OrderItem>* order);
+/// The select list with FROM and WHERE alone.
+QueryText assembleList(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
+                       const std::string& where);
+/// " GROUP BY ..."; without keys all rows are one group, and no row is none.
+std::string groupByText(const std::vector<std::string>& keys);
+
+/// groups: aggregates over aggregates, ROLLUP, CUBE and GROUPING SETS to a query of the groups in FROM. Tells
+/// whether the block has them.
+bool readsGroups(const sql::SelectBlock& block);
+QueryText assembleGroups(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
+                         const std::string& where, const sql::List<sql::OrderItem>* order);
 
 /// ordering: NULL sorts as the greatest value; a NUMBER that may be broken sorts by its key.
 std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,

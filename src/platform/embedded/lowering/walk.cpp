@@ -15,6 +15,11 @@ bool namesRownum(const sql::Expr& expr) {
   return found;
 }
 
+bool isLiteral(const sql::Expr& expr) {
+  return expr.kind == sql::ExprKind::Null || expr.kind == sql::ExprKind::Number ||
+         expr.kind == sql::ExprKind::String || expr.kind == sql::ExprKind::DateLiteral;
+}
+
 bool isRowFree(const sql::Expr& expr) {
   bool free = true;
   walkExpressions(expr, [&](const sql::Expr& e) {

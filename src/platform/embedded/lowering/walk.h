@@ -13,6 +13,7 @@ void walkExpressions(const sql::Expr& expr, const std::function<void(const sql::
 
 /// Whether ROWNUM of the expression's own block stands in it.
 bool namesRownum(const sql::Expr& expr);
+bool isLiteral(const sql::Expr& expr);
 /// Whether the value is the same for every row: no column, ROWNUM, subquery or aggregate.
 bool isRowFree(const sql::Expr& expr);
 
