@@ -11,7 +11,9 @@ void raiseDivisionByZero() { throw FunctionError(1476, "divisor is equal to zero
 
 void raiseNumericOverflow() { throw FunctionError(1426, "numeric overflow"); }
 
-void raiseArgumentOutOfRange() { throw FunctionError(1428, "argument is out of range"); }
+void raiseArgumentOutOfRange(const std::string& argument) {
+  throw FunctionError(1428, "argument '" + argument + "' is out of range");
+}
 
 void raiseInconsistentTypes() { throw FunctionError(932, "inconsistent datatypes"); }
 

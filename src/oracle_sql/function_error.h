@@ -21,10 +21,10 @@ class FunctionError : public std::runtime_error {
   int code_;
 };
 
-[[noreturn]] void raiseInvalidNumber();       // ORA-01722
-[[noreturn]] void raiseDivisionByZero();      // ORA-01476
-[[noreturn]] void raiseNumericOverflow();     // ORA-01426
-[[noreturn]] void raiseArgumentOutOfRange();  // ORA-01428
-[[noreturn]] void raiseInconsistentTypes();   // ORA-00932
+[[noreturn]] void raiseInvalidNumber();                                  // ORA-01722
+[[noreturn]] void raiseDivisionByZero();                                 // ORA-01476
+[[noreturn]] void raiseNumericOverflow();                                // ORA-01426
+[[noreturn]] void raiseArgumentOutOfRange(const std::string& argument);  // ORA-01428; the argument as text
+[[noreturn]] void raiseInconsistentTypes();                              // ORA-00932
 
 }  // namespace oracle_sql

@@ -95,7 +95,7 @@ Real withinTurn(const Number& n) {
 
 void requireOneOrLess(const Number& n) {
   if (compare(n.abs(), Number(1)) > 0) {
-    raiseArgumentOutOfRange();
+    raiseArgumentOutOfRange(n.toText());
   }
 }
 
@@ -128,12 +128,12 @@ Number power(const Number& base, const Number& exponent) {
   }
   if (base.isZero()) {
     if (exponent.isNegative()) {
-      raiseArgumentOutOfRange();
+      raiseArgumentOutOfRange(base.toText());
     }
     return base;
   }
   if (base.isNegative() && !exponent.isInteger()) {
-    raiseArgumentOutOfRange();
+    raiseArgumentOutOfRange(base.toText());
   }
   constexpr std::int64_t kBySquaring = 1000000000;
   if (!exponent.isInt64() || exponent.abs() > Number(kBySquaring)) {
@@ -162,7 +162,7 @@ Number power(const Number& base, const Number& exponent) {
 
 Number sqrt(const Number& n) {
   if (n.isNegative()) {
-    raiseArgumentOutOfRange();
+    raiseArgumentOutOfRange(n.toText());
   }
   return n.isZero() ? n : fromReal(boost::multiprecision::sqrt(toReal(n)));
 }
@@ -171,14 +171,15 @@ Number exp(const Number& n) { return exponentialOf(toReal(n)); }
 
 Number ln(const Number& n) {
   if (n.sign() <= 0) {
-    raiseArgumentOutOfRange();
+    raiseArgumentOutOfRange(n.toText());
   }
   return fromReal(boost::multiprecision::log(toReal(n)));
 }
 
 Number log(const Number& base, const Number& n) {
-  if (base.sign() <= 0 || n.sign() <= 0 || compare(base, Number(1)) == 0) {
-    raiseArgumentOutOfRange();
+  const bool badBase = base.sign() <= 0 || compare(base, Number(1)) == 0;
+  if (badBase || n.sign() <= 0) {
+    raiseArgumentOutOfRange((badBase ? base : n).toText());
   }
   return fromReal(boost::multiprecision::log(toReal(n)) / boost::multiprecision::log(toReal(base)));
 }
@@ -215,7 +216,7 @@ Number trigonometric(Trigonometric function, const Number& n) {
 
 Number atan2(const Number& y, const Number& x) {
   if (y.isZero() && x.isZero()) {
-    raiseArgumentOutOfRange();
+    raiseArgumentOutOfRange(x.toText());
   }
   return fromReal(boost::multiprecision::atan2(toReal(y), toReal(x)));
 }

@@ -75,10 +75,14 @@ class Reader {
         return minus;
       }
       case Sign::TrailingMinus: {
-        const bool minus = takeBack('-');
-        while (takeBack(' ')) {
+        // The place of the sign must be there.
+        if (takeBack('-')) {
+          return true;
         }
-        return minus;
+        if (!takeBack(' ')) {
+          raiseInvalidNumber();
+        }
+        return false;
       }
       case Sign::Brackets:
         if (takeFront('<')) {
@@ -152,10 +156,8 @@ Number parseNumber(std::string_view text, std::string_view model, const NumberSy
   while (!text.empty() && text.front() == ' ') {
     text.remove_prefix(1);
   }
-  // A blank behind is the plus of MI and PR, and no part of a number elsewhere.
-  const bool blankBehind = m.sign == Sign::TrailingMinus || m.sign == Sign::Brackets;
-  while (blankBehind && !text.empty() && text.back() == ' ') {
-    text.remove_suffix(1);
+  if (m.sign == Sign::Brackets && !text.empty() && text.back() == ' ') {
+    text.remove_suffix(1);  // as TO_CHAR leaves it behind a positive number
   }
   switch (m.form) {
     case Form::Fixed:

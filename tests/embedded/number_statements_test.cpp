@@ -78,6 +78,13 @@ TEST_F(NumberStatements, nvlComputesWhatItDoesNotGive) {
             answer("nvl(1, '2'), nvl('a', .5), nvl(to_char(null), .5), nvl(to_number(null), -1)"));
 }
 
+TEST_F(NumberStatements, argumentWithoutARealResultIsNamed) {
+  EXPECT_THAT(answer("sqrt(-1)"), StartsWith("ORA-01428: argument '-1' is out of range"));
+  EXPECT_THAT(answer("ln(0)"), StartsWith("ORA-01428: argument '0' is out of range"));
+  EXPECT_THAT(answer("log(10, -.5)"), StartsWith("ORA-01428: argument '-.5' is out of range"));
+  EXPECT_THAT(answer("power(-2, .5)"), StartsWith("ORA-01428: argument '-2' is out of range"));
+}
+
 // ORA-25137, "value from cast operand is larger than cast target size": text is cut, a number is not.
 TEST_F(NumberStatements, castOfANumberToAShortTextFails) {
   EXPECT_THAT(answer("cast(123456 as varchar2(3))"), StartsWith("ORA-25137: Data value out of range"));

@@ -210,6 +210,13 @@ TEST(NumberParse, noughtsOfTheModelAndBlanksBehindCount) {
   EXPECT_EQ("1", parseNumber("1", "99PR").toPlainText());
 }
 
+// Oracle Support, document 815516.1: the place that MI keeps for the sign must be there, as "-" or a blank.
+TEST(NumberParse, placeOfMiMustBeThere) {
+  EXPECT_EQ("99", parseNumber("99.00 ", "9999D99MI").toPlainText());
+  EXPECT_EQ("-1100", parseNumber("1100.00-", "9999D99MI").toPlainText());
+  EXPECT_EQ(1722, errorOf([] { parseNumber("99.00", "9999D99MI"); }));
+}
+
 TEST(NumberParse, textIsReadAsTheModelWritesIt) {
   const std::vector<Case> cases = {{"1234.5", "9,999.9", "1,234.5"},
                                    {"-12.3", "99.9", " -12.3"},

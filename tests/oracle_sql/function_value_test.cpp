@@ -125,6 +125,19 @@ TEST(NumericFunctions, binaryDigitsMakeANumber) {
   EXPECT_EQ(1428, callError("BIN_TO_NUM", {n("2")}));
 }
 
+// As measured at a server: contrib/ivorysql_ora/expected/ora_vsize.out of IvorySQL.
+TEST(NumericFunctions, storedSizeIsThatOfTheServer) {
+  EXPECT_EQ("1", call("VSIZE", {n("0")}));
+  EXPECT_EQ("2", call("VSIZE", {n("1000000")}));
+  EXPECT_EQ("3", call("VSIZE", {n("-1")}));
+  EXPECT_EQ("3", call("VSIZE", {n("1.23")}));
+  EXPECT_EQ("5", call("VSIZE", {n("12345.67")}));
+  EXPECT_EQ("2", call("VSIZE", {n("0.05")}));
+  EXPECT_EQ("3", call("VSIZE", {s("abc")}));
+  EXPECT_EQ("7", call("VSIZE", {d("2024-01-01")}));  // century, year, month, day, hour, minute, second
+  EXPECT_EQ("NULL", call("VSIZE", {null}));
+}
+
 TEST(ComparingFunctions, theFirstArgumentGivesTheTypeOfTheComparison) {
   EXPECT_EQ("10", call("GREATEST", {n("10"), n("9")}));
   EXPECT_EQ("9", call("GREATEST", {s("10"), s("9")}));

@@ -16,7 +16,7 @@ int placesOf(Arguments arguments) {
 std::int64_t bits(const Value& value) {
   const auto whole = toNumber(value).trunc().toInt64();
   if (!whole) {
-    raiseArgumentOutOfRange();
+    raiseArgumentOutOfRange(toNumber(value).toText());
   }
   return *whole;
 }
@@ -82,12 +82,31 @@ Value arcTangent2(Arguments arguments, const Context&) {
   return atan2(toNumber(arguments[0]), toNumber(arguments[1]));
 }
 
+// The bytes that the server keeps a value in.
+Value storedSize(Arguments arguments, const Context&) {
+  const Value& value = arguments[0];
+  switch (value.kind()) {
+    case Value::Kind::Null:
+      return {};
+    case Value::Kind::Number: {
+      std::uint8_t bytes[Number::kMaxBytes];
+      return static_cast<std::int64_t>(value.number().toBytes(bytes));
+    }
+    case Value::Kind::Date:
+      return 7;
+    case Value::Kind::Text:
+    case Value::Kind::Raw:
+      break;
+  }
+  return static_cast<std::int64_t>(value.bytes().size());
+}
+
 Value binaryToNumber(Arguments arguments, const Context&) {
   Number number;
   for (const Value& argument : arguments) {
     const Number bit = toNumber(argument);
     if (!bit.isZero() && bit != Number(1)) {
-      raiseArgumentOutOfRange();
+      raiseArgumentOutOfRange(bit.toText());
     }
     number = number + number + bit;
   }

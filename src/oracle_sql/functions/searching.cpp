@@ -44,7 +44,7 @@ Value positionIn(Arguments arguments, bool bytes) {
   const std::int64_t start = arguments.size() > 2 ? toWhole(arguments[2]) : 1;
   const std::int64_t occurrence = arguments.size() > 3 ? toWhole(arguments[3]) : 1;
   if (occurrence < 1) {
-    raiseArgumentOutOfRange();
+    raiseArgumentOutOfRange(Number(occurrence).toText());
   }
   const std::string_view view = text.view();
   const bool unitsAreBytes = bytes || utf8::isAscii(view);

@@ -91,6 +91,7 @@ constexpr Function kTable[] = {
     {"TRIM", 1, 3, true, types::varchar, strict<library::trim>},
     {"TRUNC", 1, 2, true, types::dateOrNumber, strict<library::truncate>},
     {"UPPER", 1, 1, true, types::sameText, strict<library::upper>},
+    {"VSIZE", 1, 1, true, types::wholeNumber, strict<library::storedSize>},
     {"WIDTH_BUCKET", 4, 4, true, types::number, library::widthBucket},
 };
 

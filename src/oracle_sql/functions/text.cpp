@@ -116,7 +116,7 @@ Value ascii(Arguments arguments, const Context&) {
 Value character(Arguments arguments, const Context&) {
   const std::int64_t code = toWhole(arguments[0]);
   if (code < 0 || code > 0xFFFFFFFF) {
-    raiseArgumentOutOfRange();
+    raiseArgumentOutOfRange(Number(code).toText());
   }
   std::string bytes;
   for (std::int64_t rest = code; rest != 0 || bytes.empty(); rest /= 256) {
