@@ -3,8 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "sections/sql/ModuleDispSQLorderedby.h"
-#include "support/report_fixture.h"
-#include "support/sql_repository.h"
+#include "sections/sql_ranking_support.h"
 
 namespace kestrelix {
 namespace {
@@ -14,59 +13,14 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using namespace testing_support;
 
-using Lines = std::vector<std::string>;
-
-class SqlRanking11 : public testing::Test {
+class SqlRanking11 : public SqlRankingTest {
  protected:
-  SqlRepository repository{"11"};
-  std::unique_ptr<ReportFixture> report;
+  SqlRanking11() : SqlRankingTest("11") {}
 
-  Lines all(const std::string& name, const Lines& headings, int pair = 0) {
-    open();
-    report->all("SQL ordered by " + name, pair);
-    return cellsOf(report->grid(), headings);
-  }
   /// The Col view of row `row` of the All view that shows.
   Lines col(int row, const Lines& headings) {
     report->col(row);
     return cellsOf(report->grid(), headings);
-  }
-  void open() {
-    if (report) return;
-    report = std::make_unique<ReportFixture>(repository.write());
-    report->open(0);
-  }
-
-  /// A statement captured by both ends. Its growth: 4 executions, 10 s elapsed, 2.5 s of CPU, 400 gets, 21
-  /// reads, 5 rows, 3 s of I/O waits, 1.5 s of cluster waits, 2 parse calls, 15 versions.
-  void plain() {
-    repository.usualTotals();
-    repository.add({.snap = 1,
-                    .hash = 101,
-                    .executions = 10,
-                    .elapsed = 2000000,
-                    .cpu = 1000000,
-                    .gets = 100,
-                    .reads = 10,
-                    .rows = 5,
-                    .ioWait = 300000,
-                    .clusterWait = 500000,
-                    .parseCalls = 4,
-                    .memory = 3000000,
-                    .versions = 10});
-    repository.add({.snap = 3,
-                    .hash = 101,
-                    .executions = 14,
-                    .elapsed = 12000000,
-                    .cpu = 3500000,
-                    .gets = 500,
-                    .reads = 31,
-                    .rows = 10,
-                    .ioWait = 3300000,
-                    .clusterWait = 2000000,
-                    .parseCalls = 6,
-                    .memory = 5242880,
-                    .versions = 25});
   }
 
   /// Statements of different fates, told by their elapsed seconds. All have as many gets as seconds.
@@ -100,72 +54,55 @@ class SqlRanking11 : public testing::Test {
 };
 
 TEST_F(SqlRanking11, everyColumnOfEveryRanking) {
-  plain();
-  const std::map<std::string, std::string> share{
-      {"CPU TOTAL", "5"},        // 2.5 of 50
-      {"Elapsed TOTAL", "10"},   // 10 of 100
-      {"Gets TOTAL", "4"},       // 400 of 10,000
-      {"Reads TOTAL", "2.1"},    // 21 of 1,000
-      {"I/O Wait TOTAL", "3"},   // 3 of 100
-      {"Cluster TOTAL", "10"},   // the elapsed time's share
-      {"Executions", "2"},       // 4 of 200
-      {"Parse Calls", "2"},      // 2 of 100
-      {"Sharable Memory", "5"},  // 5,242,880 of 104,857,600
-      {"Version Count", ""},
-  };
+  plain(3000000, 10);
   // Values per execution are texts, so a half has no zero before its point.
-  const std::map<std::string, std::string> expected{{"NO", "1"},
-                                                    {"OLD_HASH_VALUE", "101"},
-                                                    {"MODULE", "sqlplus"},
-                                                    {"EXECUTIONS", "4"},
-                                                    {"TOTAL_DB_CPU(S)", "50"},
-                                                    {"TOTAL_DB_TIME(S)", "100"},
-                                                    {"TOTAL_LOGICAL_READS", "10000"},
-                                                    {"TOTAL_PHYSICAL_READS", "1000"},
-                                                    {"TOTAL_EXECUTE_COUNT", "200"},
-                                                    {"TOTAL_PARSE_COUNT", "100"},
-                                                    {"SHARED_POOL_SIZE", "104857600"},
-                                                    {"CPU_TIME(S)", "2.5"},
-                                                    {"CPU_TIME_PEXEC(S)", ".63"},  // 0.625
-                                                    {"ELAPSED_TIME(S)", "10"},
-                                                    {"ELAPSED_TIME_PEXEC(S)", "2.5"},
-                                                    {"BUFFER_GETS", "400"},
-                                                    {"BUFFER_GETS_PEXEC", "100"},
-                                                    {"DISK_READS", "21"},
-                                                    {"DISK_READS_PEXEC", "5.25"},
-                                                    {"ROWS_PROCESSED", "5"},
-                                                    {"ROWS_PROCESSED_PEXEC", "1.25"},
-                                                    {"IO_WAIT_TIME(S)", "3"},
-                                                    {"IO_WAIT_TIME_PEXEC(S)", ".75"},
-                                                    {"CLUSTER_WAIT_TIME(S)", "1.5"},
-                                                    {"CLUSTER_WAIT_%ELAPSED", "15"},
-                                                    {"CLUSTER_WAIT_TIME_PEXEC(S)", ".38"},  // 0.375
-                                                    {"PARSE_CALLS", "2"},
-                                                    {"MAX_SHARABLE_MEM", "5242880"},
-                                                    {"LAST_SHARABLE_MEM", "5242880"},
-                                                    {"MAX_VERSION_COUNT", "25"},
-                                                    {"LAST_VERSION_COUNT", "25"},
-                                                    {"DELTA_VERSION_COUNT", "15"},
-                                                    {"HASH_VALUE", "9101"},
-                                                    {"ADDRESS", "00000000000000A1"}};
-  open();
-  for (const auto& [name, percent] : share) {
-    report->all("SQL ordered by " + name, 0);
-    ASSERT_EQ(report->grid().Rows(), 2) << name;
-    for (const auto& [heading, cell] : rowOf(report->grid(), 1))
-      EXPECT_EQ(cell, heading == "%TOTAL" ? percent : expected.at(heading)) << name << ": " << heading;
-    report->col(1);
-    ASSERT_EQ(report->grid().Rows(), 2) << name;
-    for (const auto& [heading, cell] : rowOf(report->grid(), 1)) {
-      if (heading == "END TIME")
-        EXPECT_EQ(cell, "2026-01-05 11:00:00");
-      else if (heading == "STATUS")
-        EXPECT_EQ(cell, "OK");
-      else
-        EXPECT_EQ(cell, heading == "%TOTAL" ? percent : expected.at(heading)) << name << ": " << heading;
-    }
-  }
-  EXPECT_THAT(report->boxes(), IsEmpty()) << testing::PrintToString(report->errors());
+  expectRows(
+      {
+          {"CPU TOTAL", "5"},        // 2.5 of 50
+          {"Elapsed TOTAL", "10"},   // 10 of 100
+          {"Gets TOTAL", "4"},       // 400 of 10,000
+          {"Reads TOTAL", "2.1"},    // 21 of 1,000
+          {"I/O Wait TOTAL", "3"},   // 3 of 100
+          {"Cluster TOTAL", "10"},   // the elapsed time's share
+          {"Executions", "2"},       // 4 of 200
+          {"Parse Calls", "2"},      // 2 of 100
+          {"Sharable Memory", "5"},  // 5,242,880 of 104,857,600
+          {"Version Count", ""},
+      },
+      {{"NO", "1"},
+       {"OLD_HASH_VALUE", "101"},
+       {"MODULE", "sqlplus"},
+       {"EXECUTIONS", "4"},
+       {"TOTAL_DB_CPU(S)", "50"},
+       {"TOTAL_DB_TIME(S)", "100"},
+       {"TOTAL_LOGICAL_READS", "10000"},
+       {"TOTAL_PHYSICAL_READS", "1000"},
+       {"TOTAL_EXECUTE_COUNT", "200"},
+       {"TOTAL_PARSE_COUNT", "100"},
+       {"SHARED_POOL_SIZE", "104857600"},
+       {"CPU_TIME(S)", "2.5"},
+       {"CPU_TIME_PEXEC(S)", ".63"},  // 0.625
+       {"ELAPSED_TIME(S)", "10"},
+       {"ELAPSED_TIME_PEXEC(S)", "2.5"},
+       {"BUFFER_GETS", "400"},
+       {"BUFFER_GETS_PEXEC", "100"},
+       {"DISK_READS", "21"},
+       {"DISK_READS_PEXEC", "5.25"},
+       {"ROWS_PROCESSED", "5"},
+       {"ROWS_PROCESSED_PEXEC", "1.25"},
+       {"IO_WAIT_TIME(S)", "3"},
+       {"IO_WAIT_TIME_PEXEC(S)", ".75"},
+       {"CLUSTER_WAIT_TIME(S)", "1.5"},
+       {"CLUSTER_WAIT_%ELAPSED", "15"},
+       {"CLUSTER_WAIT_TIME_PEXEC(S)", ".38"},  // 0.375
+       {"PARSE_CALLS", "2"},
+       {"MAX_SHARABLE_MEM", "5242880"},
+       {"LAST_SHARABLE_MEM", "5242880"},
+       {"MAX_VERSION_COUNT", "25"},
+       {"LAST_VERSION_COUNT", "25"},
+       {"DELTA_VERSION_COUNT", "15"},
+       {"HASH_VALUE", "9101"},
+       {"ADDRESS", "00000000000000A1"}});
 }
 
 TEST_F(SqlRanking11, aReloadedCursorCountsAnewAndALateOneWhole) {
