@@ -107,7 +107,8 @@ TEST(CacheSizes, olderSettingCountsIfItGivesASize) {
   EXPECT_EQ(report.grid().TextMatrix(1, 3), "1");
 }
 
-// 8 + 4 + 2 + 1 + 1 + 1 + 1 + 1 MB in the start, the same with the automatic 16 for the 8 in the end.
+// 8 + 40 + 2 + 1 + 1 + 1 + 1 + 1 MB in the start, the same with the automatic 16 for the 8 in the end.
+// Nothing ties the keep cache to the database: the 40 are its neighbour's.
 TEST(CacheSizes, newerSizesAddUpAndTheLargerOfTwoSettingsCounts) {
   HeadRepository repository("10");
   repository.parameter("db_block_size", {"8192", "8192"})
@@ -124,7 +125,7 @@ TEST(CacheSizes, newerSizesAddUpAndTheLargerOfTwoSettingsCounts) {
     repository.parameter(name, {"1048576", "1048576"});
   ReportFixture report(repository.write());
   report.open(0);
-  EXPECT_EQ(columnsOf(report.all("Cache Sizes", 0), 2, 3), "START VALUE|END VALUE\n19|27\n9|10\n|\n|\n");
+  EXPECT_EQ(columnsOf(report.all("Cache Sizes", 0), 2, 3), "START VALUE|END VALUE\n55|63\n9|10\n|\n|\n");
 }
 
 // Without a value the size is null, which a descending sort puts first: the getter can't show it.
@@ -155,16 +156,19 @@ TEST(CacheSizes, eachOfTheTenParametersIsNeeded) {
   }
 }
 
-// Nothing ties the keep cache to the database: that of another one in the same repository gives its row too.
-TEST(CacheSizes, keepCacheOfAnyDatabaseCounts) {
-  HeadRepository repository("10");
-  parameters(repository);
-  repository.row("stats$parameter",
-                 {{"dbid", "8"}, {"snap_id", "1"}, {"name", "db_keep_cache_size"}, {"value", "1048576"}});
+TEST(CacheSizes, sizesAreRoundedToWholeUnits) {
+  HeadRepository repository("10", {"10:00:00", "11:00:00"});
+  repository
+      .parameter("db_block_size", {"2560", "2560"})  // 2.5 KB
+      .parameter("db_block_buffers", {"0", "0"})
+      .parameter("db_cache_size", {"1572864", "3670016"})  // 1.5, 3.5 MB
+      .parameter("shared_pool_size", {"1572864", "3670016"})
+      .parameter("log_buffer", {"1536", "0"});  // 1.5 KB
+  for (const char* name : kOtherCaches) repository.parameter(name, {"0", "0"});
   ReportFixture report(repository.write());
   report.open(0);
-  report.all("Cache Sizes", 0);
-  EXPECT_EQ(report.grid().TextMatrix(1, 2), "101");
+  EXPECT_EQ(columnsOf(report.all("Cache Sizes", 0), 2, 4),
+            "START VALUE|END VALUE|OTHER VALUE\n2|4|\n2|4|\n||3\n||2\n");
 }
 
 TEST(CacheSizes, missingLogBufferIsTheBoxOfItsGetter) {

@@ -20,7 +20,7 @@ class HeadRepository : public FixtureRepository {
   explicit HeadRepository(std::string_view major,
                           Values times = {"10:00:00", "11:00:00", "12:00:00", "13:00:00"})
       : FixtureRepository(major) {
-    common({{"dbid", "7"}, {"instance_number", "1"}});
+    withNeighbours().common({{"dbid", "7"}, {"instance_number", "1"}});
     const std::string version = std::string(major) + ".2.0.4.0";
     row("stats$database_instance", {{"db_name", "DEMO"},
                                     {"instance_name", "demo"},

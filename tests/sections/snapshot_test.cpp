@@ -10,24 +10,24 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// 8 sessions with 12 cursors are 1.5 each; 3 with 10 are 3.3; none at snapshot 3; 3 with 1 are .3.
+// 8 sessions with 12 cursors are 1.5 each; 3 with 11 are 3.7; none at snapshot 3; 3 with 2 are .7.
 void sessions(HeadRepository& repository) {
   repository.sysstat("logons current", {"8", "3", "0", "3"})
-      .sysstat("opened cursors current", {"12", "10", "4", "1"});
+      .sysstat("opened cursors current", {"12", "11", "4", "2"});
 }
 
 TEST(Snapshot, tellsBothSnapshotsAndTheMinutesBetween) {
   for (const char* version : {"9", "10", "11"}) {
-    HeadRepository repository(version, {"10:00:00", "11:00:20"});
+    HeadRepository repository(version, {"10:00:00", "11:00:22"});
     sessions(repository);
     ReportFixture report(repository.write());
     report.open(0);
-    // 3620 seconds are 60.333... minutes. A comment that isn't there is one blank.
+    // 3622 seconds are 60.3666... minutes. A comment that isn't there is one blank.
     EXPECT_EQ(report.all("Snapshot", 0),
               "NO|NAME|SNAP TIME|SNAP ID|SESSIONS|CURS/SESS|LEVEL|COMMENT|OTHER VALUE\n"
               "1|Begin Snap:|2026-01-05 10:00:00|1|8|1.5|7| |\n"
-              "2|End Snap:|2026-01-05 11:00:20|2|3|3.3|7| |\n"
-              "3|Elapsed(mins):|||||||60.33\n");
+              "2|End Snap:|2026-01-05 11:00:22|2|3|3.7|7| |\n"
+              "3|Elapsed(mins):|||||||60.37\n");
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
 }
@@ -40,7 +40,7 @@ TEST(Snapshot, restartedPairLeavesElapsedBlankAlone) {
   // Snapshot 3 has no sessions to share its cursors: a blank.
   EXPECT_EQ(report.all("Snapshot", 1),
             "NO|NAME|SNAP TIME|SNAP ID|SESSIONS|CURS/SESS|LEVEL|COMMENT|OTHER VALUE\n"
-            "1|Begin Snap:|2026-01-05 11:00:00|2|3|3.3|7| |\n"
+            "1|Begin Snap:|2026-01-05 11:00:00|2|3|3.7|7| |\n"
             "2|End Snap:|2026-01-05 12:00:00|3|0| |7| |\n"
             "3|Elapsed(mins):|||||||\n");
 }
@@ -70,7 +70,7 @@ TEST(Snapshot, beginRowsOfAllPairsHaveTheirOwnTimeColumn) {
   EXPECT_EQ(report.col(1),
             "NO|NAME|START TIME|SNAP ID|SESSIONS|CURS/SESS|LEVEL|COMMENT\n"
             "1|Begin Snap:|2026-01-05 10:00:00|1|8|1.5|7| \n"
-            "2|Begin Snap:|2026-01-05 11:00:00|2|3|3.3|7| \n"
+            "2|Begin Snap:|2026-01-05 11:00:00|2|3|3.7|7| \n"
             "3|Begin Snap:|2026-01-05 12:00:00|3|0| |7| \n");
 }
 
@@ -82,9 +82,9 @@ TEST(Snapshot, endRowsOfAllPairs) {
   report.all("Snapshot", 0);
   EXPECT_EQ(report.col(2),
             "NO|NAME|END TIME|SNAP ID|SESSIONS|CURS/SESS|LEVEL|COMMENT\n"
-            "1|End Snap:|2026-01-05 11:00:00|2|3|3.3|7| \n"
+            "1|End Snap:|2026-01-05 11:00:00|2|3|3.7|7| \n"
             "2|End Snap:|2026-01-05 12:00:00|3|0| |7| \n"
-            "3|End Snap:|2026-01-05 13:00:00|4|3|.3|7| \n");
+            "3|End Snap:|2026-01-05 13:00:00|4|3|.7|7| \n");
 }
 
 TEST(Snapshot, elapsedTimesLeaveTheRestartBlankWithItsStatus) {

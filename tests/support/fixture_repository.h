@@ -58,7 +58,7 @@ class FixtureRepository {
   }
   FixtureRepository& row(std::string_view table,
                          const std::vector<std::pair<std::string_view, std::string_view>>& values) {
-    std::map<std::string, std::string> cells;
+    Row cells;
     for (const auto& [column, value] : values) cells[asciiLower(column)] = value;
     add(table, std::move(cells));
     return *this;
@@ -69,7 +69,7 @@ class FixtureRepository {
                           std::initializer_list<std::initializer_list<std::string_view>> lines) {
     for (const auto& line : lines) {
       if (line.size() != columns.size()) throw std::logic_error("fixture: a row of another length");
-      std::map<std::string, std::string> cells;
+      Row cells;
       auto value = line.begin();
       for (const std::string_view column : columns) cells[asciiLower(column)] = *value++;
       add(table, std::move(cells));
@@ -90,6 +90,13 @@ class FixtureRepository {
     return *this;
   }
 
+  /// Lets every row stand once more, with other figures, under another database, another instance and a
+  /// purged snapshot, and before the row itself: what a statement finds there is a condition that it lacks.
+  FixtureRepository& withNeighbours() {
+    neighbours_ = true;
+    return *this;
+  }
+
   const std::filesystem::path& path() const { return path_; }
 
   /// Writes the file, over any earlier one, and tells where it is.
@@ -99,14 +106,18 @@ class FixtureRepository {
       if (left_.contains(table.name)) continue;
       std::vector<embedded::NewColumn> columns;
       for (const statspack::Column& column : table.columns) columns.push_back({column.name, column.type});
-      writeRows(writer.addTable(table.name, std::move(columns)), table.name);
+      embedded::TableWriter& written = writer.addTable(table.name, std::move(columns));
+      if (neighbours_) writeRows(written, neighboursOf(table));
+      writeRows(written, rows_[table.name]);
     }
     writer.finish();
     return path_;
   }
 
  private:
-  void add(std::string_view table, std::map<std::string, std::string> cells) {
+  using Row = std::map<std::string, std::string>;
+
+  void add(std::string_view table, Row cells) {
     const statspack::Table* known = schema_.table(table);
     if (known == nullptr) throw std::logic_error("fixture: no table " + std::string(table));
     for (const auto& [column, value] : cells)
@@ -117,8 +128,37 @@ class FixtureRepository {
     rows_[known->name].push_back(std::move(cells));
   }
 
-  void writeRows(embedded::TableWriter& table, const std::string& name) {
-    for (const auto& row : rows_[name]) {
+  /// The list of instances has none, and that of snapshots no further one of the same instance.
+  std::vector<Row> neighboursOf(const statspack::Table& table) const {
+    std::vector<Row> neighbours;
+    const auto told = rows_.find(table.name);
+    if (told == rows_.end() || table.name == "stats$database_instance") return neighbours;
+    const std::pair<std::string_view, const char*> elsewhere[] = {
+        {"dbid", "0"}, {"instance_number", "0"}, {"snap_id", "0"}};
+    for (const auto& [key, place] : elsewhere) {
+      const statspack::Column* kept = table.column(key);
+      if (kept == nullptr || kept->keyPlace == 0) continue;
+      if (table.name == "stats$snapshot" && key == "snap_id") continue;
+      for (Row row : told->second) {
+        for (auto& [column, value] : row) value = otherFigure(*table.column(column), value);
+        row[std::string(key)] = place;
+        neighbours.push_back(std::move(row));
+      }
+    }
+    return neighbours;
+  }
+
+  /// Another value for what is neither a key of the table nor of another one. The figures of stats$parameter
+  /// are texts.
+  static std::string otherFigure(const statspack::Column& column, const std::string& value) {
+    const bool isKey =
+        column.keyPlace > 0 || column.name.ends_with("_id") || column.name.ends_with("hash_value");
+    if (column.type == statspack::Type::Date && !isKey && !value.empty()) return "1999" + value.substr(4);
+    return column.name == "value" || (column.type == statspack::Type::Number && !isKey) ? value + "7" : value;
+  }
+
+  void writeRows(embedded::TableWriter& table, const std::vector<Row>& rows) {
+    for (const Row& row : rows) {
       std::vector<embedded::Cell> cells;
       std::vector<std::string> scratch(table.columns().size());
       for (std::size_t i = 0; i < table.columns().size(); ++i) {
@@ -133,8 +173,9 @@ class FixtureRepository {
   const statspack::Release& schema_;
   std::filesystem::path path_;
   std::map<std::string, std::string> common_;
-  std::map<std::string, std::vector<std::map<std::string, std::string>>> rows_;
+  std::map<std::string, std::vector<Row>> rows_;
   std::set<std::string> left_;
+  bool neighbours_ = false;
 };
 
 }  // namespace kestrelix::testing_support

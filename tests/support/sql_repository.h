@@ -35,7 +35,7 @@ struct Captured {
 class SqlRepository {
  public:
   explicit SqlRepository(const std::string& major) : major_(major), fixture(major) {
-    fixture.common({{"dbid", "1"}, {"instance_number", "1"}});
+    fixture.withNeighbours().common({{"dbid", "1"}, {"instance_number", "1"}});
     fixture.row("stats$database_instance", {{"startup_time", "2000-01-01 00:00:00"},
                                             {"snap_id", "1"},
                                             {"parallel", "YES"},
