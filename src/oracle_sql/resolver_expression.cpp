@@ -23,6 +23,12 @@ bool isWhole(std::string_view number) {
   return number.find_first_not_of("0123456789") == std::string_view::npos && number.size() <= 18;
 }
 
+void checkListLength(const ExprList& list) {
+  if (list.size() > kMaxListValues)
+    throw SqlError::wrong(1795, "maximum number of expressions in a list is 1000",
+                          list[kMaxListValues]->place);
+}
+
 // ORA-01426 for 1E200.
 void checkNumber(std::string_view text, Place place) {
   try {
@@ -181,6 +187,7 @@ void Resolver::condition(Expr& e, const Env& env) {
         else
           comparable(left, right, c.place);
       }
+      checkListLength(c.list);
       for (Expr* item : c.list) comparable(left, value(*item, env), item->place);
       if (c.query) subqueryAgainst(*c.left, *c.query, env, c.place);
       return;
@@ -207,6 +214,7 @@ void Resolver::condition(Expr& e, const Env& env) {
     case ExprKind::In: {
       auto& in = static_cast<InExpr&>(e);
       const Type t = value(*in.operand, env);
+      if (in.operand->kind != ExprKind::Row) checkListLength(in.list);
       for (Expr* item : in.list) {
         const Type other = value(*item, env);
         if (in.operand->kind == ExprKind::Row)

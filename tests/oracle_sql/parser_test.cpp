@@ -170,8 +170,8 @@ TEST(Bounds, deepNestingIsRefusedAndNotACrash) {
     EXPECT_THROW(parse(nested("select * from (", "select 1 from dual", ")", n)), SqlError);
     EXPECT_THROW(parse("select 1 from " + nested("a join ", "b", " on 1=1", n)), SqlError);
   }
-  EXPECT_THROW(parse("select 1" + nested("+1", "", "", 2'000) + " from dual"), SqlError);
-  EXPECT_THROW(parse("select 1 from a" + nested(" cross join b", "", "", 2'000)), SqlError);
+  EXPECT_THROW(parse("select 1" + nested("+1", "", "", kMaxHeight) + " from dual"), SqlError);
+  EXPECT_THROW(parse("select 1 from a" + nested(" cross join b", "", "", kMaxHeight)), SqlError);
 }
 
 TEST(Bounds, wideStatementsAreNotDeepOnes) {

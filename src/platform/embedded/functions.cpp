@@ -72,14 +72,18 @@ void callTyped(sqlite3_context* context, int count, Values arguments) {
 
 void forgetTyped(void* data) { delete static_cast<TypedFunction*>(data); }
 
+// Of both the arguments are the counter and the number of the row among those that are tried.
 void rownumToTry(sqlite3_context* context, int, Values arguments) {
   const auto slot = static_cast<std::size_t>(sqlite3_value_int(arguments[0]));
-  sqlite3_result_int64(context, evaluationOf(context).rownums[slot] + 1);
+  const bool first = sqlite3_value_int64(arguments[1]) == 1;
+  sqlite3_result_int64(context, first ? 1 : evaluationOf(context).rownums[slot] + 1);
 }
 
 void rownumPasses(sqlite3_context* context, int, Values arguments) {
-  const bool passes = sqlite3_value_int(arguments[1]) != 0;
-  if (passes) ++evaluationOf(context).rownums[static_cast<std::size_t>(sqlite3_value_int(arguments[0]))];
+  auto& passed = evaluationOf(context).rownums[static_cast<std::size_t>(sqlite3_value_int(arguments[0]))];
+  if (sqlite3_value_int64(arguments[1]) == 1) passed = 0;
+  const bool passes = sqlite3_value_int(arguments[2]) != 0;
+  if (passes) ++passed;
   sqlite3_result_int(context, passes);
 }
 
@@ -106,10 +110,10 @@ void registerFunctions(sqlite3* connection, Evaluation& evaluation) {
   registerAggregates(connection, evaluation);
   registerKeptValues(connection, evaluation);
   registerKeepAggregates(connection, evaluation);
-  checkRegistration(sqlite3_create_function_v2(connection, "rownum_to_try", 1, kStateful, &evaluation,
+  checkRegistration(sqlite3_create_function_v2(connection, "rownum_to_try", 2, kStateful, &evaluation,
                                                rownumToTry, nullptr, nullptr, nullptr),
                     "rownum_to_try");
-  checkRegistration(sqlite3_create_function_v2(connection, "rownum_passes", 2, kStateful, &evaluation,
+  checkRegistration(sqlite3_create_function_v2(connection, "rownum_passes", 3, kStateful, &evaluation,
                                                rownumPasses, nullptr, nullptr, nullptr),
                     "rownum_passes");
   checkRegistration(sqlite3_create_function_v2(connection, "nvl_of_both", 2, kPure, nullptr, nvlOfBoth,

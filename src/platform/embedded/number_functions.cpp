@@ -1,5 +1,8 @@
 // NUMBER arithmetic, order and rounding, and the arithmetic of dates.
+#include <algorithm>
+#include <charconv>
 #include <cstdint>
+#include <string_view>
 
 #include "oracle_sql/date.h"
 #include "platform/embedded/function_frame.h"
@@ -70,6 +73,41 @@ void negate(sqlite3_context* context, int, Values arguments) {
     giveNumber(context, -numberOf(arguments[0]));
   } catch (...) {
     giveFailure(context, evaluationOf(context), offsetOf(arguments[1]));
+  }
+}
+
+/// Many operators from left to right. The second argument has them, each with the place that its failure is
+/// told at, as "+12/15"; the others are the operands, one more than operators.
+void chain(sqlite3_context* context, int count, Values arguments) {
+  std::string_view operators(reinterpret_cast<const char*>(sqlite3_value_text(arguments[1])),
+                             static_cast<std::size_t>(sqlite3_value_bytes(arguments[1])));
+  std::uint32_t place = 0;
+  try {
+    if (isNull(arguments[0])) return sqlite3_result_null(context);
+    Number result = numberOf(arguments[0]);
+    for (int i = 2; i < count; ++i) {
+      if (isNull(arguments[i])) return sqlite3_result_null(context);
+      const auto end = std::min(operators.find_first_not_of("0123456789", 1), operators.size());
+      std::from_chars(operators.data() + 1, operators.data() + end, place);
+      const Number operand = numberOf(arguments[i]);
+      switch (operators.front()) {
+        case '+':
+          result = result + operand;
+          break;
+        case '-':
+          result = result - operand;
+          break;
+        case '*':
+          result = result * operand;
+          break;
+        default:
+          result = result / operand;
+      }
+      operators.remove_prefix(end);
+    }
+    giveNumber(context, result);
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), place);
   }
 }
 
@@ -245,7 +283,7 @@ constexpr Entry kFunctions[] = {
     {"num_key", 1, orderKey},      {"whole_up", 1, wholeUp},      {"whole_down", 1, wholeDown},
     {"rows_up_to", 1, rowsUpTo},   {"rows_below", 1, rowsBelow},  {"date_days", 3, dateDays},
     {"date_plus", 3, datePlus},    {"date_minus", 3, dateMinus},  {"cast_number", 4, castNumber},
-    {"cast_float", 3, castFloat},
+    {"cast_float", 3, castFloat},  {"num_chain", -1, chain},
 };
 
 }  // namespace

@@ -71,6 +71,7 @@ Piece divided(Emitter&, const Piece& left, const Piece& right, sql::Place place)
 }
 
 Piece lowerArithmetic(Emitter& emitter, const sql::Arithmetic& arithmetic) {
+  if (isLongChain(arithmetic)) return lowerLongChain(emitter, arithmetic);
   Piece left = emitter.expression(*arithmetic.left);
   Piece right = emitter.expression(*arithmetic.right);
   const sql::Place place = arithmetic.place;

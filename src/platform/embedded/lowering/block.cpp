@@ -26,15 +26,19 @@ QueryText lowerBlock(Emitter& emitter, const sql::SelectBlock& block,
   if (block.usesRownum) {
     text = lowerRownumBlock(emitter, block, parts, order);
   } else {
-    std::string where;
-    for (const sql::Expr* term : parts.conjuncts)
-      where += (where.empty() ? " WHERE " : " AND ") + emitter.condition(*term);
+    std::string where = whereOf(emitter, parts.conjuncts);
     if (const std::string keys = givenKeyTests(emitter, block); !keys.empty())
       where += (where.empty() ? " WHERE " : " AND ") + keys;
     text = assembleBlock(emitter, block, parts.from, where, order);
   }
   emitter.rownum() = rownumAround;
   return text;
+}
+
+std::string whereOf(Emitter& emitter, const std::vector<const sql::Expr*>& conjuncts) {
+  std::vector<std::string> terms;
+  for (const sql::Expr* term : conjuncts) terms.push_back(emitter.condition(*term));
+  return terms.empty() ? "" : " WHERE " + chained(std::move(terms), " AND ");
 }
 
 BlockParts lowerFrom(Emitter& emitter, const sql::SelectBlock& block) {
@@ -88,7 +92,9 @@ std::string groupByText(const std::vector<std::string>& keys) {
 QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
                         const std::string& where, const sql::List<sql::OrderItem>* order) {
   if (readsGroups(block)) return assembleGroups(emitter, block, from, where, order);
-  QueryText result = assembleList(emitter, block, from, where);
+  const std::string anchorAround = emitter.anchor();
+  const std::string anchor = lowerAnchor(emitter, block, order);
+  QueryText result = assembleList(emitter, block, from + anchor, where);
   std::vector<std::string> keys;
   for (const sql::Expr* key : block.groupBy)
     // A constant groups nothing in Oracle; SQLite would take a whole number for the place of a column.
@@ -96,6 +102,7 @@ QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const s
   if (!block.groupBy.empty()) result.text += groupByText(keys);
   if (block.having) result.text += " HAVING " + emitter.condition(*block.having);
   if (order && !order->empty()) result.text += lowerOrder(emitter, *order, &result.outputs);
+  emitter.anchor() = anchorAround;
   return result;
 }
 

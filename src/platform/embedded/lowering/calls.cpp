@@ -26,6 +26,20 @@ bool isConversionToItself(const sql::Call& call, const Piece& argument) {
                                    (call.name == "TO_DATE" && argument.kind == sql::TypeKind::Date));
 }
 
+/// Of the 127 arguments of a function in SQLite, those that are given to one.
+constexpr std::size_t kMostArguments = 100;
+
+/// GREATEST and LEAST of more arguments than SQLite takes are those of the first ones and the rest.
+void foldExtremes(Emitter& emitter, const sql::Call& call, std::vector<Piece>& arguments) {
+  if (call.name != "GREATEST" && call.name != "LEAST") return;
+  while (arguments.size() > kMostArguments) {
+    const auto rest = arguments.begin() + kMostArguments;
+    Piece first = emitter.call(call.name, {arguments.begin(), rest}, call.type, call.place);
+    arguments.erase(arguments.begin() + 1, rest);
+    arguments.front() = std::move(first);
+  }
+}
+
 }  // namespace
 
 Piece lowerCall(Emitter& emitter, const sql::Call& call) {
@@ -51,6 +65,7 @@ Piece lowerCall(Emitter& emitter, const sql::Call& call) {
     arguments.front().kind = call.type.kind;
     return arguments.front();
   }
+  foldExtremes(emitter, call, arguments);
   Piece piece = emitter.call(function, arguments, call.type, call.place);
   piece.number.integral = piece.kind == sql::TypeKind::Number && call.type.integral;
   for (const auto& whole : kWholeFunctions)

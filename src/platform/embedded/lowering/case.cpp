@@ -7,9 +7,9 @@ Piece lowerCase(Emitter& emitter, const sql::CaseExpr& expr) {
   result.kind = expr.type.kind;
   CommonFacts facts;
   const auto branch = [&](const sql::Expr& value) {
-    const Piece piece = emitter.converted(emitter.expression(value), result.kind, value.place);
+    Piece piece = emitter.converted(emitter.expression(value), result.kind, value.place);
     facts.add(piece);
-    return piece.text;
+    return piece;
   };
   result.text = "CASE";
   for (const auto& arm : expr.whens) {
@@ -17,11 +17,12 @@ Piece lowerCase(Emitter& emitter, const sql::CaseExpr& expr) {
                                  ? compared(emitter, sql::CompareOp::Equal, emitter.expression(*expr.operand),
                                             emitter.expression(*arm.when), arm.when->place)
                                  : emitter.condition(*arm.when);
-    result.text += " WHEN " + when + " THEN " + branch(*arm.then);
+    result.text += " WHEN " + when + " THEN " + branch(*arm.then).text;
   }
-  if (expr.otherwise) result.text += " ELSE " + branch(*expr.otherwise);
+  if (expr.otherwise) result.text += elseOf(branch(*expr.otherwise));
   result.text += " END";
   result.atom = true;
+  result.searched = true;
   result.number = facts.facts();
   return result;
 }

@@ -115,13 +115,10 @@ std::string quantified(Emitter& emitter, const sql::Compare& compare) {
       return lowerInQuery(emitter, {left}, true, *compare.query, compare.place);
     throw sql::SqlError::unsupported(any ? "ANY with a subquery" : "ALL with a subquery", compare.place);
   }
-  std::string text;
+  std::vector<std::string> terms;
   for (const sql::Expr* item : compare.list)
-    text += (text.empty() ? ""
-             : any        ? " OR "
-                          : " AND ") +
-            compared(emitter, compare.op, left, emitter.expression(*item), compare.place);
-  return "(" + text + ")";
+    terms.push_back(compared(emitter, compare.op, left, emitter.expression(*item), compare.place));
+  return "(" + chained(std::move(terms), any ? " OR " : " AND ") + ")";
 }
 
 }  // namespace
@@ -188,8 +185,9 @@ std::string lowerIn(Emitter& emitter, const sql::InExpr& in) {
     return "(" + (padded ? withoutBlanks(value) : bracketed(value)) + (in.negated ? " NOT IN (" : " IN (") +
            text + "))";
   }
-  for (const auto& item : items)
-    text += (text.empty() ? "" : " OR ") + equalRows(emitter, operand, item, in.place);
+  std::vector<std::string> terms;
+  for (const auto& item : items) terms.push_back(equalRows(emitter, operand, item, in.place));
+  text = chained(std::move(terms), " OR ");
   return in.negated ? "(NOT (" + text + "))" : "(" + text + ")";
 }
 

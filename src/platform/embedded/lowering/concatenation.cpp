@@ -19,12 +19,13 @@ Piece lowerConcat(Emitter& emitter, const sql::Concat& concat) {
   collect(emitter, concat, parts);
   Piece piece;
   piece.kind = sql::TypeKind::Varchar2;
+  std::vector<std::string> terms;
   for (const Piece& part : parts) {
     if (part.kind == sql::TypeKind::Null) continue;
-    piece.text += (piece.text.empty() ? "" : " || ") +
-                  (part.present ? bracketed(part) : "coalesce(" + part.text + ", '')");
+    terms.push_back(part.present ? bracketed(part) : "coalesce(" + part.text + ", '')");
     piece.present = piece.present || part.present;
   }
+  piece.text = chained(std::move(terms), " || ");
   if (piece.text.empty()) piece.text = "NULL";
   if (!piece.present) {
     piece.text = "nullif(" + piece.text + ", '')";

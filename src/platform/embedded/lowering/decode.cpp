@@ -60,16 +60,17 @@ Piece lowerDecode(Emitter& emitter, const sql::Call& call) {
   result.kind = call.type.kind;
   result.atom = true;
   CommonFacts facts;
-  const auto resultText = [&](const sql::Expr& expr) {
-    const Piece piece = emitter.converted(emitter.expression(expr), result.kind, expr.place);
+  const auto resultOf = [&](const sql::Expr& expr) {
+    Piece piece = emitter.converted(emitter.expression(expr), result.kind, expr.place);
     facts.add(piece);
-    return piece.text;
+    return piece;
   };
   std::vector<Arm> arms;
   std::size_t next = 1;
   for (; next + 1 < call.args.size(); next += 2)
-    arms.push_back({emitter.expression(*call.args[next]), resultText(*call.args[next + 1])});
-  const std::string otherwise = next < call.args.size() ? " ELSE " + resultText(*call.args[next]) : "";
+    arms.push_back({emitter.expression(*call.args[next]), resultOf(*call.args[next + 1]).text});
+  Piece otherwise;
+  if (next < call.args.size()) otherwise = resultOf(*call.args[next]);
 
   Piece value = emitter.expression(*call.args.front());
   const TypeKind kind = comparisonKind(value, arms);
@@ -87,7 +88,9 @@ Piece lowerDecode(Emitter& emitter, const sql::Call& call) {
     result.text = "CASE";
     for (const Arm& arm : arms) result.text += " WHEN " + test(value, arm.search) + " THEN " + arm.result;
   }
-  result.text += otherwise + " END";
+  result.searched = !simple;
+  if (!otherwise.text.empty()) result.text += simple ? " ELSE " + otherwise.text : elseOf(otherwise);
+  result.text += " END";
   result.number = facts.facts();
   return result;
 }

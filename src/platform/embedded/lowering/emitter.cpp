@@ -9,6 +9,9 @@
 namespace kestrelix::embedded {
 namespace {
 
+/// SQLite's parser keeps a hundred open rules, of which a query inside another one takes up to eight.
+constexpr int kMostLevels = 5;
+
 // Groups of a table's rows that are made at each use are made of the rows that the use asks for, and not of
 // all that there are: SQLite hands no test down into a named query that is used twice. Rows that are counted
 // could be others at each use, so there is no ROWNUM below.
@@ -82,7 +85,8 @@ LoweredStatement lower(const sql::Tree& tree, const LoweringFacts& facts) {
 LoweredStatement Emitter::statement() {
   const sql::Query& whole = *tree_.query();
   markUsedColumns(whole, usedColumns_);
-  result_.text = query(whole).text;
+  const std::string text = query(whole).text;
+  result_.text = with_.empty() ? text : "WITH " + with_ + " " + text;
   for (const auto& column : whole.columns)
     result_.columns.push_back({std::string(column.name), column.type.kind});
   return std::move(result_);
@@ -102,21 +106,38 @@ const Source& Emitter::sourceOf(const sql::FromItem* item) const {
   return found->second;
 }
 
+// A named query sees nothing of the queries around it, so all of them stand in front of the statement, under
+// names that no table has.
+std::string Emitter::nameQuery(std::string_view wish, const std::string& text) {
+  const std::string name = uniqueAlias("with " + std::string(wish));
+  with_ += (with_.empty() ? "" : ", ") + quoted(name) + " AS (" + text + ")";
+  return name;
+}
+
 QueryText Emitter::query(const sql::Query& query) {
-  std::string with;
+  const int levelsAround = levels_;
   for (const sql::WithItem* item : query.with) {
     if (item->uses == 0) continue;
     QueryText text = this->query(*item->query);
-    Source source{uniqueAlias(item->name), std::move(text.columns)};
+    Source source;
     if (isPlainGroup(*item->query))
       repeated_[item] = std::move(text.text);
     else
-      with += (with.empty() ? "WITH " : ", ") + quoted(source.alias) + " AS (" + text.text + ")";
+      source.alias = nameQuery(item->name, text.text);
+    source.columns = std::move(text.columns);
     sources_[item] = std::move(source);
   }
+  levels_ = 0;
   QueryText text =
       query.single() ? lowerBlock(*this, *query.single(), &query.orderBy) : lowerSetOperators(*this, query);
-  if (!with.empty()) text.text = with + " " + text.text;
+  deepen(1);
+  if (levels_ > kMostLevels && !query.correlated && &query != tree_.query()) {
+    text.text = "SELECT * FROM " + quoted(nameQuery("view", text.text));
+    text.outputs.clear();
+    text.listEnd = 0;
+    levels_ = 1;
+  }
+  levels_ = std::max(levels_, levelsAround);
   return text;
 }
 

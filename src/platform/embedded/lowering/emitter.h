@@ -31,6 +31,8 @@ struct Piece {
   bool cheap = false;    ///< a name or a literal: may stand more than once
   bool present = false;  ///< never NULL
   ExactQuotient quotient;
+  bool searched = false;                  ///< was made as CASE WHEN ... END, see elseOf()
+  std::vector<std::string> alternatives;  ///< was made as the COALESCE of these, see alternativesOf()
 };
 
 /// A column of a FROM item under the name that SQLite knows it by.
@@ -100,6 +102,8 @@ class Emitter {
   Piece converted(Piece piece, sql::TypeKind target, sql::Place place);
 
   std::string uniqueAlias(std::string_view wish);
+  /// Tells that what is lowered stands in so many more queries inside each other than the tree shows.
+  void deepen(int levels) { levels_ += levels; }
   int newRownumCounter() { return result_.rownumCounters++; }
 
   /// The aggregate calls of a block whose results are taken from an inner block, by node.
@@ -110,6 +114,8 @@ class Emitter {
   std::vector<Wrap*>& wraps() { return wraps_; }
   /// ROWNUM's text in the block that is being lowered; empty where it cannot stand.
   std::string& rownum() { return rownum_; }
+  /// A column of the block that is being lowered which ties an aggregate to it; empty where none needs it.
+  std::string& anchor() { return anchor_; }
   /// The select list that names in ORDER BY may stand for, while that is lowered; else null.
   const std::vector<Piece>*& outputs() { return outputs_; }
   const LoweringFacts& facts() const { return facts_; }
@@ -117,18 +123,22 @@ class Emitter {
  private:
   Piece lowered(const sql::Expr& expr);
   std::string loweredCondition(const sql::Expr& expr);
+  std::string nameQuery(std::string_view wish, const std::string& text);
 
   const sql::Tree& tree_;
   const LoweringFacts& facts_;
   LoweredStatement result_;
   std::unordered_map<const void*, Source> sources_;
   std::unordered_map<const sql::WithItem*, std::string> repeated_;  ///< texts that stand at each use
+  std::string with_;  ///< the named queries of the whole statement
+  int levels_ = 0;    ///< queries inside each other in what has been lowered of the current one
   std::unordered_set<std::string> aliases_;
   std::unordered_map<const sql::Expr*, Piece> replacements_;
   std::unordered_map<const sql::SelectBlock*, std::vector<KeyTest>> keyTests_;
   UsedColumns usedColumns_;
   std::vector<Wrap*> wraps_;
   std::string rownum_;
+  std::string anchor_;
   const std::vector<Piece>* outputs_ = nullptr;
 };
 

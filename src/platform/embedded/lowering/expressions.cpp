@@ -39,7 +39,7 @@ Piece lowerRownumValue(Emitter& emitter, const sql::Expr& expr) {
 }
 
 Piece lowerAnyCall(Emitter& emitter, const sql::Call& call) {
-  if (call.role == sql::CallRole::Aggregate) return lowerAggregate(emitter, call);
+  if (call.role == sql::CallRole::Aggregate) return lowerOwnAggregate(emitter, call);
   if (call.role == sql::CallRole::Window) return lowerWindow(emitter, call);
   if (call.package.empty())
     for (const auto& rule : kCallRules)
@@ -118,10 +118,9 @@ std::string Emitter::loweredCondition(const sql::Expr& expr) {
     case ExprKind::Or: {
       const bool both = expr.kind == ExprKind::And;
       const auto& terms = both ? sql::as<sql::AndExpr>(&expr)->terms : sql::as<sql::OrExpr>(&expr)->terms;
-      std::string text;
-      for (const sql::Expr* term : terms)
-        text += (text.empty() ? "" : both ? " AND " : " OR ") + condition(*term);
-      return "(" + text + ")";
+      std::vector<std::string> texts;
+      for (const sql::Expr* term : terms) texts.push_back(condition(*term));
+      return "(" + chained(std::move(texts), both ? " AND " : " OR ") + ")";
     }
     case ExprKind::Not:
       return "(NOT " + condition(*sql::as<sql::NotExpr>(&expr)->operand) + ")";

@@ -145,11 +145,13 @@ bool readsGroups(const sql::SelectBlock& block) { return block.nestedAggregates 
 QueryText assembleGroups(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
                          const std::string& where, const sql::List<sql::OrderItem>* order) {
   const std::string rownum = emitter.rownum();
+  const std::string anchorAround = emitter.anchor();
+  const std::string anchor = lowerAnchor(emitter, block, order);
   std::string with;
-  std::string rows = " FROM " + from + where;
-  Wrap read = wrapOf(emitter, block, "ROWS");
   // Several groupings read the same rows, which are found once.
   const bool several = block.groupingSets.size() > 1;
+  std::string rows = " FROM " + from + (several ? "" : anchor) + where;
+  Wrap read = wrapOf(emitter, block, "ROWS");
   if (several) {
     emitter.wraps().push_back(&read);
     emitter.rownum().clear();
@@ -167,9 +169,10 @@ QueryText assembleGroups(Emitter& emitter, const sql::SelectBlock& block, const 
     const std::string list = exportList(emitter, read);
     with =
         "WITH " + quoted(read.alias) + " AS (SELECT " + (list.empty() ? "1 AS \"c0\"" : list) + rows + ") ";
-    rows = " FROM " + quoted(read.alias);
+    rows = " FROM " + quoted(read.alias) + anchor;
   }
 
+  emitter.anchor().clear();
   groups.readThem();
   Wrap grouped = groups.wrap(wrapOf(emitter, block, "GROUPS"));
   const std::size_t keys = grouped.exports.size();
@@ -180,6 +183,7 @@ QueryText assembleGroups(Emitter& emitter, const sql::SelectBlock& block, const 
   if (order && !order->empty()) result.text += lowerOrder(emitter, *order, &result.outputs);
   emitter.wraps().pop_back();
   emitter.rownum() = rownum;
+  emitter.anchor() = anchorAround;
   if (grouped.exports.size() > keys)
     throw sql::SqlError::unsupported("a subquery on an expression that groups", block.place);
   return result;

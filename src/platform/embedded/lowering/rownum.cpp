@@ -78,12 +78,12 @@ std::string limitedView(Emitter& emitter, const sql::SelectBlock& block, std::st
 
 QueryText lowerRownumBlock(Emitter& emitter, const sql::SelectBlock& block, const BlockParts& parts,
                            const sql::List<sql::OrderItem>* order) {
-  std::string where;
   std::string limit;
+  std::vector<const sql::Expr*> plain;
   std::vector<const sql::Expr*> others;
   for (const sql::Expr* term : parts.conjuncts) {
     if (!namesRownum(*term)) {
-      where += (where.empty() ? " WHERE " : " AND ") + emitter.condition(*term);
+      plain.push_back(term);
       continue;
     }
     const std::string bound = limitOf(emitter, *term);
@@ -92,6 +92,8 @@ QueryText lowerRownumBlock(Emitter& emitter, const sql::SelectBlock& block, cons
     else
       limit = limit.empty() ? bound : "min(" + limit + ", " + bound + ")";
   }
+
+  const std::string where = whereOf(emitter, plain);
 
   const bool sorted = order && !order->empty();
   if (others.empty() && !sorted && !block.grouped && !block.distinct && !block.windowed &&
@@ -104,6 +106,7 @@ QueryText lowerRownumBlock(Emitter& emitter, const sql::SelectBlock& block, cons
   }
 
   // The block reads its rows, numbered, from an inner one.
+  emitter.deepen(others.empty() ? 1 : 2);
   Wrap numbered = wrapOf(emitter, block, "NUMBERED");
   emitter.wraps().push_back(&numbered);
   emitter.rownum() = quoted(numbered.alias) + ".\"ROWNUM\"";
@@ -117,9 +120,11 @@ QueryText lowerRownumBlock(Emitter& emitter, const sql::SelectBlock& block, cons
     inner = "SELECT " + list + (list.empty() ? "" : ", ") + "row_number() OVER () AS \"ROWNUM\" FROM " +
             parts.from + where + " LIMIT " + (limit.empty() ? "-1" : limit);
   } else {
-    // A row is given the next number to try; the number is used up when the row passes.
-    const std::string counter = std::to_string(emitter.newRownumCounter());
+    // A row is given the next number to try; the number is used up when the row passes. The first row starts
+    // anew, since a correlated subquery runs once for each row around it.
     Wrap tried = wrapOf(emitter, block, "TRIED");
+    const std::string counter =
+        std::to_string(emitter.newRownumCounter()) + ", " + quoted(tried.alias) + ".\"row\"";
     emitter.wraps().push_back(&tried);
     emitter.rownum() = "rownum_to_try(" + counter + ")";
     std::string passes;
@@ -128,10 +133,10 @@ QueryText lowerRownumBlock(Emitter& emitter, const sql::SelectBlock& block, cons
     emitter.wraps().pop_back();
     const std::string triedList = exportList(emitter, tried);
     inner = "SELECT " + list + (list.empty() ? "" : ", ") +
-            "row_number() OVER () AS \"ROWNUM\" FROM (SELECT " +
-            (triedList.empty() ? "1 AS \"c0\"" : triedList) + " FROM " + parts.from + where +
-            " LIMIT -1) AS " + quoted(tried.alias) + " WHERE rownum_passes(" + counter + ", " + passes +
-            ") LIMIT " + (limit.empty() ? "-1" : limit);
+            "row_number() OVER () AS \"ROWNUM\" FROM (SELECT " + triedList + (triedList.empty() ? "" : ", ") +
+            "row_number() OVER () AS \"row\" FROM " + parts.from + where + " LIMIT -1) AS " +
+            quoted(tried.alias) + " WHERE rownum_passes(" + counter + ", " + passes + ") LIMIT " +
+            (limit.empty() ? "-1" : limit);
   }
   text.text.replace(text.text.find(mark), mark.size(), "(" + inner + ") AS " + quoted(numbered.alias));
   return text;

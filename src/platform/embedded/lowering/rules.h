@@ -25,6 +25,9 @@ struct BlockParts {
   std::vector<const sql::Expr*> conjuncts;  ///< of WHERE, without those that went to a join
 };
 
+/// " WHERE " and the conditions; empty without any.
+std::string whereOf(Emitter& emitter, const std::vector<const sql::Expr*>& conjuncts);
+
 /// outer_marks: "(+)" to LEFT JOIN.
 BlockParts lowerFrom(Emitter& emitter, const sql::SelectBlock& block);
 
@@ -63,6 +66,13 @@ bool readsGroups(const sql::SelectBlock& block);
 QueryText assembleGroups(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
                          const std::string& where, const sql::List<sql::OrderItem>* order);
 
+/// outer_aggregates: an item at the end of FROM that ties aggregates of outer columns to the block; empty
+/// where none needs it. Sets the anchor of the emitter.
+std::string lowerAnchor(Emitter& emitter, const sql::SelectBlock& block,
+                        const sql::List<sql::OrderItem>* order);
+/// An aggregate that stays in its block.
+Piece lowerOwnAggregate(Emitter& emitter, const sql::Call& call);
+
 /// ordering: NULL sorts as the greatest value; a NUMBER that may be broken sorts by its key.
 std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,
                        const std::vector<Piece>* outputs);
@@ -91,6 +101,17 @@ Piece lowerLiteral(Emitter& emitter, const sql::Expr& expr);
 Piece lowerArithmetic(Emitter& emitter, const sql::Arithmetic& arithmetic);
 Piece lowerNegate(Emitter& emitter, const sql::Negate& negate);
 Piece divided(Emitter& emitter, const Piece& left, const Piece& right, sql::Place place);
+/// chains: many operators in a row, with less depth than they have terms.
+bool isLongChain(const sql::Arithmetic& arithmetic);
+Piece lowerLongChain(Emitter& emitter, const sql::Arithmetic& arithmetic);
+/// The terms with `op`, which is associative, between them; in brackets where they are many.
+std::string chained(std::vector<std::string> terms, const std::string& op);
+/// The end of a searched CASE that gives `piece` where nothing else is chosen.
+std::string elseOf(const Piece& piece);
+/// The values of which `piece` is the first that is there: one, unless it is a COALESCE and nothing else.
+std::vector<std::string> alternativesOf(const Piece& piece);
+/// Makes `piece` the first of `alternatives` that is there.
+void setAlternatives(Piece& piece, std::vector<std::string> alternatives);
 /// concatenation: NULL counts as the empty text.
 Piece lowerConcat(Emitter& emitter, const sql::Concat& concat);
 /// case: both forms of CASE.
@@ -100,7 +121,9 @@ Piece lowerDecode(Emitter& emitter, const sql::Call& call);
 /// nvl: NVL, NVL2, COALESCE, NULLIF, LNNVL.
 Piece lowerNvl(Emitter& emitter, const sql::Call& call);
 /// `first` where it is there, else `second`, as values of `call`.
-Piece lowerEither(Emitter& emitter, const sql::Call& call, const sql::Expr& first, const sql::Expr& second);
+/// `computesBoth` where the second one must be computed even if the first one is there.
+Piece lowerEither(Emitter& emitter, const sql::Call& call, const sql::Expr& first, const sql::Expr& second,
+                  bool computesBoth = false);
 Piece lowerNvl2(Emitter& emitter, const sql::Call& call);
 Piece lowerCoalesce(Emitter& emitter, const sql::Call& call);
 Piece lowerNullif(Emitter& emitter, const sql::Call& call);

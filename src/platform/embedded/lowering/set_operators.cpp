@@ -23,6 +23,9 @@ const char* setWord(sql::SetOp op) {
   return "";
 }
 
+/// Fewer than the 500 terms that SQLite takes.
+constexpr std::size_t kTermsOfCompound = 400;
+
 /// Below 2^63 by more than a double can be wrong.
 constexpr double kFitsWhole = 9.2e18;
 
@@ -102,8 +105,10 @@ QueryText lowerSetOperators(Emitter& emitter, const sql::Query& query) {
   std::vector<QueryText> branches;
   // Minus and intersect compare what is selected, so keys may stand beside it only where the keys follow from
   // it.
-  bool mergeable = true;
+  bool mergeable = query.terms.size() <= kTermsOfCompound;
   for (const auto& term : query.terms) {
+    if (!branches.empty() && branches.size() % kTermsOfCompound == 0)
+      result.text = "SELECT " + nameList(result) + " FROM (" + result.text + ")";
     QueryText branch = term.block ? lowerBlock(emitter, *term.block, nullptr) : emitter.query(*term.query);
     const bool alone = term.block && !term.block->usesRownum && branch.listEnd > 0;
     mergeable = mergeable && alone;

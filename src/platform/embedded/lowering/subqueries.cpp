@@ -14,6 +14,7 @@ bool givesOneRow(const sql::Query& query) {
 Piece lowerScalarSubquery(Emitter& emitter, const sql::SubqueryExpr& subquery) {
   const bool oneRow = givesOneRow(*subquery.query);
   const QueryText text = emitter.query(*subquery.query);
+  if (!oneRow) emitter.deepen(1);
   const SourceColumn& column = text.columns.front();
   Piece piece;
   piece.kind = subquery.type.kind;

@@ -1,0 +1,69 @@
+// An aggregate belongs to the block that it stands in, even if it names nothing but columns of the blocks
+// around. SQLite takes such a one for theirs, unless it names something of its own block as well.
+#include "oracle_sql/walk.h"
+#include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/walk.h"
+
+namespace kestrelix::embedded {
+namespace {
+
+/// The columns that an aggregate names.
+struct Named {
+  bool own = false;
+  bool outer = false;
+};
+
+void look(const sql::Expr& expr, int level, Named& named);
+
+void lookInside(const sql::Query& query, int level, Named& named) {
+  for (const auto& term : query.terms) {
+    if (term.query) lookInside(*term.query, level, named);
+    if (term.block) sql::forEachExpr(*term.block, [&](const sql::Expr& expr) { look(expr, level, named); });
+  }
+}
+
+/// `level` counts the subqueries between the aggregate and the expression.
+void look(const sql::Expr& expr, int level, Named& named) {
+  if (const auto* column = sql::as<sql::ColumnRef>(&expr); column && column->source) {
+    named.own = named.own || column->levelsOut == level;
+    named.outer = named.outer || column->levelsOut > level;
+  }
+  if (const sql::Query* inner = sql::queryOf(expr)) lookInside(*inner, level + 1, named);
+  sql::forEachOperand(expr, [&](const sql::Expr& operand) { look(operand, level, named); });
+}
+
+bool namesOnlyOuter(const sql::Call& call) {
+  Named named;
+  sql::forEachOperand(call, [&](const sql::Expr& operand) { look(operand, 0, named); });
+  return named.outer && !named.own;
+}
+
+}  // namespace
+
+std::string lowerAnchor(Emitter& emitter, const sql::SelectBlock& block,
+                        const sql::List<sql::OrderItem>* order) {
+  emitter.anchor().clear();
+  if (!block.grouped) return {};
+  bool wanted = false;
+  const auto visit = [&](const sql::Expr& expr) {
+    const auto* call = sql::as<sql::Call>(&expr);
+    wanted = wanted || (call && call->role == sql::CallRole::Aggregate && namesOnlyOuter(*call));
+  };
+  for (const auto& column : block.columns) walkExpressions(*column.expr, visit);
+  if (block.having) walkExpressions(*block.having, visit);
+  if (order)
+    for (const auto& item : *order) walkExpressions(*item.expr, visit);
+  if (!wanted) return {};
+  const std::string alias = quoted(emitter.uniqueAlias("OWN"));
+  emitter.anchor() = alias + ".\"row\"";
+  return ", (SELECT 1 AS \"row\") AS " + alias;
+}
+
+Piece lowerOwnAggregate(Emitter& emitter, const sql::Call& call) {
+  Piece piece = lowerAggregate(emitter, call);
+  if (!emitter.anchor().empty() && namesOnlyOuter(call))
+    piece.text += " FILTER (WHERE " + emitter.anchor() + " OR 1)";
+  return piece;
+}
+
+}  // namespace kestrelix::embedded
