@@ -1,5 +1,7 @@
 #include "navigation/ModuleLoadCommon.h"
 
+#include <stdexcept>
+
 #include "platform/code_page.h"
 
 namespace kestrelix {
@@ -27,9 +29,16 @@ std::string instanceLine(const clsDbInstance& instances, int i) {
          right(instances.HOST_NAME(i), 18) + right(instances.PARALLEL(i), 10);
 }
 
+/// Two ids out of their columns would run together into one, so a wider one fails.
+std::string idColumn(const std::string& id) {
+  constexpr std::size_t kWidth = 10;
+  if (characterCount(id) > kWidth) throw std::length_error("the id " + id + " is wider than its column");
+  return right(id, kWidth);
+}
+
 std::string pairLine(const clsSnapId& pairs, int i) {
   return right(pairs.START_SNAP_TIME(i), 20) + "   " + right(pairs.END_SNAP_TIME(i), 20) +
-         right(pairs.START_SNAP_ID(i), 10) + right(pairs.END_SNAP_ID(i), 10) + "   " +
+         idColumn(pairs.START_SNAP_ID(i)) + idColumn(pairs.END_SNAP_ID(i)) + "   " +
          left(pairs.REPORT_STATUS(i), 15);
 }
 

@@ -16,7 +16,8 @@ extern const std::string kSnapIdHeading;
 bool gDispDbInstance_Load(Workspace& workspace);
 
 /// Reads the pairs of one instance (inside the range of gSnapRange if `useRange`) into a new gSnapId and
-/// fills ListSnapId. Fewer than two snapshots are a failure as well: shows a box and gives false.
+/// fills ListSnapId. Fewer than two snapshots are a failure as well: shows a box and gives false. Fails with
+/// std::length_error for a snapshot id of more than 10 characters.
 bool gDispSnapId_Load(Workspace& workspace, const std::string& dbid, const std::string& instanceNumber,
                       bool useRange);
 

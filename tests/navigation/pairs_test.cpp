@@ -88,10 +88,15 @@ TEST_F(Pairs, lineShowsTimesIdsAndStatusInFixedColumns) {
   EXPECT_EQ(list().ItemData(0), 0);
 }
 
-TEST_F(Pairs, anIdOfElevenDigitsIsShownWhole) {
-  ASSERT_TRUE(load({{"12345678901", "2026-01-05 10:00:00"}, {"12345678902", "2026-01-05 11:00:00"}}));
+TEST_F(Pairs, anIdOfTenDigitsFillsItsColumn) {
+  ASSERT_TRUE(load({{"999999999", "2026-01-05 10:00:00"}, {"1000000000", "2026-01-05 11:00:00"}}));
   EXPECT_EQ(list().List(0),
-            " 2026-01-05 10:00:00    2026-01-05 11:00:001234567890112345678902   OK             ");
+            " 2026-01-05 10:00:00    2026-01-05 11:00:00 9999999991000000000   OK             ");
+}
+
+TEST_F(Pairs, anIdOfElevenDigitsFailsTheLoad) {
+  EXPECT_THROW(load({{"9999999999", "2026-01-05 10:00:00"}, {"10000000000", "2026-01-05 11:00:00"}}),
+               std::length_error);
 }
 
 TEST_F(Pairs, headingEndsItsColumnsWhereTheLinesDo) {

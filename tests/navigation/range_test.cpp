@@ -140,6 +140,14 @@ TEST_F(Range, aShrunkRepositoryUnloadsTheWindow) {
   EXPECT_THAT(boxes.shown, ElementsAre("[Critical] SNAP_IDが2件未満でした"));
 }
 
+TEST_F(Range, anIdThatIsWiderThanItsColumnIsTheFunctionsBoxAndTheWindowStays) {
+  laySnapshots(server, {{"9999999999", "2026-01-05 10:00:00"}, {"10000000000", "2026-01-05 11:00:00"}});
+  EXPECT_FALSE(gFrameRangeDataInit(workspace));
+  EXPECT_THAT(boxes.shown, ElementsAre("[Critical] (ModuleRangeCommon){gFrameRangeDataInit} Error"));
+  EXPECT_THAT(boxes.errors, ElementsAre("the id 10000000000 is wider than its column"));
+  EXPECT_EQ(unloads, 0);
+}
+
 TEST_F(Range, withoutAnInstanceTheFunctionShowsItsBoxAndTheWindowStays) {
   workspace.controls.ComboDbInstance.ListIndex(-1);
   EXPECT_FALSE(gFrameRangeDataInit(workspace));
