@@ -36,7 +36,7 @@ void gDispSectionAll(Workspace& workspace, SectionList sections, const std::stri
   controls.MSFlexGridSql.Visible(false);
   controls.MSFlexGridPlan.Visible(false);
   const SectionEntry* entry = selected(workspace, sections);
-  if (entry == nullptr || entry->all == nullptr) return;
+  if (entry == nullptr) return;
   controls.ToolbarTop.Enabled({"GRID", "SQL", "PLAN"}, entry->sqlButtons);
   // A rendering that failed has left its binds in place.
   workspace.gOraDatabase->parameters().clear();
@@ -45,7 +45,7 @@ void gDispSectionAll(Workspace& workspace, SectionList sections, const std::stri
 
 void gDispSectionCol(Workspace& workspace, SectionList sections, const std::string& version) {
   const SectionEntry* entry = selected(workspace, sections);
-  if (entry == nullptr || entry->all == nullptr) return;
+  if (entry == nullptr) return;
   const Grid& grid = workspace.controls.MSFlexGridMain;
   ColRequest request{grid.Row(), {}};
   for (const int column : entry->col.keyColumns) request.keys.push_back(key(grid, request.row, column));

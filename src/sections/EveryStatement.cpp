@@ -57,7 +57,6 @@ std::vector<SentStatement> everyStatement() {
   };
   std::vector<Class> classes;
   for (const SectionEntry& entry : sectionList()) {
-    if (entry.make == nullptr) continue;
     auto object = entry.make();
     const auto same = std::find_if(classes.begin(), classes.end(), [&](const Class& known) {
       return known.object->className() == object->className();

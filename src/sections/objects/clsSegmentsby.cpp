@@ -125,13 +125,12 @@ std::vector<Bind> keys() {
 clsSegmentsby::clsSegmentsby() : ListSectionObject("clsSegmentsby", fieldNames(), keys()) {
   const Names names = fieldNames();
   for (const Ranking& ranking : rankings()) {
+    const Names selected = joined({"OWNER", "TABLESPACE", "OBJECT_NAME", "SUBOBJECT_NAME", "OBJECT_TYPE",
+                                   ranking.statistic, "PCT_TOTAL"},
+                                  ranking.others);
     std::vector<std::size_t> filled;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-      const bool other =
-          std::find(ranking.others.begin(), ranking.others.end(), names[i]) != ranking.others.end();
-      const bool statistic = i > static_cast<std::size_t>(Field::OBJECT_TYPE) && names[i] != "PCT_TOTAL";
-      if (!statistic || other || names[i] == ranking.statistic) filled.push_back(i);
-    }
+    for (const std::string& name : selected)
+      filled.push_back(static_cast<std::size_t>(std::find(names.begin(), names.end(), name) - names.begin()));
     all("get" + ranking.members + "_ALL", allStatement(ranking)).only(ranking.versions).fields = filled;
     col("get" + ranking.members + "_COL", colStatement(ranking)).only(ranking.versions).fields = filled;
   }
