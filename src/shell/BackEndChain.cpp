@@ -13,15 +13,20 @@ std::unique_ptr<Database> BackEndChain::OpenDatabase(const std::string& name, co
   throw DatabaseError("08001", 12154, "could not resolve the connect identifier '" + name + "'");
 }
 
+std::filesystem::path localRepository(const std::filesystem::path& programFolder, const std::string& name) {
+  if (name.empty() || name.front() == '.' ||
+      name.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
+    return {};
+  std::filesystem::path file = programFolder / "repository" / (name + ".sqlite");
+  std::error_code unreadable;
+  return std::filesystem::is_regular_file(file, unreadable) ? file : std::filesystem::path();
+}
+
 BackEnd localRepositories(const std::filesystem::path& programFolder,
                           std::function<std::unique_ptr<Session>(const std::filesystem::path& file)> open) {
-  return [folder = programFolder / "repository", open = std::move(open)](const std::string& name) {
-    const bool plain = !name.empty() && name.front() != '.' &&
-                       name.find_first_of(std::string_view("/\0", 2)) == std::string::npos;
-    const std::filesystem::path file = folder / (name + ".sqlite");
-    std::error_code unreadable;
-    if (!plain || !std::filesystem::is_regular_file(file, unreadable)) return std::unique_ptr<Session>();
-    return open(file);
+  return [programFolder, open = std::move(open)](const std::string& name) {
+    const auto file = localRepository(programFolder, name);
+    return file.empty() ? nullptr : open(file);
   };
 }
 

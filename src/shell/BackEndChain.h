@@ -27,8 +27,10 @@ class BackEndChain : public Session {
   std::unique_ptr<Session> opened_;
 };
 
-/// The repository files of a program: the name NAME is the file repository/NAME.sqlite in its folder. A name
-/// that could lead out of that folder is not one of these.
+/// The repository file of that name: repository/NAME.sqlite in the program's folder. Empty if it isn't there,
+/// and for a name that could lead out of that folder.
+std::filesystem::path localRepository(const std::filesystem::path& programFolder, const std::string& name);
+/// The repository files of a program, by name.
 BackEnd localRepositories(const std::filesystem::path& programFolder,
                           std::function<std::unique_ptr<Session>(const std::filesystem::path& file)> open);
 

@@ -106,6 +106,50 @@ TEST_F(BadRepository, whatIsNoRepositoryIsRefused) {
   expectRefused("is not a repository of this program");
 }
 
+TEST_F(BadRepository, aNameThatLeadsNowhereIsOneLine) {
+  const auto check = [&](const std::string& name) {
+    const Outcome outcome = runProgram("kestrelix-report", "check --tns '" + name + "'", folder_);
+    EXPECT_EQ(outcome.status, 1) << name;
+    return outcome.errors;
+  };
+  for (const std::string& name : {std::string("../X"), std::string("/ETC/PASSWD"), std::string("日本"),
+                                  std::string("{A};DRIVER=X}"), std::string(5000, 'X')})
+    EXPECT_EQ(check(name),
+              "kestrelix-report: name: there is no local file, no ODBC data source and no Oracle "
+              "driver for " +
+                  name + "\n");
+}
+
+TEST_F(BadRepository, wrongUsageIsOneLine) {
+  import();
+  for (const char* usage : {"",
+                            "nonsense",
+                            "-x",
+                            "--nonsense",
+                            "section",
+                            "section Snapshot",
+                            "section Snapshot --instance x --pair 0",
+                            "section Snapshot --instance 2 --pair 0",
+                            "section Snapshot --instance 0 --pair 2",
+                            "section Snapshot --instance 0 --pair 0 --row 99",
+                            "section Snapshot --instance 0 --pair -1",
+                            "section 表 --instance 0 --pair 0",
+                            "pairs",
+                            "pairs --instance",
+                            "pairs --instance 99999999999",
+                            "section Snapshot --instance 0 --pair 0 word",
+                            "instances --format html",
+                            "instances --tns X",
+                            "instances --password-file /nowhere",
+                            "statements --version 12"}) {
+    const Outcome outcome = report(usage);
+    EXPECT_EQ(outcome.status, 2) << usage;
+    EXPECT_EQ(outcome.output, "") << usage;
+    EXPECT_THAT(outcome.errors, testing::MatchesRegex("kestrelix-report: [^\n]+; --help tells the usage\n"))
+        << usage;
+  }
+}
+
 TEST_F(BadRepository, withoutSnapshotsThePairsFail) {
   std::filesystem::remove(csv_ / "stats$snapshot.csv");
   import();

@@ -51,6 +51,26 @@ TEST_F(MakingRepositories, wrongUsageOfAQueryIsSaidFirst) {
   EXPECT_EQ(run("query f.sqlite a b").status, 2);
 }
 
+TEST_F(MakingRepositories, aBindThatCannotBeIsWrongUsage) {
+  ASSERT_EQ(import().status, 0);
+  const auto query = [&](const std::string& binds) {
+    return run("query " + file_.string() + " 'select :a from dual' " + binds);
+  };
+  for (const char* binds : {"--bind a", "--bind =1", "--bind a:x=1", "--bind a=1 --bind A=2", "--bind a:n=x"})
+    EXPECT_EQ(query(binds).status, 2) << binds;
+  EXPECT_THAT(query("--bind a:n=x").errors, StartsWith("a number bind can't take the text 'x'\n"));
+  EXPECT_THAT(query("--bind 'a=表\"'").output, testing::EndsWith("\r\n\"表\"\"\"\r\n"));
+}
+
+// The file would be opened under the number of the closed stream else, and take in what is printed.
+TEST_F(MakingRepositories, closedStreamsHarmNoFile) {
+  EXPECT_EQ(import("<&- >&-").errors, "the standard output cannot be written\n");
+  EXPECT_EQ(run("query " + file_.string() + " 'select count(*) n from stats$snapshot'").output, "N\r\n5\r\n");
+  EXPECT_EQ(run("demo --snapshots 2 --force " + file_.string() + " <&- >&-").status, 0);
+  EXPECT_EQ(run("query " + file_.string() + " 'select count(*) n from stats$database_instance'").status, 0);
+  EXPECT_EQ(import("--password-stdin --force <&-").status, 2);
+}
+
 TEST_F(MakingRepositories, resultsThatCannotBeWrittenAreAFailure) {
   ASSERT_EQ(import().status, 0);
   const Outcome outcome = run("query " + file_.string() + " 'select 1 a from dual' > /dev/full");

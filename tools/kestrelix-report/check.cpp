@@ -19,8 +19,8 @@ class CheckFailed : public std::runtime_error {
 
 std::string whereTo(const Options& options, const std::string& name) {
   if (!options.repository.empty()) return "the local file " + options.repository;
-  const auto file = programFolder() / "repository" / (name + ".sqlite");
-  if (std::filesystem::exists(file)) return "the local file " + file.string();
+  if (const auto file = localRepository(programFolder(), name); !file.empty())
+    return "the local file " + file.string();
   return odbc::leadsTo(name);
 }
 

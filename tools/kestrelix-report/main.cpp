@@ -1,14 +1,13 @@
-#include <csignal>
 #include <iostream>
 
+#include "app/process.h"
 #include "commands.h"
 #include "report_run.h"
 
 namespace tool = kestrelix::report_tool;
 
 int main(int count, char** values) {
-  // Output to a file that may grow no further fails like that to a full disk.
-  std::signal(SIGXFSZ, SIG_IGN);
+  kestrelix::guardStreams();
   tool::StderrBoxes boxes;
   try {
     const tool::Options options = tool::parseOptions({values + 1, values + count});

@@ -95,7 +95,7 @@ Options parseOptions(const std::vector<std::string>& arguments) {
     } else if (const auto found = valued.find(argument); found != valued.end()) {
       if (++i == arguments.size()) throw UsageError(argument + " needs a value");
       found->second(arguments[i]);
-    } else if (argument.starts_with("--")) {
+    } else if (argument.starts_with('-')) {
       throw UsageError("there is no option " + argument);
     } else {
       words.push_back(argument);

@@ -1,10 +1,10 @@
 // kestrelix-repository: makes local repositories and asks them questions.
-#include <csignal>
 #include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
 
+#include "app/process.h"
 #include "commands.h"
 
 namespace {
@@ -39,8 +39,7 @@ int printed(int status) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // A file that grows beyond what the user may write is an error like a full disk, and no end without a word.
-  std::signal(SIGXFSZ, SIG_IGN);
+  kestrelix::guardStreams();
   const std::vector<std::string> words(argv + 1, argv + argc);
   if (!words.empty() && (words[0] == "--help" || words[0] == "-h")) {
     printUsage(std::cout);

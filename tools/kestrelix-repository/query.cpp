@@ -78,7 +78,8 @@ std::optional<Request> requestOf(std::span<const std::string> arguments) {
   return request;
 }
 
-/// False when `text` is no NAME=VALUE.
+/// False when `text` is no NAME=VALUE. Fails with DatabaseError for a name that is there already, and a
+/// number that is none.
 bool addBind(Parameters& parameters, const std::string& text) {
   const auto equals = text.find('=');
   if (equals == std::string::npos || equals == 0) return false;
@@ -137,11 +138,17 @@ int queryCommand(std::span<const std::string> arguments) {
   const auto request = requestOf(arguments);
   if (!request) return kExitWrongUsage;
   embedded::LocalDatabase database(request->file);
-  for (const auto& bind : request->binds)
-    if (!addBind(database.parameters(), bind)) {
-      std::cerr << "no bind: " << bind << "\n\n" << kUsage;
-      return kExitWrongUsage;
+  for (const auto& bind : request->binds) {
+    std::string why;
+    try {
+      if (!addBind(database.parameters(), bind)) why = "no bind: " + bind;
+    } catch (const DatabaseError& error) {
+      why = error.what();
     }
+    if (why.empty()) continue;
+    std::cerr << why << "\n\n" << kUsage;
+    return kExitWrongUsage;
+  }
   if (request->explain) {
     std::cout << database.loweredText(request->sql) << "\n";
     return kExitDone;

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <span>
 
+#include "platform/database.h"
 #include "platform/odbc/plain_number.h"
 #include "platform/odbc/utf16.h"
 
@@ -41,6 +42,7 @@ RowStream::~RowStream() {
   SQLFreeStmt(statement_, SQL_CLOSE);
   SQLFreeStmt(statement_, SQL_UNBIND);
   SQLSetStmtAttr(statement_, SQL_ATTR_ROWS_FETCHED_PTR, nullptr, 0);
+  SQLSetStmtAttr(statement_, SQL_ATTR_ROW_STATUS_PTR, nullptr, 0);
 }
 
 void RowStream::describe() {
@@ -97,6 +99,8 @@ void RowStream::bindBuffers() {
   SQLSetStmtAttr(statement_, SQL_ATTR_ROW_ARRAY_SIZE, reinterpret_cast<SQLPOINTER>(rows), 0);
   SQLSetStmtAttr(statement_, SQL_ATTR_ROWS_FETCHED_PTR, &fetched_, 0);
   if (inPieces_) return;
+  states_.assign(rows, SQL_ROW_SUCCESS);
+  SQLSetStmtAttr(statement_, SQL_ATTR_ROW_STATUS_PTR, states_.data(), 0);
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     Column& column = columns_[i];
     column.values.resize(column.width * rows);
@@ -118,6 +122,8 @@ bool RowStream::next(Row& row) {
     if (inPieces_ || fetched_ == 0) fetched_ = 1;
     position_ = 0;
   }
+  // The other rows of a block come even if one of them fails.
+  if (!inPieces_ && states_[position_] == SQL_ROW_ERROR) statement_.check(SQL_ERROR, text_);
   row.resize(columns_.size());
   for (std::size_t i = 0; i < columns_.size(); ++i)
     row[i] =
@@ -146,8 +152,11 @@ std::string RowStream::textOf(const Column& column, const char* bytes, std::size
 std::optional<std::string> RowStream::bound(const Column& column, std::size_t row) const {
   const SQLLEN length = column.lengths[row];
   if (length == SQL_NULL_DATA) return std::nullopt;
-  std::string text = textOf(column, column.values.data() + column.width * row,
-                            std::min(static_cast<std::size_t>(length), column.width));
+  const std::size_t terminator = column.cType == SQL_C_WCHAR ? sizeof(SQLWCHAR) : column.cType == SQL_C_CHAR;
+  if (length < 0 || static_cast<std::size_t>(length) > column.width - terminator)
+    throw DatabaseError("22001", 0, "a value is longer than the driver said that its column can be", text_);
+  std::string text =
+      textOf(column, column.values.data() + column.width * row, static_cast<std::size_t>(length));
   // The empty text is NULL, as in Oracle.
   return text.empty() ? std::nullopt : std::optional(std::move(text));
 }

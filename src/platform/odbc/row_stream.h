@@ -48,7 +48,8 @@ class RowStream {
   std::string text_;
   std::vector<std::string> names_;
   std::vector<Column> columns_;
-  bool inPieces_ = false;  ///< a column has no bound on its length: rows come one by one
+  bool inPieces_ = false;             ///< a column has no bound on its length: rows come one by one
+  std::vector<SQLUSMALLINT> states_;  ///< of the rows fetched together
   SQLULEN fetched_ = 0;
   std::size_t position_ = 0;
   long fetches_ = 0;
