@@ -96,6 +96,9 @@ Number exp(const Number& n);
 Number ln(const Number& n);
 Number log(const Number& base, const Number& n);
 
+// The bits that two whole numbers have in common, a negative one as two's complement; ORA-01428 outside 128
+// bits.
+Number bitAnd(const Number& a, const Number& b);
 // The digits of a whole number to the base of 16, with capital letters; not for a negative one.
 std::string hexadecimal(const Number& whole);
 

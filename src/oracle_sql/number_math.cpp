@@ -65,6 +65,16 @@ Number rest(const Number& n, const Number& m, bool nearest) {
   return fromInteger(left, exponent, negative);
 }
 
+// Within 128 bits and a sign.
+Integer bitsOf(const Number& whole) {
+  static const Integer limit = Integer(1) << 127;
+  const Integer size = scaled(whole.parts(), 0);
+  if (size > limit || (size == limit && !whole.isNegative())) {
+    raiseArgumentOutOfRange(whole.toText());
+  }
+  return whole.isNegative() ? Integer(-size) : size;
+}
+
 // Beyond this power of e every result has left the range of NUMBER: no need to compute it.
 constexpr int kLargestExponential = 400;
 
@@ -116,6 +126,11 @@ Number remainder(const Number& n, const Number& m) {
     raiseDivisionByZero();
   }
   return n.isZero() ? n : rest(n, m, true);
+}
+
+Number bitAnd(const Number& a, const Number& b) {
+  const Integer common = bitsOf(a) & bitsOf(b);
+  return fromInteger(boost::multiprecision::abs(common), 0, common < 0);
 }
 
 std::string hexadecimal(const Number& whole) {

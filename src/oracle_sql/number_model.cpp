@@ -32,6 +32,12 @@ class Parser {
     if (model_.whole.empty() && model_.fraction.empty()) {
       refuse();
     }
+    const auto has = [&](char mark) {
+      return model_.point == mark || model_.whole.find(mark) != std::string::npos;
+    };
+    if ((has('G') || has('D')) && (has(',') || has('.'))) {
+      refuse();
+    }
     return std::move(model_);
   }
 

@@ -213,7 +213,7 @@ Expr* Parser::cast() {
 }
 
 void Parser::castType(CastExpr& c) {
-  const auto number = [&](int low, int high) {
+  const auto number = [&](int low, int high, int code, const char* message) {
     const bool minus = accept(Symbol::Minus);
     int n = 0;
     const std::string_view text = now().text;
@@ -221,9 +221,16 @@ void Parser::castType(CastExpr& c) {
     if (now().kind != TokenKind::Number || failure != std::errc() || end != text.data() + text.size())
       fail(907, "missing right parenthesis");
     if (minus) n = -n;
-    if (n < low || n > high) fail(910, "specified length is out of range for its datatype");
+    if (n < low || n > high) fail(code, message);
     take();
     return n;
+  };
+  const auto length = [&](int longest) {
+    if (now().text == "0") fail(1723, "zero-length columns are not allowed");
+    return number(1, longest, 910, "specified length too long for its datatype");
+  };
+  const auto precision = [&](int highest) {
+    return number(1, highest, 1727, "numeric precision specifier is out of range (1 to 38)");
   };
   const auto isAny = [&](std::initializer_list<std::string_view> words) {
     return std::any_of(words.begin(), words.end(), [&](std::string_view w) { return isWord(w); });
@@ -239,8 +246,9 @@ void Parser::castType(CastExpr& c) {
     take();
     c.target = TypeKind::Number;
     if (accept(Symbol::LeftParen)) {
-      c.precision = accept(Symbol::Star) ? 38 : number(1, 38);
-      if (accept(Symbol::Comma)) c.scale = number(-84, 127);
+      c.precision = accept(Symbol::Star) ? 38 : precision(38);
+      if (accept(Symbol::Comma))
+        c.scale = number(-84, 127, 1728, "numeric scale specifier is out of range (-84 to 127)");
       expectRightParen();
     } else {
       c.integer = !plain;
@@ -253,7 +261,7 @@ void Parser::castType(CastExpr& c) {
     at_ += isWord("DOUBLE") ? 2 : 1;
     c.target = TypeKind::Number;
     if (plain && accept(Symbol::LeftParen)) {
-      c.binaryDigits = number(1, 126);
+      c.binaryDigits = precision(126);
       expectRightParen();
     }
     return;
@@ -267,7 +275,7 @@ void Parser::castType(CastExpr& c) {
       c.precision = 1;
       return;
     }
-    c.precision = number(1, fixed ? 2000 : 4000);
+    c.precision = length(fixed ? 2000 : 4000);
     if (isWord("CHAR")) {
       take();
       c.inChars = true;
@@ -281,7 +289,7 @@ void Parser::castType(CastExpr& c) {
     take();
     c.target = TypeKind::Raw;
     expectLeftParen();
-    c.precision = number(1, 2000);
+    c.precision = length(2000);
     expectRightParen();
     return;
   }

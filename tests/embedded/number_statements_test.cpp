@@ -78,6 +78,18 @@ TEST_F(NumberStatements, nvlComputesWhatItDoesNotGive) {
             answer("nvl(1, '2'), nvl('a', .5), nvl(to_char(null), .5), nvl(to_number(null), -1)"));
 }
 
+// The texts of ORA-01727, ORA-01728, ORA-01723 and ORA-00910 in the Error Messages.
+TEST_F(NumberStatements, lengthsOfCastHaveTheirOwnErrors) {
+  EXPECT_THAT(answer("cast(1 as number(39))"),
+              StartsWith("ORA-01727: numeric precision specifier is out of range"));
+  EXPECT_THAT(answer("cast(1 as number(0))"), StartsWith("ORA-01727"));
+  EXPECT_THAT(answer("cast(1 as number(3, 128))"),
+              StartsWith("ORA-01728: numeric scale specifier is out of range"));
+  EXPECT_THAT(answer("cast(1 as number(3, -85))"), StartsWith("ORA-01728"));
+  EXPECT_THAT(answer("cast(1 as varchar2(0))"), StartsWith("ORA-01723: zero-length columns are not allowed"));
+  EXPECT_THAT(answer("cast(1 as varchar2(4001))"), StartsWith("ORA-00910: specified length too long"));
+}
+
 TEST_F(NumberStatements, argumentWithoutARealResultIsNamed) {
   EXPECT_THAT(answer("sqrt(-1)"), StartsWith("ORA-01428: argument '-1' is out of range"));
   EXPECT_THAT(answer("ln(0)"), StartsWith("ORA-01428: argument '0' is out of range"));
@@ -101,7 +113,7 @@ TEST_F(NumberStatements, floatKeepsSignificantDigits) {
   EXPECT_EQ("0.33333333333333333333333333333333333333|0|-0.0013",
             answer("cast(1 / 3 as float), cast(0 as float(5)), cast(-.00126 as float(5))"));
   EXPECT_EQ("0.3333333333333333333|1.5", answer("cast(1 / 3 as real), cast('1.5' as double precision)"));
-  EXPECT_THAT(answer("cast(1 as float(127))"), StartsWith("ORA-00910"));
+  EXPECT_THAT(answer("cast(1 as float(127))"), StartsWith("ORA-01727"));
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ void expectAll(const std::vector<Case>& cases) {
 
 TEST(NumberFormat, modelThatIsNoneIsRefused) {
   for (const char* model : {"Q", "9.9.9", ",999", "9.9,9", "99MI9", "S99MI", "999EEEE9", "9,9EEEE", "$$9",
-                            "9 9", "FM", "$", "XX9", "RN9", "9V9.9", "abc"}) {
+                            "9 9", "FM", "$", "XX9", "RN9", "9V9.9", "abc", "9G999.99", "9,999D99"}) {
     EXPECT_EQ(1481, errorOf([&] { formatNumber(Number(1), model); })) << model;
   }
 }

@@ -86,7 +86,12 @@ TEST(NumericFunctions, bitAndIsOfWholeNumbers) {
   EXPECT_EQ("2", call("BITAND", {n("6"), n("3")}));
   EXPECT_EQ("2", call("BITAND", {n("6.9"), n("3")}));
   EXPECT_EQ("6", call("BITAND", {n("-2"), n("7")}));
-  EXPECT_EQ(1428, callError("BITAND", {n("1e30"), n("1")}));
+  EXPECT_EQ("255", call("BITAND", {n("18446744073709551615"), n("255")}));
+  EXPECT_EQ("18446744073709551615", call("BITAND", {n("-1"), n("18446744073709551615")}));
+  // The range that the SQL Reference gives: -2^127 to 2^127 - 1.
+  EXPECT_EQ("0", call("BITAND", {n("-170141183460469231731687303715884105728"), n("1")}));
+  EXPECT_EQ("1", call("BITAND", {n("170141183460469231731687303715884105727"), n("1")}));
+  EXPECT_EQ(1428, callError("BITAND", {n("170141183460469231731687303715884105728"), n("1")}));
 }
 
 // The credit limits of the example in Oracle's SQL Reference.

@@ -13,14 +13,6 @@ int placesOf(Arguments arguments) {
   return static_cast<int>(std::clamp<std::int64_t>(toWhole(arguments[1]), -1000, 1000));
 }
 
-std::int64_t bits(const Value& value) {
-  const auto whole = toNumber(value).trunc().toInt64();
-  if (!whole) {
-    raiseArgumentOutOfRange(toNumber(value).toText());
-  }
-  return *whole;
-}
-
 // A bound or the value of WIDTH_BUCKET: dates are numbers of seconds there.
 Number scalar(const Value& value) { return value.isDate() ? Number(value.date().seconds) : toNumber(value); }
 
@@ -76,7 +68,13 @@ Value logarithm(Arguments arguments, const Context&) {
   return log(toNumber(arguments[0]), toNumber(arguments[1]));
 }
 
-Value bitAnd(Arguments arguments, const Context&) { return bits(arguments[0]) & bits(arguments[1]); }
+Value bitAnd(Arguments arguments, const Context&) {
+  const Number a = toNumber(arguments[0]).trunc();
+  const Number b = toNumber(arguments[1]).trunc();
+  const auto x = a.toInt64();
+  const auto y = b.toInt64();
+  return x && y ? Value(*x & *y) : Value(oracle_sql::bitAnd(a, b));
+}
 
 Value arcTangent2(Arguments arguments, const Context&) {
   return atan2(toNumber(arguments[0]), toNumber(arguments[1]));
