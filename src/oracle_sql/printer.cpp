@@ -384,6 +384,9 @@ class Printer {
         expr(*static_cast<const Lnnvl&>(e).operand);
         out_ += ')';
         break;
+      case ExprKind::CallTest:
+        expr(*static_cast<const CallTest&>(e).call);
+        break;
       case ExprKind::Exists:
         out_ += "EXISTS ";
         bracketed(*static_cast<const Exists&>(e).query);

@@ -10,7 +10,8 @@ struct WholeFunction {
   double largest;
 };
 constexpr WholeFunction kWholeFunctions[] = {
-    {"LENGTH", 1e10}, {"LENGTHB", 1e10}, {"INSTR", 1e10}, {"INSTRB", 1e10}, {"SIGN", 1}, {"ASCII", 1e10},
+    {"LENGTH", 1e10}, {"LENGTHB", 1e10}, {"INSTR", 1e10},        {"INSTRB", 1e10},
+    {"SIGN", 1},      {"ASCII", 1e10},   {"REGEXP_COUNT", 1e10}, {"REGEXP_INSTR", 1e10},
 };
 
 Piece text(std::string_view value) {

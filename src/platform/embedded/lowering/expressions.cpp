@@ -138,6 +138,8 @@ std::string Emitter::loweredCondition(const sql::Expr& expr) {
     }
     case ExprKind::Exists:
       return lowerExists(*this, *sql::as<sql::Exists>(&expr));
+    case ExprKind::CallTest:
+      return expression(*sql::as<sql::CallTest>(&expr)->call).text;
     case ExprKind::Lnnvl:
       return "(" + condition(*sql::as<sql::Lnnvl>(&expr)->operand) + " IS NOT TRUE)";
     default:
