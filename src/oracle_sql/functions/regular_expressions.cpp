@@ -61,7 +61,7 @@ class Call {
   std::int64_t number(std::size_t index, std::int64_t otherwise, std::int64_t least) const {
     const std::int64_t value = index < arguments_.size() ? toWhole(arguments_[index]) : otherwise;
     if (value < least) {
-      raiseArgumentOutOfRange();
+      raiseArgumentOutOfRange(toText(arguments_[index]));
     }
     return value;
   }
