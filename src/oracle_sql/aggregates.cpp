@@ -31,21 +31,8 @@ Value kept(const Value& value) {
 
 }  // namespace
 
-void SumAccumulator::add(std::int64_t whole) {
-  std::int64_t sum = 0;
-  if (__builtin_add_overflow(whole_, whole, &sum)) {
-    rest_ = rest_ + Number(whole_);
-    sum = whole;
-  }
-  whole_ = sum;
-}
-
 void SumAccumulator::step(const Number& number) {
-  if (const auto whole = number.toInt64()) {
-    add(*whole);
-  } else {
-    rest_ = rest_ + number;
-  }
+  sum_ = sum_ + number;
   ++count_;
 }
 
@@ -66,11 +53,9 @@ void SumAccumulator::inverse(const Value& value) {
   }
 }
 
-Value SumAccumulator::sum() const { return count_ == 0 ? Value() : Value(rest_ + Number(whole_)); }
+Value SumAccumulator::sum() const { return count_ == 0 ? Value() : Value(sum_); }
 
-Value SumAccumulator::average() const {
-  return count_ == 0 ? Value() : Value((rest_ + Number(whole_)) / Number(count_));
-}
+Value SumAccumulator::average() const { return count_ == 0 ? Value() : Value(sum_ / Number(count_)); }
 
 void VarianceAccumulator::step(const Value& value) {
   if (!value.isNull()) {

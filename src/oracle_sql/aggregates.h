@@ -19,10 +19,7 @@ class SumAccumulator {
   std::int64_t count() const { return count_; }
 
  private:
-  void add(std::int64_t whole);
-
-  std::int64_t whole_ = 0;  // the part of the sum that fits here: no decimal work while everything is whole
-  Number rest_;
+  Number sum_;  // rounded at each row, in the order of the rows
   std::int64_t count_ = 0;
 };
 

@@ -45,6 +45,16 @@ TEST(Sum, leaves64BitsAndComesBackExactly) {
   EXPECT_EQ("9223372036854775807", shown(sum.sum()));
 }
 
+// 100 + 1/3 keeps 36 digits behind the point (18 of 20 pairs), 1/3 alone 40: what comes first decides the
+// last digit.
+TEST(Sum, isRoundedRowByRow) {
+  SumAccumulator sum;
+  for (const Number& number : {Number(100), Number(1) / Number(3), Number(-100)}) {
+    sum.step(number);
+  }
+  EXPECT_EQ("." + std::string(36, '3'), toText(sum.sum()));
+}
+
 TEST(Sum, fractionsAreDecimal) {
   SumAccumulator sum;
   for (const char* x : {"0.1", "0.2", "0.3"}) {
