@@ -29,6 +29,8 @@ Value kept(const Value& value) {
   return value.isRaw() ? Value::raw(std::string(value.bytes())) : value;
 }
 
+Value root(const Value& squared) { return squared.isNull() ? squared : Value(sqrt(squared.number())); }
+
 }  // namespace
 
 void SumAccumulator::step(const Number& number) {
@@ -83,10 +85,11 @@ Number VarianceAccumulator::spread(std::int64_t divisor) const {
 
 Value VarianceAccumulator::variance() const { return count_ == 1 ? Value(0) : sampleVariance(); }
 
-Value VarianceAccumulator::standardDeviation() const {
-  const Value squared = variance();
-  return squared.isNull() ? squared : Value(sqrt(squared.number()));
-}
+Value VarianceAccumulator::standardDeviation() const { return root(variance()); }
+
+Value VarianceAccumulator::sampleDeviation() const { return root(sampleVariance()); }
+
+Value VarianceAccumulator::populationDeviation() const { return root(populationVariance()); }
 
 Value VarianceAccumulator::sampleVariance() const { return count_ < 2 ? Value() : Value(spread(count_ - 1)); }
 

@@ -28,10 +28,12 @@ class VarianceAccumulator {
  public:
   void step(const Value& value);
   void inverse(const Value& value);
-  Value variance() const;            // 0 for a single value
-  Value standardDeviation() const;   // 0 for a single value
-  Value sampleVariance() const;      // VAR_SAMP: NULL for a single value
-  Value populationVariance() const;  // VAR_POP
+  Value variance() const;             // 0 for a single value
+  Value standardDeviation() const;    // 0 for a single value
+  Value sampleVariance() const;       // VAR_SAMP: NULL for a single value
+  Value populationVariance() const;   // VAR_POP
+  Value sampleDeviation() const;      // STDDEV_SAMP: NULL for a single value
+  Value populationDeviation() const;  // STDDEV_POP
 
  private:
   Number spread(std::int64_t divisor) const;

@@ -106,8 +106,7 @@ Type Resolver::setFunction(Call& c, const SetFunction& f, const Env& env) {
                         f.name == "LAST_VALUE" || f.name == "NTH_VALUE";
   if (c.nulls != NullTreatment::Default && !picksRow) fail(907, "missing right parenthesis", c.place);
   if (c.star && f.name != "COUNT") fail(936, "missing expression", c.place);
-  if (c.distinct && (f.result == SetResult::Text || !f.aggregate))
-    fail(30482, "DISTINCT option not allowed for this function", c.place);
+  if (c.distinct && !f.keeps) fail(30482, "DISTINCT option not allowed for this function", c.place);
   if (!c.star) countArguments(c, f.minArguments, f.maxArguments);
 
   SelectBlock* b = env.scope->block;

@@ -18,7 +18,7 @@ struct SetFunction {
   bool aggregate;   ///< may stand without OVER
   bool window;      ///< may stand with OVER
   bool needsOrder;  ///< OVER must have ORDER BY
-  bool keeps;       ///< may have KEEP (DENSE_RANK ...)
+  bool keeps;       ///< may have KEEP (DENSE_RANK ...), and DISTINCT
   SetResult result;
 };
 

@@ -1,8 +1,7 @@
 // KEEP (DENSE_RANK FIRST ...): an aggregate over the rows that share the first place of an order. Arguments
-// are the value and the sort keys.
+// are the value and the sort keys; without keys all rows share it.
 #include <optional>
 #include <set>
-#include <stdexcept>
 #include <string>
 
 #include "oracle_sql/aggregates.h"
@@ -65,7 +64,7 @@ struct Distinct {
 
 /// The aggregate begins anew with every row that comes before all others so far.
 template <class Aggregate>
-struct Keeping {
+struct Keeping : WholePartition {
   static constexpr int kValues = 1;
   std::optional<SortKeys> first;
   Aggregate aggregate;
@@ -79,7 +78,6 @@ struct Keeping {
     }
     if (!isNull(arguments[0])) aggregate.take(arguments[0]);
   }
-  void takeBack(Values) { throw std::logic_error("KEEP has no frame that loses rows"); }
   void give(sqlite3_context* context) const { aggregate.give(context); }
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <stdexcept>
 
 #include "platform/embedded/function_frame.h"
 
@@ -23,6 +24,11 @@ template <class State>
 State*& slot(sqlite3_context* context) {
   return *static_cast<State**>(sqlite3_aggregate_context(context, sizeof(State*)));
 }
+
+/// Base of states of functions that take no order in OVER: the frame is the partition and loses no row.
+struct WholePartition {
+  void takeBack(Values) { throw std::logic_error("a whole partition loses no row"); }
+};
 
 /// xStep: `State::take(count, arguments)`.
 template <class State>
@@ -73,13 +79,6 @@ template <class State>
 void addMoving(sqlite3* connection, const char* name, int count, Evaluation& evaluation) {
   checkRegistration(sqlite3_create_window_function(connection, name, count, kPure, &evaluation, take<State>,
                                                    finish<State>, current<State>, takeBack<State>, nullptr),
-                    name);
-}
-
-template <class State>
-void addAggregate(sqlite3* connection, const char* name, int count, Evaluation& evaluation) {
-  checkRegistration(sqlite3_create_function_v2(connection, name, count, kPure, &evaluation, nullptr,
-                                               take<State>, finish<State>, nullptr),
                     name);
 }
 

@@ -1,68 +1,67 @@
 // Aggregates that must keep the values they are given: of a moving frame, or to sort them at the end.
 #include <algorithm>
 #include <deque>
-#include <map>
 #include <string>
+#include <type_traits>
 #include <vector>
 
-#include "oracle_sql/number.h"
+#include "oracle_sql/date.h"
 #include "platform/embedded/sort_keys.h"
 #include "platform/embedded/storage.h"
 
 namespace kestrelix::embedded {
 namespace {
 
-/// FIRST_VALUE and LAST_VALUE that pass over NULL: the frame's values that are there, in its order.
+/// The longest VARCHAR2 of a statement, in bytes.
+constexpr std::size_t kMaxText = 4000;
+
+/// LAG, FIRST_VALUE and the like that pass over NULL: the frame's values that are there, in its order. A
+/// second argument tells the how manieth of them is asked for, from 1.
 template <bool Last>
 struct KnownValues {
   std::deque<KeptValue> values;
+  std::size_t which = 1;
 
-  void take(int, Values arguments) {
+  void take(int count, Values arguments) {
+    if (count > 1) which = static_cast<std::size_t>(sqlite3_value_int64(arguments[1]));
     if (!isNull(arguments[0])) values.push_back(kept(arguments[0]));
   }
   void takeBack(Values arguments) {
     if (!isNull(arguments[0]) && !values.empty()) values.pop_front();
   }
   void give(sqlite3_context* context) const {
-    if (!values.empty()) sqlite3_result_value(context, (Last ? values.back() : values.front()).get());
+    if (which > values.size()) return;
+    sqlite3_result_value(context, values[Last ? values.size() - which : which - 1].get());
   }
 };
 
-/// COUNT(DISTINCT x) OVER: how often each value stands in the frame.
-struct DistinctValues {
-  std::map<std::string, long> counts;
+/// MEDIAN: the middle one, or what lies halfway between the two in the middle.
+template <class Value>
+struct Median : WholePartition {
+  std::vector<Value> sorted;
 
   void take(int, Values arguments) {
-    if (!isNull(arguments[0])) ++counts[identityOf(arguments[0])];
-  }
-  void takeBack(Values arguments) {
     if (isNull(arguments[0])) return;
-    const auto found = counts.find(identityOf(arguments[0]));
-    if (found != counts.end() && --found->second == 0) counts.erase(found);
-  }
-  void give(sqlite3_context* context) const {
-    sqlite3_result_int64(context, static_cast<sqlite3_int64>(counts.size()));
-  }
-};
-
-/// MEDIAN of numbers: the middle one, or the mean of the two in the middle.
-struct Median {
-  std::vector<values::Number> numbers;
-
-  void take(int, Values arguments) {
-    if (!isNull(arguments[0])) numbers.push_back(numberOf(arguments[0]));
+    if constexpr (std::is_same_v<Value, values::Date>)
+      sorted.push_back({sqlite3_value_int64(arguments[0])});
+    else
+      sorted.push_back(numberOf(arguments[0]));
   }
   void give(sqlite3_context* context) {
-    if (numbers.empty()) return;
-    std::sort(numbers.begin(), numbers.end());
-    const std::size_t middle = numbers.size() / 2;
-    if (numbers.size() % 2 == 1) return giveNumber(context, numbers[middle]);
-    giveNumber(context, (numbers[middle - 1] + numbers[middle]) / values::Number(2));
+    if (sorted.empty()) return;
+    std::sort(sorted.begin(), sorted.end());
+    const std::size_t middle = sorted.size() / 2;
+    if (sorted.size() % 2 == 1) return giveValue(context, sorted[middle]);
+    const Value& low = sorted[middle - 1];
+    if constexpr (std::is_same_v<Value, values::Date>)
+      giveValue(context, low + (sorted[middle] - low) / values::Number(2));
+    else
+      giveValue(context, (low + sorted[middle]) / values::Number(2));
   }
 };
 
 /// LISTAGG: arguments are the text, what stands between two, and the sort keys.
-struct TextList {
+struct TextList : WholePartition {
   static constexpr int kValues = 2;
   struct Row {
     std::string text;
@@ -85,6 +84,8 @@ struct TextList {
                      [](const Row& a, const Row& b) { return a.keys.compare(b.keys) < 0; });
     std::string text;
     for (const Row& row : rows) text += (&row == rows.data() ? "" : between) + row.text;
+    if (text.size() > kMaxText)
+      throw values::FunctionError(1489, "result of string concatenation is too long");
     giveValue(context, values::Value::text(std::move(text)));
   }
 };
@@ -92,11 +93,13 @@ struct TextList {
 }  // namespace
 
 void registerKeptValues(sqlite3* connection, Evaluation& evaluation) {
-  addMoving<KnownValues<false>>(connection, "first_known", 1, evaluation);
-  addMoving<KnownValues<true>>(connection, "last_known", 1, evaluation);
-  addMoving<DistinctValues>(connection, "count_distinct", 1, evaluation);
-  addAggregate<Median>(connection, "num_median", 1, evaluation);
-  addAggregate<TextList>(connection, "listagg", -1, evaluation);
+  for (const int count : {1, 2}) {
+    addMoving<KnownValues<false>>(connection, "first_known", count, evaluation);
+    addMoving<KnownValues<true>>(connection, "last_known", count, evaluation);
+  }
+  addMoving<Median<values::Number>>(connection, "num_median", 1, evaluation);
+  addMoving<Median<values::Date>>(connection, "date_median", 1, evaluation);
+  addMoving<TextList>(connection, "listagg", -1, evaluation);
 }
 
 }  // namespace kestrelix::embedded

@@ -175,6 +175,8 @@ class LocalDatabase::Engine {
       }
       if (!wideSums && std::string_view(error.what()).find("integer overflow") != std::string_view::npos)
         throw SumTooLarge();
+      if (std::string_view(error.what()).find("ing offset must be") != std::string_view::npos)
+        fail(sql::SqlError::wrong(1428, "the offset of a frame is out of range", {}), text);
       throw DatabaseError(error.sqlState(), error.nativeCode(), error.what(), text);
     }
   }

@@ -270,6 +270,18 @@ void castFloat(sqlite3_context* context, int, Values arguments) {
   }
 }
 
+/// How far a frame or a shift goes: a whole number that is not below the second argument.
+void rowOffset(sqlite3_context* context, int, Values arguments) {
+  try {
+    if (isNull(arguments[0])) values::raiseArgumentOutOfRange("");
+    const std::int64_t offset = numberOf(arguments[0]).clampToInt64();
+    if (offset < sqlite3_value_int64(arguments[1])) values::raiseArgumentOutOfRange(std::to_string(offset));
+    sqlite3_result_int64(context, offset);
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), offsetOf(arguments[2]));
+  }
+}
+
 struct Entry {
   const char* name;
   int count;
@@ -283,7 +295,7 @@ constexpr Entry kFunctions[] = {
     {"num_key", 1, orderKey},      {"whole_up", 1, wholeUp},      {"whole_down", 1, wholeDown},
     {"rows_up_to", 1, rowsUpTo},   {"rows_below", 1, rowsBelow},  {"date_days", 3, dateDays},
     {"date_plus", 3, datePlus},    {"date_minus", 3, dateMinus},  {"cast_number", 4, castNumber},
-    {"cast_float", 3, castFloat},  {"num_chain", -1, chain},
+    {"cast_float", 3, castFloat},  {"num_chain", -1, chain},      {"row_offset", 3, rowOffset},
 };
 
 }  // namespace

@@ -18,9 +18,15 @@ struct NumberAggregate {
   const char* function;
 };
 constexpr NumberAggregate kNumberAggregates[] = {
-    {"SUM", "num_sum"},           {"AVG", "num_avg"},           {"STDDEV", "num_stddev"},
-    {"VARIANCE", "num_variance"}, {"VAR_SAMP", "num_var_samp"}, {"VAR_POP", "num_var_pop"},
+    {"SUM", "num_sum"},
+    {"AVG", "num_avg"},
+    {"STDDEV", "num_stddev"},
+    {"VARIANCE", "num_variance"},
+    {"VAR_SAMP", "num_var_samp"},
+    {"VAR_POP", "num_var_pop"},
     {"MEDIAN", "num_median"},
+    {"STDDEV_POP", "num_stddev_pop"},
+    {"STDDEV_SAMP", "num_stddev_samp"},
 };
 
 /// The texts of a group in an order of their own.
@@ -41,7 +47,7 @@ Piece listAggregate(Emitter& emitter, const sql::Call& call, const std::vector<P
 Piece lowerAggregate(Emitter& emitter, const sql::Call& call) {
   std::vector<Piece> arguments;
   for (const sql::Expr* argument : call.args) arguments.push_back(emitter.expression(*argument));
-  if (call.keep) return lowerKeep(emitter, call, arguments);
+  if (call.keep || (call.distinct && call.over)) return lowerKeep(emitter, call, arguments);
   Piece result;
   result.kind = call.type.kind;
   result.atom = true;
@@ -60,10 +66,11 @@ Piece lowerAggregate(Emitter& emitter, const sql::Call& call) {
     result.number = argument.number;
     return result;
   }
-  if (call.name == "LISTAGG" && !call.distinct && !call.over) return listAggregate(emitter, call, arguments);
-  const bool medianOfNumbers =
-      call.name != "MEDIAN" || (!call.over && arguments.at(0).kind == TypeKind::Number);
-  if (!medianOfNumbers) throw sql::SqlError::unsupported("MEDIAN of this kind", call.place);
+  if (call.name == "LISTAGG") return listAggregate(emitter, call, arguments);
+  if (call.name == "MEDIAN" && call.type.kind == TypeKind::Date) {
+    result.text = "date_median(" + arguments.at(0).text + ")";
+    return result;
+  }
   for (const auto& aggregate : kNumberAggregates) {
     if (aggregate.name != call.name) continue;
     const Piece argument = emitter.converted(arguments.at(0), TypeKind::Number, call.args.front()->place);

@@ -107,14 +107,8 @@ std::string equalRows(Emitter& emitter, const std::vector<Piece>& left, const st
 
 std::string quantified(Emitter& emitter, const sql::Compare& compare) {
   const bool any = compare.quantifier == sql::Quantifier::Any;
+  if (compare.query) return lowerQuantifiedQuery(emitter, compare, rowOf(emitter, *compare.left));
   const Piece left = emitter.expression(*compare.left);
-  if (compare.query) {
-    if (any && compare.op == CompareOp::Equal)
-      return lowerInQuery(emitter, {left}, false, *compare.query, compare.place);
-    if (!any && compare.op == CompareOp::NotEqual)
-      return lowerInQuery(emitter, {left}, true, *compare.query, compare.place);
-    throw sql::SqlError::unsupported(any ? "ANY with a subquery" : "ALL with a subquery", compare.place);
-  }
   std::vector<std::string> terms;
   for (const sql::Expr* item : compare.list)
     terms.push_back(compared(emitter, compare.op, left, emitter.expression(*item), compare.place));

@@ -1,6 +1,6 @@
 // KEEP (DENSE_RANK FIRST|LAST ...): SQLite's aggregates know no order, so the sort keys go along, and the
 // aggregate itself drops the rows that another one comes before. The last ones are the first of the order
-// turned round.
+// turned round. DISTINCT in a window, which SQLite lacks, keeps all rows of the partition.
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
@@ -46,7 +46,7 @@ Piece lowerKeep(Emitter& emitter, const sql::Call& call, const std::vector<Piece
   if (function.empty())
     throw sql::SqlError::unsupported("KEEP of the aggregate " + std::string(call.name), call.place);
   result.text = "keep_" + function + (call.distinct ? "_distinct(" : "(") + value +
-                sortKeys(emitter, call.keep->orderBy, call.keep->last) + ")";
+                (call.keep ? sortKeys(emitter, call.keep->orderBy, call.keep->last) : "") + ")";
   return result;
 }
 

@@ -137,13 +137,24 @@ Piece lowerCall(Emitter& emitter, const sql::Call& call);
 Piece lowerAggregate(Emitter& emitter, const sql::Call& call);
 /// keep: the aggregate over the rows that are first or last in an order.
 Piece lowerKeep(Emitter& emitter, const sql::Call& call, const std::vector<Piece>& arguments);
-/// windows: OVER with Oracle's default frame and NULL order.
+/// windows: ranks, and aggregates over a frame.
 Piece lowerWindow(Emitter& emitter, const sql::Call& call);
+/// other_rows: LAG and its like.
+bool givesOtherRow(const sql::Call& call);
+Piece lowerOtherRow(Emitter& emitter, const sql::Call& call);
+/// frames: " OVER (...)", and PARTITION BY alone, which may be empty.
+std::string overText(Emitter& emitter, const sql::Window& window);
+std::string partitionText(Emitter& emitter, const sql::Window& window);
+/// A count of rows, not below `least` (ORA-01428).
+std::string rowOffset(Emitter& emitter, const sql::Expr& expr, int least);
 /// cast: CAST(x AS type).
 Piece lowerCast(Emitter& emitter, const sql::CastExpr& cast);
 /// subqueries: a scalar subquery of two rows is an error.
 Piece lowerScalarSubquery(Emitter& emitter, const sql::SubqueryExpr& subquery);
 std::string lowerExists(Emitter& emitter, const sql::Exists& exists);
+/// `operand` op ANY|ALL (subquery), with all three truth values.
+std::string lowerQuantifiedQuery(Emitter& emitter, const sql::Compare& compare,
+                                 const std::vector<Piece>& operand);
 std::string lowerInQuery(Emitter& emitter, const std::vector<Piece>& operand, bool negated,
                          const sql::Query& query, sql::Place place);
 

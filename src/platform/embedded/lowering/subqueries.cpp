@@ -9,6 +9,16 @@ bool givesOneRow(const sql::Query& query) {
   return block && block->grouped && block->groupBy.empty() && !block->having;
 }
 
+/// What a condition reads of a subquery in FROM.
+Piece memberOf(const SourceColumn& column) {
+  Piece member;
+  member.text = quoted(column.name);
+  member.kind = column.kind;
+  member.number = column.number;
+  member.atom = member.cheap = true;
+  return member;
+}
+
 }  // namespace
 
 Piece lowerScalarSubquery(Emitter& emitter, const sql::SubqueryExpr& subquery) {
@@ -31,6 +41,23 @@ std::string lowerExists(Emitter& emitter, const sql::Exists& exists) {
   return "EXISTS (" + emitter.query(*exists.query).text + ")";
 }
 
+std::string lowerQuantifiedQuery(Emitter& emitter, const sql::Compare& compare,
+                                 const std::vector<Piece>& operand) {
+  const bool any = compare.quantifier == sql::Quantifier::Any;
+  if (any && compare.op == sql::CompareOp::Equal)
+    return lowerInQuery(emitter, operand, false, *compare.query, compare.place);
+  if (!any && compare.op == sql::CompareOp::NotEqual)
+    return lowerInQuery(emitter, operand, true, *compare.query, compare.place);
+  if (operand.size() > 1) throw sql::SqlError::unsupported("a row against ANY or ALL", compare.place);
+  const QueryText text = emitter.query(*compare.query);
+  const std::string test =
+      compared(emitter, compare.op, operand.front(), memberOf(text.columns.front()), compare.place);
+  // One row decides; else a row that is neither true nor false leaves the whole so.
+  const std::string verdict = any ? "WHEN max(\"test\") THEN 1 WHEN count(*) = count(\"test\") THEN 0"
+                                  : "WHEN NOT min(\"test\") THEN 0 WHEN count(*) = count(\"test\") THEN 1";
+  return "(SELECT CASE " + verdict + " END FROM (SELECT " + test + " AS \"test\" FROM (" + text.text + ")))";
+}
+
 std::string lowerInQuery(Emitter& emitter, const std::vector<Piece>& operand, bool negated,
                          const sql::Query& query, sql::Place place) {
   const QueryText text = emitter.query(query);
@@ -38,11 +65,7 @@ std::string lowerInQuery(Emitter& emitter, const std::vector<Piece>& operand, bo
   std::string list;
   bool converts = false;
   for (std::size_t i = 0; i < operand.size(); ++i) {
-    const SourceColumn& column = text.columns.at(i);
-    Piece item;
-    item.kind = column.kind;
-    item.text = quoted(column.name);
-    item.atom = true;
+    const Piece item = memberOf(text.columns.at(i));
     const auto comparison = sql::comparisonOf(sql::Type{operand[i].kind}, sql::Type{item.kind});
     sql::TypeKind target = sql::TypeKind::Varchar2;
     if (comparison == sql::Comparison::Number) target = sql::TypeKind::Number;
