@@ -268,23 +268,29 @@ std::string formatHexadecimal(const Number& number, const NumberModel& model) {
   return model.filled ? std::string(width - text.size(), ' ') + text : text;
 }
 
-std::string formatTextScientific(const Number& number) {
+std::string formatTextScientific(const Number& number, const NumberSymbols& symbols) {
   if (number.isZero()) {
     return "0E+00";
   }
   const Mantissa m = mantissaOf(number);
   std::string text(number.isNegative() ? "-" : "");
   text += m.digits[0];
-  text += m.digits.size() > 1 ? "." + m.digits.substr(1) : "";
+  if (m.digits.size() > 1) {
+    text += symbols.point + m.digits.substr(1);
+  }
   return text + exponentText(m.exponent);
 }
 
-std::string formatText(const Number& number) {
+std::string formatText(const Number& number, const NumberSymbols& symbols) {
   std::string plain = number.toPlainText();
   if (number.abs() < Number(1) && !number.isZero()) {
     plain.erase(number.isNegative() ? 1 : 0, 1);
   }
-  return plain.size() > kTextModelWidth ? formatTextScientific(number) : plain;
+  if (plain.size() > kTextModelWidth) {
+    return formatTextScientific(number, symbols);
+  }
+  std::ranges::replace(plain, '.', symbols.point);
+  return plain;
 }
 
 }  // namespace
@@ -301,9 +307,9 @@ std::string formatNumber(const Number& number, std::string_view model, const Num
     case Form::Hexadecimal:
       return formatHexadecimal(number, m);
     case Form::Text:
-      return formatText(number);
+      return formatText(number, symbols);
     case Form::TextScientific:
-      return formatTextScientific(number);
+      return formatTextScientific(number, symbols);
   }
   return formatFixed(number, m, symbols);
 }
