@@ -186,6 +186,15 @@ TEST(NumberFormat, textMinimumIsTheNumberAsItStands) {
   EXPECT_EQ("1E+70", formatNumber(*Number::parse("1e70"), "TM9"));
 }
 
+// Scripts force the point of JSON in a session with a comma by NLS_NUMERIC_CHARACTERS behind the model TM9.
+TEST(NumberFormat, textMinimumTakesThePointOfTheSetting) {
+  NumberSymbols symbols;
+  symbols.point = ',';
+  EXPECT_EQ("1,5", formatNumber(*Number::parse("1.5"), "TM9", symbols));
+  EXPECT_EQ("-,5", formatNumber(*Number::parse("-.5"), "TM", symbols));
+  EXPECT_EQ("1,2345E+03", formatNumber(*Number::parse("1234.5"), "TME", symbols));
+}
+
 TEST(NumberFormat, shiftMultipliesByAPowerOfTen) {
   expectAll({{"12.345", "99V99", " 1235"}, {"1", "9V999", " 1000"}});
 }
