@@ -136,6 +136,29 @@ TEST_F(RepositoryFile, accountIsAskedForAsByAServer) {
   }
 }
 
+// The cost stands in the hash: a file from elsewhere must not make a login take hours and gigabytes.
+TEST_F(RepositoryFile, aHashOfAnotherCostIsRefusedAtOnce) {
+  const std::string sound = bytesOf(file_);
+  const std::string end = ",p=1$c29tZXNhbHRzb21lc2FsdA$RdescudvJCsgt3ub+b4ds5J2J7S1fNVbHTbUj6oCoe8";
+  for (const std::string& hash :
+       {"$argon2id$v=19$m=4194304,t=1000" + end, "$argon2id$v=19$m=64,t=2" + end,
+        "$argon2id$v=19$m=65,t=1" + end, std::string("perfstat"), std::string(500, 'x'), std::string()}) {
+    write(folder_ / "changed", sound);
+    sqlite3* changed = nullptr;
+    ASSERT_EQ(sqlite3_open((folder_ / "changed").c_str(), &changed), SQLITE_OK);
+    const std::string change =
+        "UPDATE \"kestrelix$setting\" SET value = '" + hash + "' WHERE name = 'password_hash'";
+    ASSERT_EQ(sqlite3_exec(changed, change.c_str(), nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(changed);
+    try {
+      LocalFileSession(folder_ / "changed").OpenDatabase("ANY", "PERFSTAT/perfstat", 1);
+      FAIL() << hash;
+    } catch (const DatabaseError& error) {
+      EXPECT_STREQ(error.what(), "the repository's password hash is not of this program's form") << hash;
+    }
+  }
+}
+
 TEST_F(RepositoryFile, nameWithASlashIsNoDatabase) {
   LocalSession session(folder_.path() / "below");
   EXPECT_FALSE(session.has("../a repository %41"));

@@ -176,6 +176,14 @@ TEST_F(BadRepository, anEmptyInstanceTableIsItsBox) {
   EXPECT_THAT(report("check").errors, HasSubstr("tells of no Oracle 9, 10 or 11 instance"));
 }
 
+TEST_F(BadRepository, anInstanceWithoutAVersionIsSaidByTheCheck) {
+  put(csv_ / "STATS$DATABASE_INSTANCE.CSV",
+      "DBID,INSTANCE_NUMBER,PARALLEL,VERSION,DB_NAME,INSTANCE_NAME,HOST_NAME\n42,1,NO,,HAND,hand1,desk\n");
+  import();
+  EXPECT_EQ(report("check").errors,
+            "kestrelix-report: table stats$database_instance: the column VERSION is null\n");
+}
+
 TEST_F(BadRepository, oneSnapshotMakesNoPair) {
   put(csv_ / "stats$snapshot.csv",
       "SNAP_ID,DBID,INSTANCE_NUMBER,SNAP_TIME,STARTUP_TIME,SNAP_LEVEL,UCOMMENT\n"

@@ -72,7 +72,13 @@ void check(const Options& options, StderrBoxes& boxes) {
     throw CheckFailed("table stats$database_instance: " + error);
   int missing = 0;
   int releases = 0;
-  for (const std::string& major : versions(*database)) {
+  std::set<std::string> majors;
+  try {
+    majors = versions(*database);
+  } catch (const DatabaseError& error) {
+    throw CheckFailed(std::string("table stats$database_instance: ") + error.what());
+  }
+  for (const std::string& major : majors) {
     if (!passVersionGate(boxes, major)) continue;
     ++releases;
     for (const statspack::Table& table : statspack::release(major).tables()) {

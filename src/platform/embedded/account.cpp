@@ -4,6 +4,7 @@
 
 #include "platform/ascii.h"
 #include "platform/embedded/sqlite_handle.h"
+#include "platform/embedded/writing/password_hash.h"
 
 namespace kestrelix::embedded {
 namespace {
@@ -23,9 +24,12 @@ std::string setting(sqlite3* connection, const char* name) {
 void checkAccount(sqlite3* connection, const Credentials& credentials) {
   startSodium();
   const std::string hash = setting(connection, "password_hash");
+  // A file that comes from elsewhere could name a cost of hours and of all the memory.
+  if (crypto_pwhash_str_needs_rehash(hash.c_str(), kHashRounds, kHashKilobytes * 1024) != 0)
+    throw DatabaseError("08001", 0, "the repository's password hash is not of this program's form");
   const bool rightUser = !credentials.user.empty() && !credentials.password.empty() &&
                          asciiUpper(credentials.user) == asciiUpper(setting(connection, "user_name"));
-  if (!rightUser || hash.empty() || hash.size() >= crypto_pwhash_STRBYTES ||
+  if (!rightUser ||
       crypto_pwhash_str_verify(hash.c_str(), credentials.password.data(), credentials.password.size()) != 0)
     throw DatabaseError("28000", 1017, "ORA-01017: invalid username/password; logon denied");
 }

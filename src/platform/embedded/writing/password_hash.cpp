@@ -23,19 +23,19 @@ std::string base64(const unsigned char* bytes, std::size_t size) {
 std::string saltedHash(const std::string& password, const std::optional<PasswordSalt>& salt) {
   if (sodium_init() < 0) throw std::runtime_error("the cryptographic library does not start");
   static_assert(crypto_pwhash_SALTBYTES == std::tuple_size_v<PasswordSalt>);
-  constexpr unsigned kRounds = crypto_pwhash_OPSLIMIT_MIN;
-  constexpr std::size_t kKilobytes = 64;
+  static_assert(kHashRounds >= crypto_pwhash_OPSLIMIT_MIN &&
+                kHashKilobytes * 1024 >= crypto_pwhash_MEMLIMIT_MIN);
   PasswordSalt used{};
   if (salt)
     used = *salt;
   else
     randombytes_buf(used.data(), used.size());
   std::array<unsigned char, 32> hash{};
-  if (crypto_pwhash(hash.data(), hash.size(), password.data(), password.size(), used.data(), kRounds,
-                    kKilobytes * 1024, crypto_pwhash_ALG_ARGON2ID13) != 0)
+  if (crypto_pwhash(hash.data(), hash.size(), password.data(), password.size(), used.data(), kHashRounds,
+                    kHashKilobytes * 1024, crypto_pwhash_ALG_ARGON2ID13) != 0)
     throw std::runtime_error("no memory to hash the password");
-  return "$argon2id$v=19$m=" + std::to_string(kKilobytes) + ",t=" + std::to_string(kRounds) + ",p=1$" +
-         base64(used.data(), used.size()) + "$" + base64(hash.data(), hash.size());
+  return "$argon2id$v=19$m=" + std::to_string(kHashKilobytes) + ",t=" + std::to_string(kHashRounds) +
+         ",p=1$" + base64(used.data(), used.size()) + "$" + base64(hash.data(), hash.size());
 }
 
 }  // namespace kestrelix::embedded

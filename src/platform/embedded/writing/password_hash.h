@@ -2,10 +2,15 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 
 namespace kestrelix::embedded {
+
+/// What a hash costs; the check of a login takes no other cost from a file.
+inline constexpr unsigned kHashRounds = 1;
+inline constexpr std::size_t kHashKilobytes = 64;
 
 using PasswordSalt = std::array<unsigned char, 16>;
 
