@@ -59,6 +59,44 @@ Value SumAccumulator::sum() const { return count_ == 0 ? Value() : Value(sum_); 
 
 Value SumAccumulator::average() const { return count_ == 0 ? Value() : Value(sum_ / Number(count_)); }
 
+void MovingSumAccumulator::add(const Number& number) {
+  const Number sum = sum_ + number;
+  // One of the two differences shows what rounding lost: the one that gives the smaller of both.
+  exact_ = exact_ && sum - number == sum_ && sum - sum_ == number;
+  sum_ = sum;
+}
+
+void MovingSumAccumulator::settle() {
+  if (exact_) {
+    return;
+  }
+  sum_ = Number();
+  exact_ = true;
+  for (const Number& number : numbers_) {
+    add(number);
+  }
+}
+
+void MovingSumAccumulator::step(const Number& number) {
+  numbers_.push_back(number);
+  add(number);
+}
+
+void MovingSumAccumulator::inverse(const Number& number) {
+  numbers_.pop_front();
+  add(-number);
+}
+
+Value MovingSumAccumulator::sum() {
+  settle();
+  return numbers_.empty() ? Value() : Value(sum_);
+}
+
+Value MovingSumAccumulator::average() {
+  settle();
+  return numbers_.empty() ? Value() : Value(sum_ / Number(static_cast<std::int64_t>(numbers_.size())));
+}
+
 void VarianceAccumulator::step(const Value& value) {
   if (!value.isNull()) {
     const Number number = toNumber(value);

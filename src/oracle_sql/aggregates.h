@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <map>
 
 #include "oracle_sql/value.h"
@@ -21,6 +22,24 @@ class SumAccumulator {
  private:
   Number sum_;  // rounded at each row, in the order of the rows
   std::int64_t count_ = 0;
+};
+
+// SUM and AVG over a window whose begin moves too. What a rounded sum takes back would leave a trace of the
+// rows that are gone, so the rows of such a window are kept and added anew.
+class MovingSumAccumulator {
+ public:
+  void step(const Number& number);
+  void inverse(const Number& number);  // takes back the oldest one
+  Value sum();                         // NULL over nothing
+  Value average();                     // NULL over nothing
+
+ private:
+  void add(const Number& number);
+  void settle();
+
+  std::deque<Number> numbers_;
+  Number sum_;
+  bool exact_ = true;  // sum_ was never rounded
 };
 
 // VARIANCE and STDDEV, of a sample; 0 for one value, NULL over nothing.

@@ -78,6 +78,32 @@ TEST_F(NumberStatements, nvlComputesWhatItDoesNotGive) {
             answer("nvl(1, '2'), nvl('a', .5), nvl(to_char(null), .5), nvl(to_number(null), -1)"));
 }
 
+// 100/3 has two digits less behind the point than 1/7: a sum that had held both would keep a trace of the
+// rounding.
+TEST_F(NumberStatements, sumOverRowsThatMoveLeavesNoTraceOfThoseGone) {
+  const auto result = database_->run(
+      "with t as (select 1 id, 100 / 3 x from dual union all select 2, 1 / 7 from dual union all select 3, 0 "
+      "from dual "
+      "union all select 4, 0 from dual union all select 5, null from dual union all select 6, null from "
+      "dual) "
+      "select sum(x) over (order by id rows 1 preceding), avg(x) over (order by id rows 1 preceding) from t "
+      "order by id");
+  std::vector<std::string> lines;
+  for (; !result->Eof(); result->MoveNext()) {
+    const auto cell = [&](std::size_t i) {
+      const auto field = result->field(i);
+      return field.isNull() ? std::string("-") : field.value();
+    };
+    lines.push_back(cell(0) + "|" + cell(1));
+  }
+  EXPECT_THAT(lines,
+              testing::ElementsAre(
+                  "33.33333333333333333333333333333333333333|33.33333333333333333333333333333333333333",
+                  "33.47619047619047619047619047619047619047|16.73809523809523809523809523809523809524",
+                  "0.1428571428571428571428571428571428571429|0.0714285714285714285714285714285714285715",
+                  "0|0", "0|0", "-|-"));
+}
+
 // The texts of ORA-01727, ORA-01728, ORA-01723 and ORA-00910 in the Error Messages.
 TEST_F(NumberStatements, lengthsOfCastHaveTheirOwnErrors) {
   EXPECT_THAT(answer("cast(1 as number(39))"),

@@ -83,15 +83,16 @@ void extremeResult(sqlite3_context* context) {
   giveNumber(context, extreme->number);
 }
 
-using Moving = values::MovingExtremeAccumulator;
-
+/// An aggregate of a window that moves, in an object of its own.
+template <class Moving>
 Moving*& movingOf(sqlite3_context* context) {
   return *static_cast<Moving**>(sqlite3_aggregate_context(context, sizeof(Moving*)));
 }
 
+template <class Moving>
 void movingStep(sqlite3_context* context, int, Values arguments) {
   try {
-    Moving*& moving = movingOf(context);
+    Moving*& moving = movingOf<Moving>(context);
     if (!moving) moving = new Moving;
     if (!isNull(arguments[0])) moving->step(numberOf(arguments[0]));
   } catch (...) {
@@ -99,27 +100,40 @@ void movingStep(sqlite3_context* context, int, Values arguments) {
   }
 }
 
+template <class Moving>
 void movingInverse(sqlite3_context* context, int, Values arguments) {
   try {
-    Moving* moving = movingOf(context);
+    Moving* moving = movingOf<Moving>(context);
     if (moving && !isNull(arguments[0])) moving->inverse(numberOf(arguments[0]));
   } catch (...) {
     giveFailure(context, evaluationOf(context), 0);
   }
 }
 
-template <values::Value (Moving::*Result)() const>
+template <class Moving, auto Result>
 void movingValue(sqlite3_context* context) {
-  const Moving* moving = movingOf(context);
+  Moving* moving = movingOf<Moving>(context);
   if (!moving) return sqlite3_result_null(context);
-  giveValue(context, (moving->*Result)());
+  try {
+    giveValue(context, (moving->*Result)());
+  } catch (...) {
+    giveFailure(context, evaluationOf(context), 0);
+  }
 }
 
-template <values::Value (Moving::*Result)() const>
+template <class Moving, auto Result>
 void movingFinal(sqlite3_context* context) {
-  const std::unique_ptr<Moving> moving(movingOf(context));
-  if (!moving) return sqlite3_result_null(context);
-  giveValue(context, ((*moving).*Result)());
+  const std::unique_ptr<Moving> moving(movingOf<Moving>(context));
+  movingValue<Moving, Result>(context);
+}
+
+template <class Moving, auto Result>
+void addMovingWindow(sqlite3* connection, const char* name, Evaluation& evaluation) {
+  checkRegistration(
+      sqlite3_create_window_function(connection, name, 1, kPure, &evaluation, movingStep<Moving>,
+                                     movingFinal<Moving, Result>, movingValue<Moving, Result>,
+                                     movingInverse<Moving>, nullptr),
+      name);
 }
 
 /// A scalar subquery's value: the only row's, NULL without one.
@@ -176,14 +190,15 @@ void registerAggregates(sqlite3* connection, Evaluation& evaluation) {
   addAggregate("num_min", 1, extremeStep<-1>, extremeResult);
   addAggregate("num_max", 1, extremeStep<1>, extremeResult);
   addAggregate("only_row", 2, onlyRowStep, onlyRowFinal);
-  checkRegistration(sqlite3_create_window_function(connection, "num_min_moving", 1, kPure, &evaluation,
-                                                   movingStep, movingFinal<&Moving::minimum>,
-                                                   movingValue<&Moving::minimum>, movingInverse, nullptr),
-                    "num_min_moving");
-  checkRegistration(sqlite3_create_window_function(connection, "num_max_moving", 1, kPure, &evaluation,
-                                                   movingStep, movingFinal<&Moving::maximum>,
-                                                   movingValue<&Moving::maximum>, movingInverse, nullptr),
-                    "num_max_moving");
+  using values::MovingExtremeAccumulator;
+  using values::MovingSumAccumulator;
+  addMovingWindow<MovingExtremeAccumulator, &MovingExtremeAccumulator::minimum>(connection, "num_min_moving",
+                                                                                evaluation);
+  addMovingWindow<MovingExtremeAccumulator, &MovingExtremeAccumulator::maximum>(connection, "num_max_moving",
+                                                                                evaluation);
+  addMovingWindow<MovingSumAccumulator, &MovingSumAccumulator::sum>(connection, "num_sum_moving", evaluation);
+  addMovingWindow<MovingSumAccumulator, &MovingSumAccumulator::average>(connection, "num_avg_moving",
+                                                                        evaluation);
 }
 
 }  // namespace kestrelix::embedded

@@ -58,6 +58,11 @@ Piece lowerWindow(Emitter& emitter, const sql::Call& call) {
   // The extreme of a frame that moves needs every value in it.
   for (const char* extreme : {"num_min(", "num_max("})
     if (result.text.rfind(extreme, 0) == 0) result.text.insert(7, "_moving");
+  const sql::Window& window = *call.over;
+  const bool beginMoves =
+      window.unit != sql::FrameUnit::None && window.start.kind != sql::BoundKind::UnboundedPreceding;
+  for (const char* sum : {"num_sum(", "num_avg("})
+    if (beginMoves && result.text.rfind(sum, 0) == 0) result.text.insert(7, "_moving");
   result.text += overText(emitter, *call.over);
   return result;
 }
