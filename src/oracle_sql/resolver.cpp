@@ -175,7 +175,7 @@ void Resolver::star(SelectBlock& b, const Scope& scope, const SelectItem& item) 
   for (const Found& f : all) {
     OutputColumn room;
     const OutputColumn& c = columnAt(f, room);
-    if (f.source->kind == FromKind::Derived)
+    if (f.source->kind == FromKind::Derived || f.source->kind == FromKind::Pivot)
       for (const OutputColumn& other : f.source->columns)
         if (&other != &c && other.name == c.name) fail(918, "column ambiguously defined", item.place);
     auto* ref = tree_.make<ColumnRef>();

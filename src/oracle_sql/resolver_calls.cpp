@@ -3,6 +3,8 @@
 
 #include "oracle_sql/functions.h"
 #include "oracle_sql/resolver_state.h"
+#include "oracle_sql/same_expression.h"
+#include "oracle_sql/walk.h"
 
 namespace oracle_sql {
 
@@ -134,7 +136,34 @@ Type Resolver::setFunction(Call& c, const SetFunction& f, const Env& env) {
   if (c.keep)
     for (OrderItem& item : c.keep->orderBy) value(*item.expr, inside);
   if (c.over) window(c, f, inside);
+  checkConstancy(c, env);
   return setFunctionType(c, f);
+}
+
+namespace {
+
+// Whether the rows that share the keys share the value, too.
+bool followsFrom(const Expr& e, const ExprList& keys) {
+  for (const Expr* key : keys)
+    if (sameExpression(*key, e)) return true;
+  const auto* c = as<ColumnRef>(&e);
+  if ((c && c->levelsOut == 0) || e.kind == ExprKind::Rownum) return false;
+  bool follows = true;
+  forEachOperand(e, [&](const Expr& o) { follows = follows && followsFrom(o, keys); });
+  return follows;
+}
+
+}  // namespace
+
+// What must be one value for all rows of a group or partition: the separator of LISTAGG, the count of NTILE.
+void Resolver::checkConstancy(const Call& c, const Env& env) const {
+  const Expr* fixed = nullptr;
+  if (c.name == "NTILE") fixed = c.args[0];
+  if (c.name == "LISTAGG" && c.args.size() > 1) fixed = c.args[1];
+  const SelectBlock* b = env.scope->block;
+  if (!fixed || !b || followsFrom(*fixed, c.over ? c.over->partitionBy : b->groupBy)) return;
+  if (c.over) fail(30488, "argument should be a function of expressions in PARTITION BY", fixed->place);
+  fail(30497, "Argument should be a constant or a function of expressions in GROUP BY.", fixed->place);
 }
 
 void Resolver::window(Call& c, const SetFunction& f, const Env& inside) {

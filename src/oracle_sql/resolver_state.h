@@ -100,6 +100,7 @@ class Resolver {
   void checkArguments(const Call& c) const;
   Type setFunctionType(const Call& c, const SetFunction& f) const;
   void window(Call& c, const SetFunction& f, const Env& env);
+  void checkConstancy(const Call& c, const Env& env) const;
   void countArguments(const Call& c, int low, int high) const;
 
   // resolver_grouping.cpp

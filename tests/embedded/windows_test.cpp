@@ -30,7 +30,7 @@ TEST_F(Windows, offsetThatCannotBeServedIsRefusedByName) {
         "sum(sal) over (order by sal rows comm preceding)", "sum(sal) over (order by sal rows 1.5 preceding)",
         "sum(sal) over (order by 1 range 1 preceding)", "sum(sal) over (order by ename range 1 preceding)",
         "nth_value(sal, empno) over (order by sal)", "lag(sal, empno) ignore nulls over (order by sal)",
-        "ntile(deptno) over (order by sal)"})
+        "ntile(deptno) over (partition by deptno order by sal)"})
     EXPECT_THAT(failure("select " + std::string(call) + " from emp"), HasSubstr("not supported: ")) << call;
   EXPECT_THAT(failure("select sum(v) over (order by v range 1 preceding) from readings"),
               HasSubstr("not supported: RANGE with an offset over a key"));
@@ -172,6 +172,30 @@ TEST_F(Windows, sharesOfAPartition) {
   EXPECT_THAT(rows("select percent_rank() over (order by sal) p, cume_dist() over (order by sal) from emp "
                    "where empno = 7839"),
               ElementsAre("0|1"));
+}
+
+TEST_F(Windows, valueThatMustBeOneForAllRowsIsCheckedWithTheServersErrors) {
+  EXPECT_THAT(failure("select ntile(deptno) over (order by sal) from emp"), HasSubstr("ORA-30488"));
+  EXPECT_THAT(failure("select listagg(ename, job) within group (order by sal) from emp"),
+              HasSubstr("ORA-30497"));
+  EXPECT_THAT(failure("select deptno, listagg(ename, job) within group (order by sal) over (partition by "
+                      "deptno) from emp"),
+              HasSubstr("ORA-30488"));
+  EXPECT_THAT(rows("select listagg(ename, '-' || deptno || '-') within group (order by ename) from emp "
+                   "group by deptno having deptno = 10"),
+              ElementsAre("CLARK-10-KING-10-MILLER"));
+}
+
+// Measured on a server: linq2db/linq2db issue 5897.
+TEST_F(Windows, shareInATotalOfZeroIsNull) {
+  EXPECT_THAT(
+      rows("select n, ratio_to_report(n) over () from (select 10 n from dual union all select -10 from "
+           "dual) order by n"),
+      ElementsAre("-10|-", "10|-"));
+  EXPECT_THAT(
+      rows("select g, round(ratio_to_report(decode(g, 'b', 0, v)) over (partition by g), 4) from readings "
+           "order by id"),
+      ElementsAre("a|0.0476", "a|0.9524", "a|-", "b|-", "b|-"));
 }
 
 TEST_F(Windows, fractionOfBucketsIsCutOff) {

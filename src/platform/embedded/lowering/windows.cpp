@@ -22,7 +22,8 @@ Piece ratioToReport(Emitter& emitter, const sql::Call& call) {
       emitter.converted(emitter.expression(*call.args[0]), TypeKind::Number, call.args[0]->place);
   Piece total;
   total.kind = TypeKind::Number;
-  total.text = "num_sum(" + value.text + ") OVER (" + partitionText(emitter, *call.over) + ")";
+  // The share in a total of zero is NULL, no error.
+  total.text = "nullif(num_sum(" + value.text + ") OVER (" + partitionText(emitter, *call.over) + "), 0)";
   total.atom = true;
   return divided(emitter, value, total, call.place);
 }
