@@ -6,8 +6,6 @@
 namespace kestrelix {
 namespace {
 
-std::string perSecond(const std::string& count) { return "DECODE(:ela,0,' ',ROUND(" + count + "/:ela))"; }
-
 /// Blank for no operation, unlike the figures of a whole tablespace.
 std::string each(const std::string& figure, const std::string& count) {
   return "DECODE(" + count + ",0,' ',ROUND(" + figure + ",1))";
@@ -19,10 +17,10 @@ std::string columns(const std::string& slowest) {
   const std::string writes = grown("phywrts");
   const std::string waits = grown("wait_count");
   return "select e.tsname AS TABLESPACE, e.filename AS FILENAME, " + reads + " AS PHY_READNUM, " +
-         perSecond(reads) + " AS PHY_READNUM_PAR_SEC, " +
+         operationsPerSecond(reads) + " AS PHY_READNUM_PAR_SEC, " +
          each("(" + grown("readtim") + " / " + reads + ")*10", reads) + " AS READTIME_PER_PHY_READNUM, " +
          (slowest.empty() ? "" : slowest + " AS MRT, ") + each(grown("phyblkrd") + " / " + reads, reads) +
-         " AS PHY_READBLK_PER_PHY_READNUM, " + writes + " AS PHY_WRITENUM, " + perSecond(writes) +
+         " AS PHY_READBLK_PER_PHY_READNUM, " + writes + " AS PHY_WRITENUM, " + operationsPerSecond(writes) +
          " AS PHY_WRITENUM_PAR_SEC, " + waits + " AS WAIT_NUM, " +
          each("(" + grown("time") + " / " + waits + ")*10", waits) + " AS DBFILE_WAIT_TIME_PER_WAIT_NUM";
 }
@@ -42,15 +40,10 @@ std::string files(const std::string& table, const std::string& histogram) {
          activeFiles(table, slowestReads(histogram), " and max_read.fn(+) = e.file#");
 }
 
-std::string key(const std::string& text) {
-  return fold("select * from (" + text + ") Z where Z.FILENAME = :B5");
-}
-
 }  // namespace
 
 clsFileIOStats::clsFileIOStats()
-    : ListSectionObject("clsFileIOStats", fieldNames(),
-                        {argument("B5", ServerType::String), elapsed()}) {
+    : ListSectionObject("clsFileIOStats", fieldNames(), {argument("B5", ServerType::String), elapsed()}) {
   const std::string dataFiles = files("stats$filestatxs", "stats$file_histogram");
   // Release 11 keeps no histogram of temporary files any more.
   const std::string of11 = dataFiles + " union all " + columns("' '") + activeFiles("stats$tempstatxs");
@@ -60,8 +53,8 @@ clsFileIOStats::clsFileIOStats()
   const std::string sort = " order by TABLESPACE, FILENAME";
   all("getFILE_IO_STATS_ALL", fold(of11 + sort)).only(V11);
   all("getFILE_IO_STATS_ALL", fold(of10 + sort)).only(V10);
-  col("getFILE_IO_STATS_COL", key(of11)).only(V11);
-  col("getFILE_IO_STATS_COL", key(of10 + sort)).only(V10);
+  col("getFILE_IO_STATS_COL", ofOneFile(of11)).only(V11);
+  col("getFILE_IO_STATS_COL", ofOneFile(of10 + sort)).only(V10);
   const auto withoutSlowest = {Field::TABLESPACE,
                                Field::FILENAME,
                                Field::PHY_READNUM,
@@ -73,7 +66,7 @@ clsFileIOStats::clsFileIOStats()
                                Field::WAIT_NUM,
                                Field::DBFILE_WAIT_TIME_PER_WAIT_NUM};
   all("getFILE_IO_STATS_ALL", fold(of9 + sort)).only(V9).reading(withoutSlowest);
-  col("getFILE_IO_STATS_COL", key(of9)).only(V9).reading(withoutSlowest);
+  col("getFILE_IO_STATS_COL", ofOneFile(of9)).only(V9).reading(withoutSlowest);
 }
 
 }  // namespace kestrelix

@@ -26,10 +26,6 @@ std::string histogram(const std::string& buckets, const std::string& files) {
          grown("singleblkrds") + " > 0 group by fse.tsname, fse.filename";
 }
 
-std::string key(const std::string& text) {
-  return fold("select * from (" + text + ") Z where Z.FILENAME = :B5");
-}
-
 }  // namespace
 
 clsFileReadHistogramStats::clsFileReadHistogramStats()
@@ -39,8 +35,8 @@ clsFileReadHistogramStats::clsFileReadHistogramStats()
   const std::string of10 = of11 + " union all " + histogram("stats$temp_histogram", "stats$tempstatxs");
   all("getFILE_READ_HISTOGRAM_STATS_ALL", fold(of11)).only(V11);
   all("getFILE_READ_HISTOGRAM_STATS_ALL", fold(of10)).only(V10);
-  col("getFILE_READ_HISTOGRAM_STATS_COL", key(of11)).only(V11);
-  col("getFILE_READ_HISTOGRAM_STATS_COL", key(of10)).only(V10);
+  col("getFILE_READ_HISTOGRAM_STATS_COL", ofOneFile(of11)).only(V11);
+  col("getFILE_READ_HISTOGRAM_STATS_COL", ofOneFile(of10)).only(V10);
 }
 
 }  // namespace kestrelix

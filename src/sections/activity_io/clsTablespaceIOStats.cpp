@@ -13,19 +13,17 @@ std::string milliseconds(const std::string& time, const std::string& divisor) {
   return "ROUND(decode(" + divisor + ", 0, 0, (" + time + " / " + divisor + ")*10),1)";
 }
 
-std::string perSecond(const std::string& count) { return "DECODE(:ela,0,' ',ROUND(" + count + "/:ela))"; }
-
 std::string tablespaces(const std::string& table) {
   const std::string reads = total("phyrds");
   const std::string writes = total("phywrts");
   const std::string waits = total("wait_count");
-  return "select e.tsname AS TABLESPACE, " + reads + " AS PHY_READNUM, " + perSecond(reads) +
+  return "select e.tsname AS TABLESPACE, " + reads + " AS PHY_READNUM, " + operationsPerSecond(reads) +
          " AS PHY_READNUM_PAR_SEC, " + milliseconds(total("readtim"), reads) +
          " AS READTIME_PER_PHY_READNUM, DECODE(" + reads + ", 0, ' ', ROUND(" + total("phyblkrd") + " / " +
-         reads + ",1)) AS PHY_READBLK_PER_PHY_READNUM, " + writes + " AS PHY_WRITENUM, " + perSecond(writes) +
-         " AS PHY_WRITENUM_PAR_SEC, " + waits + " AS WAIT_NUM, " + milliseconds(total("time"), waits) +
-         " AS DBFILE_WAIT_TIME_PER_WAIT_NUM, " + reads + " + " + writes + " AS TOTAL_PHY_NUM" +
-         activeFiles(table) + " group by e.tsname";
+         reads + ",1)) AS PHY_READBLK_PER_PHY_READNUM, " + writes + " AS PHY_WRITENUM, " +
+         operationsPerSecond(writes) + " AS PHY_WRITENUM_PAR_SEC, " + waits + " AS WAIT_NUM, " +
+         milliseconds(total("time"), waits) + " AS DBFILE_WAIT_TIME_PER_WAIT_NUM, " + reads + " + " + writes +
+         " AS TOTAL_PHY_NUM" + activeFiles(table) + " group by e.tsname";
 }
 
 }  // namespace

@@ -1,8 +1,14 @@
 #include "sections/activity_io/fileIo.h"
 
+#include "report/statement.h"
+
 namespace kestrelix {
 
 std::string grown(const std::string& counter) { return "(e." + counter + " - nvl(b." + counter + ",0))"; }
+
+std::string operationsPerSecond(const std::string& operations) {
+  return "DECODE(:ela,0,' ',ROUND(" + operations + "/:ela))";
+}
 
 std::string endAndPerhapsStart() {
   return R"sql(
@@ -21,6 +27,10 @@ std::string activeFiles(const std::string& table, const std::string& further, co
        and b.tsname(+) = e.tsname
        and b.filename(+) = e.filename)sql" +
          conditions + " and (" + grown("phyrds") + " + " + grown("phywrts") + ") > 0";
+}
+
+std::string ofOneFile(const std::string& files) {
+  return fold("select * from (" + files + ") Z where Z.FILENAME = :B5");
 }
 
 }  // namespace kestrelix
