@@ -11,9 +11,11 @@ namespace kestrelix::testing_support {
 
 /// Snapshots 1 to 4 at 10:00, 11:00, 12:00 and 13:30 of Monday 2026-01-05; the instance was started anew
 /// between 2 and 3. So pair 0 is of 3600 seconds, pair 1 lies across the restart, pair 2 is of 5400 seconds.
+/// Nothing may show of the rows beside: of another instance, another database and a purged snapshot.
 class InstanceRepository : public FixtureRepository {
  public:
   explicit InstanceRepository(std::string_view major) : FixtureRepository(major) {
+    withNeighbours();
     const char* version = major == "9" ? "9.2.0.8.0" : major == "10" ? "10.2.0.5.0" : "11.2.0.4.0";
     common({{"dbid", "7"}, {"instance_number", "1"}});
     row("stats$database_instance", {{"db_name", "ORCL"},

@@ -10,6 +10,13 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// The gate of a ranking asks for a snapshot's level by its number alone: another instance with the same
+/// number would be a second row, and the server's error.
+class SegmentRepository : public InstanceRepository {
+ public:
+  explicit SegmentRepository(std::string_view major) : InstanceRepository(major) { withNeighbours(false); }
+};
+
 /// Names a segment: objects have the number of their row.
 void object(FixtureRepository& repository, const std::string& number, const std::string& owner,
             const std::string& tablespace, const std::string& name, const std::string& subobject,
@@ -49,7 +56,7 @@ const std::string kLogicalHeadings =
     "READS|PHYSICAL WRITES|DIRECT READS|DIRECT WRITES|BUFFER BUSY_WAITS|ROW LOCK WAITS|ITL WAITS\n";
 
 TEST(Segments, tenOfManyShowWithTheirShareOfAll) {
-  InstanceRepository repository("9");
+  SegmentRepository repository("9");
   // Twelve segments with 10, 20 .. 120 reads: 780 in all. The two smallest are cut off.
   for (int i = 1; i <= 12; ++i) {
     const std::string number = std::to_string(i);
@@ -69,7 +76,7 @@ TEST(Segments, tenOfManyShowWithTheirShareOfAll) {
 }
 
 TEST(Segments, aSegmentThatFellOutOfTheTenIsStillFoundInItsSeries) {
-  InstanceRepository repository("10");
+  SegmentRepository repository("10");
   for (int i = 1; i <= 12; ++i) {
     const std::string number = std::to_string(i);
     object(repository, number, "APP", "USERS", "T" + number, "", "TABLE");
@@ -93,7 +100,7 @@ TEST(Segments, aSegmentThatFellOutOfTheTenIsStillFoundInItsSeries) {
 }
 
 TEST(Segments, withoutAPositiveGrowthTheHeadingsStandAlone) {
-  InstanceRepository repository("11");
+  SegmentRepository repository("11");
   object(repository, "1", "APP", "USERS", "T1", "", "TABLE");
   figures(repository, "1", "1", "50");
   figures(repository, "2", "1", "50");
@@ -123,7 +130,7 @@ TEST(Segments, belowLevelSevenThereIsNothing) {
 }
 
 TEST(Segments, anIdThatTwoDatabasesShareFailsInTheGateOfTheLevel) {
-  InstanceRepository repository("10");
+  SegmentRepository repository("10");
   repository.row("stats$snapshot", {{"snap_id", "1"},
                                     {"dbid", "8"},
                                     {"snap_time", "2026-01-05 10:00:00"},
@@ -138,7 +145,7 @@ TEST(Segments, anIdThatTwoDatabasesShareFailsInTheGateOfTheLevel) {
 }
 
 TEST(Segments, aPartitionAndItsTableAreToldApartAndTheBlankIsAKey) {
-  InstanceRepository repository("11");
+  SegmentRepository repository("11");
   object(repository, "1", "APP", "USERS", "SALES", "", "TABLE");
   object(repository, "2", "APP", "USERS", "SALES", "P1", "TABLE");
   object(repository, "3", "APP", "USERS", "売上'表", "区画1", "TABLE PARTITION");
@@ -162,7 +169,7 @@ TEST(Segments, aPartitionAndItsTableAreToldApartAndTheBlankIsAKey) {
 }
 
 TEST(Segments, twoThatDifferByTablespaceAloneShareOneSeries) {
-  InstanceRepository repository("10");
+  SegmentRepository repository("10");
   object(repository, "1", "APP", "USERS", "SALES", "", "TABLE");
   object(repository, "2", "APP", "ARCHIVE", "SALES", "", "TABLE");
   figures(repository, "2", "1", "300");
@@ -195,7 +202,7 @@ const std::initializer_list<std::string_view> kPlain = {"snap_id",
                                                         "itl_waits"};
 
 TEST(Segments, aSegmentMadeAnewUnderItsNumberCountsFromZero) {
-  InstanceRepository repository("10");
+  SegmentRepository repository("10");
   repository.rows(
       "stats$seg_stat_obj",
       {"dataobj#", "obj#", "ts#", "owner", "tablespace_name", "object_name", "object_type"},
@@ -219,7 +226,7 @@ void PrintTo(const Ranking& ranking, std::ostream* out) { *out << ranking.sectio
 class RankedSegments : public testing::TestWithParam<Ranking> {};
 
 TEST_P(RankedSegments, goByTheirOwnStatisticAndShowEachFigureUnderItsHeading) {
-  InstanceRepository repository("9");
+  SegmentRepository repository("9");
   object(repository, "1", "A", "T", "BUSY", "", "TABLE");
   object(repository, "2", "A", "T", "READ", "", "INDEX");
   repository.rows("stats$seg_stat", kPlain,

@@ -92,8 +92,8 @@ class FixtureRepository {
 
   /// Lets every row stand once more, with other figures, under another database, another instance and a
   /// purged snapshot, and before the row itself: what a statement finds there is a condition that it lacks.
-  FixtureRepository& withNeighbours() {
-    neighbours_ = true;
+  FixtureRepository& withNeighbours(bool told = true) {
+    neighbours_ = told;
     return *this;
   }
 
@@ -128,7 +128,8 @@ class FixtureRepository {
     rows_[known->name].push_back(std::move(cells));
   }
 
-  /// The list of instances has none, and that of snapshots no further one of the same instance.
+  /// The list of instances has none, that of snapshots no further one of the same instance, and what is found
+  /// by its time, whichever snapshot took it, none of another snapshot.
   std::vector<Row> neighboursOf(const statspack::Table& table) const {
     std::vector<Row> neighbours;
     const auto told = rows_.find(table.name);
@@ -138,7 +139,9 @@ class FixtureRepository {
     for (const auto& [key, place] : elsewhere) {
       const statspack::Column* kept = table.column(key);
       if (kept == nullptr || kept->keyPlace == 0) continue;
-      if (table.name == "stats$snapshot" && key == "snap_id") continue;
+      if (key == "snap_id" && (table.name == "stats$snapshot" || table.name == "stats$undostat" ||
+                               table.name == "stats$memory_resize_ops"))
+        continue;
       for (Row row : told->second) {
         for (auto& [column, value] : row) value = otherFigure(*table.column(column), value);
         row[std::string(key)] = place;
