@@ -96,6 +96,27 @@ TEST(BufferPoolStatistics, poolsOfOtherBlockSizesShowUnderTheSizeAndHaveTheirSer
             "3|16k|2026-01-05 13:30:00|    60 |75|4|1|0|0|0|0|OK\n");
 }
 
+TEST(BufferPoolStatistics, theBlockSizeInForceAtTheStartCounts) {
+  InstanceRepository repository("10");
+  repository.rows(
+      "stats$parameter", {"snap_id", "name", "value"},
+      {{"1", "db_block_size", "4096"}, {"1", "__db_block_size", "8192"}, {"2", "db_block_size", "16384"}});
+  repository.row("stats$buffer_pool_statistics", {{"snap_id", "2"},
+                                                  {"id", "3"},
+                                                  {"name", "DEFAULT"},
+                                                  {"block_size", "8192"},
+                                                  {"set_msize", "1"},
+                                                  {"db_block_gets", "0"},
+                                                  {"consistent_gets", "0"},
+                                                  {"physical_reads", "0"},
+                                                  {"physical_writes", "0"},
+                                                  {"free_buffer_wait", "0"},
+                                                  {"write_complete_wait", "0"},
+                                                  {"buffer_busy_wait", "0"}});
+  OpenReport report(repository);
+  EXPECT_EQ(report.all("Buffer Pool Statistics", 0), std::string(kPools) + "1|D|     1 | |0|0|0|0|0|0\n");
+}
+
 TEST(BufferPoolStatistics, withoutABlockSizeABoxComesAndTheRowsShowAllTheSame) {
   InstanceRepository repository("10");
   repository.row("stats$buffer_pool_statistics", {{"snap_id", "2"},
@@ -119,30 +140,30 @@ TEST(BufferWaitStatistics, classesThatWereWaitedForShowByTheirTime) {
   for (const char* major : {"9", "10", "11"}) {
     InstanceRepository repository(major);
     repository.rows("stats$waitstat", {"snap_id", "class", "wait_count", "time"},
-                    {{"1", "data block", "10", "100"},
-                     {"2", "data block", "30", "350"},
-                     {"1", "undo header", "5", "7"},
-                     {"2", "undo header", "5", "9"},
-                     {"1", "segment header", "0", "0"},
-                     {"2", "segment header", "4", "300"},
-                     {"1", "1st level bmb", "0", "0"},
-                     {"2", "1st level bmb", "1", "600"},
+                    {{"1", "segment header", "10", "100"},
+                     {"2", "segment header", "30", "350"},
+                     {"1", "extent map", "5", "7"},
+                     {"2", "extent map", "5", "9"},
+                     {"1", "data block", "0", "0"},
+                     {"2", "data block", "4", "300"},
+                     {"1", "undo block", "0", "0"},
+                     {"2", "undo block", "1", "600"},
                      {"2", "free list", "9", "9"},
-                     {"3", "data block", "0", "0"},
-                     {"4", "data block", "8", "10"}});
+                     {"3", "segment header", "0", "0"},
+                     {"4", "segment header", "8", "10"}});
     OpenReport report(repository);
     const std::string headings = "NO|CLASS|WAITS|TOTAL WAIT TIME(S)|AVG TIME(MS)\n";
     // 2.5 seconds are shown as 3, and 20 waits sort before 4. A class without a start row is left out.
     EXPECT_EQ(report.all("Buffer wait Statistics", 0), headings +
-                                                           "1|1st level bmb|1|6|6000\n"
-                                                           "2|data block|20|3|125\n"
-                                                           "3|segment header|4|3|750\n");
+                                                           "1|undo block|1|6|6000\n"
+                                                           "2|segment header|20|3|125\n"
+                                                           "3|data block|4|3|750\n");
     // .1 seconds over 8 waits are 12.5 ms.
     EXPECT_EQ(report.col(2),
               "NO|CLASS|END TIME|WAITS|TOTAL WAIT TIME(S)|AVG TIME(MS)|STATUS\n"
-              "1|data block|2026-01-05 11:00:00|20|3|125|OK\n"
+              "1|segment header|2026-01-05 11:00:00|20|3|125|OK\n"
               "2||2026-01-05 12:00:00||||DB RESTART\n"
-              "3|data block|2026-01-05 13:30:00|8|0|13|OK\n");
+              "3|segment header|2026-01-05 13:30:00|8|0|13|OK\n");
     EXPECT_EQ(report.all("Buffer wait Statistics", 1), headings);
     EXPECT_THAT(report.boxes(), IsEmpty());
   }

@@ -17,6 +17,9 @@ const char* const kHeadingsOf9 =
     "NO|POOL|SIZE FOR ESTIMATE(M)|SIZE FACTR|BUFFERS FOR ESTIMATE|EST PHYSICAL READ FACTOR|"
     "ESTIMATED PHYSICAL READS\n";
 
+/// The pool that a row of a series is of, empty where it has none.
+std::string poolOf(OpenReport& report, int row) { return report.grid().TextMatrix(row, 1); }
+
 class AdviceRepository : public InstanceRepository {
  public:
   explicit AdviceRepository(std::string_view major) : InstanceRepository(major), timed_(major != "9") {}
@@ -51,6 +54,13 @@ class AdviceRepository : public InstanceRepository {
     return *this;
   }
 
+  /// At the end of pair 2, those that differ from 64 MB of the default pool, factor .5, in one of the three.
+  AdviceRepository& strangers() {
+    return advice("4", "KEEP", "8192", "64", ".5")
+        .advice("4", "DEFAULT", "8192", "96", ".5")
+        .advice("4", "DEFAULT", "8192", "64", "1");
+  }
+
   /// The "SIZE FACTR" of the one estimate that the repository has.
   std::string factor() {
     OpenReport report(*this);
@@ -72,15 +82,15 @@ TEST(BufferPoolAdvisory, poolsOfTheDefaultBlockSizeComeFirstUnderTheirLetter) {
         .advice("2", "RECYCLE", "8192", "8", "1")
         .advice("2", "KEEP", "8192", "32", "1")
         .advice("2", "DEFAULT", "16384", "16", "1")
-        .advice("2", "DEFAULT", "8192", "128", "1", "15999", "2000499")
+        .advice("2", "DEFAULT", "8192", "128", "1", "15999", "2000500")
         .advice("2", "DEFAULT", "8192", "64", ".5")
         .advice("2", "DEFAULT", "8192", "256", "2", "32000", "0");
     OpenReport report(repository);
-    // 8000 and 15999 buffers are 8 and 16 thousand, 2000499 reads 2000; a factor of 1.25 shows as 1.3. The
+    // 8000 and 15999 buffers are 8 and 16 thousand, 2000500 reads 2001; a factor of 1.25 shows as 1.3. The
     // estimate without reads is left out.
     EXPECT_EQ(report.all(kSection, 0), std::string(kHeadings) +
                                            "1|D|64|0.5|8|1.3|2500|900|12.5\n"
-                                           "2|D|128|1|16|1.3|2000|900|12.5\n"
+                                           "2|D|128|1|16|1.3|2001|900|12.5\n"
                                            "3|K|32|1|8|1.3|2500|900|12.5\n"
                                            "4|R|8|1|8|1.3|2500|900|12.5\n"
                                            "5|2k|16|1|8|1.3|2500|900|12.5\n"
@@ -95,7 +105,9 @@ TEST(BufferPoolAdvisory, poolsOfTheDefaultBlockSizeComeFirstUnderTheirLetter) {
 TEST(BufferPoolAdvisory, inRelease9CountsAreWholeAndThereAreNoTimes) {
   AdviceRepository repository("9");
   repository.parameter("db_block_size", "8192");
-  repository.advice("2", "DEFAULT", "16384", "16", "1").advice("2", "DEFAULT", "8192", "64", ".5");
+  repository.advice("2", "DEFAULT", "16384", "16", "1")
+      .advice("2", "DEFAULT", "8192", "64", ".46")
+      .advice("2", "DEFAULT", "8192", "128", "1", "8000", "0");
   OpenReport report(repository);
   EXPECT_EQ(report.all(kSection, 0), std::string(kHeadingsOf9) +
                                          "1|D|64|0.5|8000|1.25|2500000\n"
@@ -125,6 +137,19 @@ TEST(BufferPoolAdvisory, aSeriesFollowsOneSizeOfOnePool) {
             "2||||2026-01-05 12:00:00||||||DB RESTART\n"
             "3|D|64|0.5|2026-01-05 13:30:00|9|1.3|2500|900|12.5|OK\n");
   EXPECT_THAT(report.boxes(), IsEmpty());
+}
+
+TEST(BufferPoolAdvisory, aSeriesNeedsPoolSizeAndFactor) {
+  for (const char* major : {"9", "10"}) {
+    AdviceRepository repository(major);
+    repository.parameter("db_block_size", "8192");
+    repository.advice("2", "DEFAULT", "8192", "64", ".5").strangers();
+    OpenReport report(repository);
+    report.all(kSection, 0);
+    report.col(1);
+    EXPECT_EQ(poolOf(report, 1), "D") << major;
+    EXPECT_EQ(poolOf(report, 3), "") << major;
+  }
 }
 
 TEST(BufferPoolAdvisory, theBlockSizeInForceAtTheStartCountsBeforeTheOneThatWasSet) {
@@ -161,6 +186,15 @@ TEST(BufferPoolAdvisory, aMissingFactorIsTakenOverTheCacheOfThePool) {
     // 24 * 1024 / 32768 = .75
     EXPECT_EQ(repository.factor(), "0.8") << parameter;
   }
+}
+
+TEST(BufferPoolAdvisory, theCacheSizesAreThoseOfTheEnd) {
+  AdviceRepository repository("10");
+  repository.rows(
+      "stats$parameter", {"snap_id", "name", "value"},
+      {{"1", "db_block_size", "8192"}, {"1", "__db_cache_size", "4096"}, {"2", "__db_cache_size", "32768"}});
+  repository.advice("2", "DEFAULT", "8192", "24", "");
+  EXPECT_EQ(repository.factor(), "0.8");
 }
 
 TEST(BufferPoolAdvisory, release9SizesItsDefaultPoolByTheParameterThatWasSet) {

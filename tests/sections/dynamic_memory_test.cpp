@@ -18,8 +18,8 @@ class ComponentRepository : public InstanceRepository {
     rows("stats$memory_dynamic_comps",
          {"snap_id", "component", "current_size", "oper_count", "last_oper_type", "last_oper_mode",
           "last_oper_time"},
-         {{"1", "DEFAULT buffer cache", "104857600", "1", "SHRINK", "MANUAL", "2026-01-05 09:30:00"},
-          {"2", "DEFAULT buffer cache", "125829120", "3", "GROW", "DEFERRED", "2026-01-05 10:30:00"},
+         {{"1", "DEFAULT buffer cache", "105381888", "1", "SHRINK", "MANUAL", "2026-01-05 09:30:00"},
+          {"2", "DEFAULT buffer cache", "126353408", "3", "GROW", "DEFERRED", "2026-01-05 10:30:00"},
           {"1", "KEEP buffer cache", "0", "0", "STATIC", "", ""},
           {"2", "KEEP buffer cache", "0", "1", "INITIALIZING", "IMMEDIATE", "2026-01-05 10:40:00"},
           {"1", "RECYCLE buffer cache", "0", "0", "STATIC", "", ""},
@@ -37,11 +37,12 @@ class ComponentRepository : public InstanceRepository {
 TEST(MemoryComponents, thoseWithASizeOrAnOperationShow) {
   ComponentRepository repository;
   OpenReport report(repository);
-  // The type is cut to six letters and the mode to three; a static component has a blank between. An end size
-  // is blank where it is that of the start. A component that only the end knows is left out.
+  // 100.5 and 120.5 MB are rounded up. The type is cut to six letters and the mode to three; a static
+  // component has a blank between. An end size is blank where it is that of the start. A component that only
+  // the end knows is left out.
   EXPECT_EQ(report.all("Memory Dynamic Components", 0),
             std::string(kComponents) +
-                "1|D:buffer cache|100|120|2|GROW/DEF|2026-01-05 10:30:00\n"
+                "1|D:buffer cache|101|121|2|GROW/DEF|2026-01-05 10:30:00\n"
                 "2|K:buffer cache|0| |1|INITIA/IMM|2026-01-05 10:40:00\n"
                 "3|R: buffer cache|0|8|0|STATIC MAN| \n"
                 "4|large pool|16| |0|STATIC | \n");
@@ -146,19 +147,20 @@ TEST(CacheSizeChanges, sizesInForceAtBothEndsShowTheLargestFirst) {
                      {"2", "__db_cache_size", "209715200"},
                      {"1", "__shared_pool_size", "52428800"},
                      {"2", "__shared_pool_size", "52428800"},
-                     {"1", "__large_pool_size", "4194304"},
-                     {"2", "__large_pool_size", "4718592"},
+                     {"1", "__large_pool_size", "4199547"},
+                     {"2", "__large_pool_size", "4729078"},
                      {"1", "__java_pool_size", "4194304"},
                      {"2", "__java_pool_size", "1572864"},
                      {"2", "__streams_pool_size", "4194304"},
                      {"1", "db_cache_size", "0"},
                      {"2", "db_cache_size", "1"}});
     OpenReport report(repository);
-    // The streams pool has no size at the start.
+    // The large pool has a trace more than 4.005 and 4.51 MB, .505 between. The streams pool has no size at
+    // the start.
     EXPECT_EQ(report.all("Cache Size Changes", 0), std::string(kChanges) +
                                                        "1|Buffer Cache|100|200|100\n"
                                                        "2|Shared Pool|50|50|0\n"
-                                                       "3|Large Pool|4|4.5|.5\n"
+                                                       "3|Large Pool|4.01|4.51|.51\n"
                                                        "4|Java Pool|4|1.5|-2.5\n");
     EXPECT_EQ(report.all("Cache Size Changes", 1), kChanges);
     EXPECT_THAT(report.boxes(), IsEmpty());
@@ -171,11 +173,14 @@ TEST(CacheSizeChanges, aSizeThatIsMissingIsBlankAndSortsFirst) {
                   {{"1", "__db_cache_size", "1048576"},
                    {"2", "__db_cache_size", "2097152"},
                    {"1", "__streams_pool_size", "1048576"},
-                   {"2", "__streams_pool_size", ""}});
+                   {"2", "__streams_pool_size", ""},
+                   {"1", "__java_pool_size", ""},
+                   {"2", "__java_pool_size", "1048576"}});
   OpenReport report(repository);
   EXPECT_EQ(report.all("Cache Size Changes", 0), std::string(kChanges) +
                                                      "1|Streams Pool|1| | \n"
-                                                     "2|Buffer Cache|1|2|1\n");
+                                                     "2|Buffer Cache|1|2|1\n"
+                                                     "3|Java Pool| |1| \n");
 }
 
 TEST(CacheSizeChanges, everySnapshotBetweenTheTwoHasItsOwnRow) {

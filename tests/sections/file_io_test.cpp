@@ -22,18 +22,20 @@ const char* const kFilesOf9 =
 const char* const kHistogram =
     "NO|TABLESPACE|FILENAME|0 - 2 MS|2 - 4 MS|4 - 8 MS|8 - 16 MS|16 - 32 MS|32+ MS\n";
 
-/// Tablespace USERS has the files /u1, which was there, and /u2, which was added in the pair; TEMP has the
-/// temporary file /t1; IDLE has no activity.
+/// Tablespace USERS has the files /u1, which was there, and /u2, which was added in the pair; TEMP and TEMP2
+/// have the temporary files /t1 and /t2; IDLE has no activity.
 class FileRepository : public InstanceRepository {
  public:
   explicit FileRepository(std::string_view major) : InstanceRepository(major), numbered_(major != "9") {
-    file("stats$filestatxs", "1", "USERS", "/u1", "1", {"1000", "0", "100", "1000", "0", "0"});
-    file("stats$filestatxs", "2", "USERS", "/u1", "1", {"1360", "0", "190", "1720", "4", "2"});
+    file("stats$filestatxs", "1", "USERS", "/u1", "1", {"1000", "0", "100", "1000", "1", "3"});
+    file("stats$filestatxs", "2", "USERS", "/u1", "1", {"1360", "0", "193", "1743", "4", "5"});
     file("stats$filestatxs", "2", "USERS", "/u2", "2", {"0", "7200", "0", "0", "0", "0"});
     file("stats$filestatxs", "1", "IDLE", "/i1", "3", {"5", "5", "5", "5", "5", "5"});
     file("stats$filestatxs", "2", "IDLE", "/i1", "3", {"5", "5", "5", "5", "5", "5"});
     file("stats$tempstatxs", "1", "TEMP", "/t1", "1", {"9", "0", "9", "9", "0", "0"});
     file("stats$tempstatxs", "2", "TEMP", "/t1", "1", {"9", "3600", "9", "9", "0", "0"});
+    file("stats$tempstatxs", "1", "TEMP2", "/t2", "2", {"100", "10", "50", "200", "1", "5"});
+    file("stats$tempstatxs", "2", "TEMP2", "/t2", "2", {"2800", "1910", "1070", "4401", "4", "7"});
   }
 
   /// Reads, writes, read time in hundredths, blocks read, waits and their time in hundredths of a second.
@@ -75,18 +77,22 @@ class FileRepository : public InstanceRepository {
     return *this;
   }
 
-  /// Growth of /u1: 5 in bucket 1, 2 in 2, 5 in 4, 2 in 8, none in 16, 1 in 32 and 3 above; of /t1: 1 in 32.
+  /// Growth of /u1: 5 in bucket 1, 2 in 2, 5 in 4, 2 in 8, 4 in 16, 1 in 32 and 3 above; of /t1: 1 in 32 and
+  /// none in 64.
   FileRepository& histograms() {
     bucket("stats$file_histogram", "1", "1", "", "5");
     bucket("stats$file_histogram", "1", "2", "1", "3");
     bucket("stats$file_histogram", "1", "4", "10", "15");
     bucket("stats$file_histogram", "1", "8", "", "2");
-    bucket("stats$file_histogram", "1", "16", "3", "3");
+    bucket("stats$file_histogram", "1", "16", "3", "7");
     bucket("stats$file_histogram", "1", "32", "0", "1");
     bucket("stats$file_histogram", "1", "64", "9", "10");
     return bucket("stats$file_histogram", "1", "128", "", "2");
   }
-  FileRepository& temporaryHistogram() { return bucket("stats$temp_histogram", "1", "32", "1", "2"); }
+  FileRepository& temporaryHistogram() {
+    return bucket("stats$temp_histogram", "1", "32", "1", "2")
+        .bucket("stats$temp_histogram", "1", "64", "5", "5");
+  }
 
  private:
   bool numbered_;
@@ -96,11 +102,13 @@ TEST(TablespaceIo, filesAreSummedByTablespaceAndABusyOneComesFirst) {
   for (const char* major : {"9", "10", "11"}) {
     FileRepository repository(major);
     OpenReport report(repository);
-    // USERS: 360 reads in 3600 s, 90 hundredths / 360 * 10 = 2.5 ms, 720 / 360 blocks; 2 / 4 * 10 = 5 ms.
-    // TEMP: no read is 0 ms, and a blank number of blocks.
+    // USERS: 360 reads in 3600 s, 93 hundredths / 360 * 10 = 2.58 ms, 743 / 360 = 2.06 blocks; 2 / 3 * 10 =
+    // 6.67 ms. TEMP2: 2700 reads and 1900 writes, .75 and .53 a second; 1020 / 2700 * 10 = 3.78 ms, 4201 /
+    // 2700 = 1.56 blocks. TEMP: no read is 0 ms, and a blank number of blocks.
     EXPECT_EQ(report.all("Tablespace IO Stats", 0), std::string(kTablespaces) +
-                                                        "1|USERS|360|0|2.5|2|7200|2|4|5\n"
-                                                        "2|TEMP|0|0|0| |3600|1|0|0\n");
+                                                        "1|USERS|360|0|2.6|2.1|7200|2|3|6.7\n"
+                                                        "2|TEMP2|2700|1|3.8|1.6|1900|1|3|6.7\n"
+                                                        "3|TEMP|0|0|0| |3600|1|0|0\n");
     EXPECT_EQ(report.all("Tablespace IO Stats", 1), kTablespaces);
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
@@ -115,7 +123,7 @@ TEST(TablespaceIo, aSeriesFollowsOneTablespace) {
   EXPECT_EQ(report.col(1),
             "NO|TABLESPACE|END TIME|READS|AV READS/S|AV RD(MS)|Av BLKS/RD|WRITES|AV WRITES/S|BUFFER WAITS|"
             "AV BUF WT(MS)|STATUS\n"
-            "1|USERS|2026-01-05 11:00:00|360|0|2.5|2|7200|2|4|5|OK\n"
+            "1|USERS|2026-01-05 11:00:00|360|0|2.6|2.1|7200|2|3|6.7|OK\n"
             "2||2026-01-05 12:00:00|||||||||DB RESTART\n"
             "3|USERS|2026-01-05 13:30:00|2700|1|0.1|1|5400|1|0|0|OK\n");
 }
@@ -136,8 +144,9 @@ TEST(FileIo, inRelease10EveryFileHasItsSlowestBucketThatGrew) {
   // Bucket 128 of /u1 is new with 2 reads. No operation is a blank here.
   EXPECT_EQ(report.all("File IO Stats", 0), std::string(kFiles) +
                                                 "1|TEMP|/t1|0|0| |32| |3600|1|0| \n"
-                                                "2|USERS|/u1|360|0|2.5|128|2|0|0|4|5\n"
-                                                "3|USERS|/u2|0|0| | | |7200|2|0| \n");
+                                                "2|TEMP2|/t2|2700|1|3.8| |1.6|1900|1|3|6.7\n"
+                                                "3|USERS|/u1|360|0|2.6|128|2.1|0|0|3|6.7\n"
+                                                "4|USERS|/u2|0|0| | | |7200|2|0| \n");
   EXPECT_EQ(report.all("File IO Stats", 1), kFiles);
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
@@ -148,8 +157,9 @@ TEST(FileIo, inRelease11TemporaryFilesHaveNoSlowestBucket) {
   OpenReport report(repository);
   EXPECT_EQ(report.all("File IO Stats", 0), std::string(kFiles) +
                                                 "1|TEMP|/t1|0|0| | | |3600|1|0| \n"
-                                                "2|USERS|/u1|360|0|2.5|128|2|0|0|4|5\n"
-                                                "3|USERS|/u2|0|0| | | |7200|2|0| \n");
+                                                "2|TEMP2|/t2|2700|1|3.8| |1.6|1900|1|3|6.7\n"
+                                                "3|USERS|/u1|360|0|2.6|128|2.1|0|0|3|6.7\n"
+                                                "4|USERS|/u2|0|0| | | |7200|2|0| \n");
 }
 
 TEST(FileIo, inRelease9ThereAreNoBuckets) {
@@ -157,12 +167,13 @@ TEST(FileIo, inRelease9ThereAreNoBuckets) {
   OpenReport report(repository);
   EXPECT_EQ(report.all("File IO Stats", 0), std::string(kFilesOf9) +
                                                 "1|TEMP|/t1|0|0| | |3600|1|0| \n"
-                                                "2|USERS|/u1|360|0|2.5|2|0|0|4|5\n"
-                                                "3|USERS|/u2|0|0| | |7200|2|0| \n");
-  EXPECT_EQ(report.col(2),
+                                                "2|TEMP2|/t2|2700|1|3.8|1.6|1900|1|3|6.7\n"
+                                                "3|USERS|/u1|360|0|2.6|2.1|0|0|3|6.7\n"
+                                                "4|USERS|/u2|0|0| | |7200|2|0| \n");
+  EXPECT_EQ(report.col(3),
             "NO|TABLESPACE|FILENAME|END TIME|READS|AV READS/S|AV RD(MS)|AV BLKS/RD|WRITES|AV WRITES/S|"
             "BUFFER WAITS|AV BUF WT(MS)|STATUS\n"
-            "1|USERS|/u1|2026-01-05 11:00:00|360|0|2.5|2|0|0|4|5|OK\n"
+            "1|USERS|/u1|2026-01-05 11:00:00|360|0|2.6|2.1|0|0|3|6.7|OK\n"
             "2|||2026-01-05 12:00:00|||||||||DB RESTART\n"
             "3|||2026-01-05 13:30:00|||||||||OK\n");
 }
@@ -185,10 +196,10 @@ TEST(FileIo, aSeriesFollowsOneFileByItsNameAlone) {
   repository.file("stats$tempstatxs", "4", "A_TEMP", "/u1", "1", {"0", "5400", "0", "0", "0", "0"});
   OpenReport report(repository);
   report.all("File IO Stats", 0);
-  EXPECT_EQ(report.col(2),
+  EXPECT_EQ(report.col(3),
             "NO|TABLESPACE|FILENAME|END TIME|READS|AV READS/S|AV RD(MS)|MX RD(MS)|AV BLKS/RD|WRITES|"
             "AV WRITES/S|BUFFER WAITS|AV BUF WT(MS)|STATUS\n"
-            "1|USERS|/u1|2026-01-05 11:00:00|360|0|2.5| |2|0|0|4|5|OK\n"
+            "1|USERS|/u1|2026-01-05 11:00:00|360|0|2.6| |2.1|0|0|3|6.7|OK\n"
             "2|||2026-01-05 12:00:00||||||||||DB RESTART\n"
             "3|A_TEMP|/u1|2026-01-05 13:30:00|0|0| | | |5400|1|0| |OK\n");
 }
@@ -198,10 +209,10 @@ TEST(FileIo, aSeriesOfRelease11HasTheBucketToo) {
   repository.histograms();
   OpenReport report(repository);
   report.all("File IO Stats", 0);
-  EXPECT_EQ(report.col(2),
+  EXPECT_EQ(report.col(3),
             "NO|TABLESPACE|FILENAME|END TIME|READS|AV READS/S|AV RD(MS)|MX RD(MS)|AV BLKS/RD|WRITES|"
             "AV WRITES/S|BUFFER WAITS|AV BUF WT(MS)|STATUS\n"
-            "1|USERS|/u1|2026-01-05 11:00:00|360|0|2.5|128|2|0|0|4|5|OK\n"
+            "1|USERS|/u1|2026-01-05 11:00:00|360|0|2.6|128|2.1|0|0|3|6.7|OK\n"
             "2|||2026-01-05 12:00:00||||||||||DB RESTART\n"
             "3|||2026-01-05 13:30:00||||||||||OK\n");
 }
@@ -212,7 +223,7 @@ TEST(FileReadHistogram, countsAreOfTheReadsThatCameInByBucket) {
   OpenReport report(repository);
   const std::string view = report.all("File Read Histogram Stats", 0);
   EXPECT_EQ(view.substr(0, view.find('\n') + 1), kHistogram);
-  EXPECT_THAT(report.rowsInAnyOrder(), UnorderedElementsAre("USERS|/u1|7|5|2|0|1|3", "TEMP|/t1|0|0|0|0|1|0"));
+  EXPECT_THAT(report.rowsInAnyOrder(), UnorderedElementsAre("USERS|/u1|7|5|2|4|1|3", "TEMP|/t1|0|0|0|0|1|0"));
   EXPECT_EQ(report.all("File Read Histogram Stats", 1), kHistogram);
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
@@ -222,7 +233,7 @@ TEST(FileReadHistogram, release11HasDataFilesAlone) {
   repository.histograms();
   OpenReport report(repository);
   EXPECT_EQ(report.all("File Read Histogram Stats", 0),
-            std::string(kHistogram) + "1|USERS|/u1|7|5|2|0|1|3\n");
+            std::string(kHistogram) + "1|USERS|/u1|7|5|2|4|1|3\n");
 }
 
 TEST(FileReadHistogram, aSeriesFollowsOneFile) {
@@ -234,7 +245,7 @@ TEST(FileReadHistogram, aSeriesFollowsOneFile) {
     EXPECT_EQ(
         report.col(1),
         "NO|TABLESPACE|FILENAME|END TIME|0 - 2 MS|2 - 4 MS|4 - 8 MS|8 - 16 MS|16 - 32 MS|32+ MS|STATUS\n"
-        "1|USERS|/u1|2026-01-05 11:00:00|7|5|2|0|1|3|OK\n"
+        "1|USERS|/u1|2026-01-05 11:00:00|7|5|2|4|1|3|OK\n"
         "2|||2026-01-05 12:00:00|||||||DB RESTART\n"
         "3|||2026-01-05 13:30:00|||||||OK\n");
   }

@@ -72,13 +72,15 @@ TEST(InstanceActivity, theFourLevelsShowAmongThemselvesIfEitherEndIsAboveZero) {
 
 TEST(InstanceActivity, aSeriesFollowsOneStatisticAndIsBlankAcrossARestart) {
   InstanceRepository repository("10");
-  withTransactions(repository).sysstat("redo size", "1000", "8200");
+  withTransactions(repository)
+      .sysstat("redo size", "1000", "8200")
+      .sysstat("CPU used by this session", "5", "9");
   repository.rows("stats$sysstat", {"snap_id", "name", "value"},
                   {{"3", "redo size", "60"}, {"4", "redo size", "600"}});
   OpenReport report(repository);
   report.all("Instance Activity Stats[1]", 0);
   // 540 in 5400 seconds; no transaction to divide by.
-  EXPECT_EQ(report.col(1),
+  EXPECT_EQ(report.col(2),
             "NO|STATISTIC|END TIME|TOTAL|PER SECOND|PER TRANS|STATUS\n"
             "1|redo size|2026-01-05 11:00:00|7200|2|100|OK\n"
             "2||2026-01-05 12:00:00||||DB RESTART\n"
@@ -89,12 +91,14 @@ TEST(InstanceActivity, aSeriesFollowsOneStatisticAndIsBlankAcrossARestart) {
 
 TEST(InstanceActivity, aSeriesOfALevelLeavesPairsWithoutItBlank) {
   InstanceRepository repository("10");
-  withTransactions(repository).sysstat("logons current", "30", "31");
+  withTransactions(repository)
+      .sysstat("logons current", "30", "31")
+      .sysstat("opened cursors current", "1", "5");
   OpenReport report(repository);
   report.all("Instance Activity Stats[2]", 0);
-  EXPECT_EQ(report.col(1),
+  EXPECT_EQ(report.col(report.grid().TextMatrix(1, 1) == "opened cursors current" ? 1 : 2),
             "NO|STATISTIC|END TIME|START VALUE|END VALUE|STATUS\n"
-            "1|logons current|2026-01-05 11:00:00|30|31|OK\n"
+            "1|opened cursors current|2026-01-05 11:00:00|1|5|OK\n"
             "2||2026-01-05 12:00:00|||DB RESTART\n"
             "3||2026-01-05 13:30:00|||OK\n");
   EXPECT_EQ(report.all("Instance Activity Stats[2]", 1), "NO|STATISTIC|START VALUE|END VALUE\n");

@@ -21,7 +21,7 @@ class IoRepository : public InstanceRepository {
  public:
   IoRepository() : InstanceRepository("11") {
     rows("stats$iostat_function_name", {"function_id", "function_name"},
-         {{"1", "RMAN"}, {"2", "LGWR"}, {"3", "Others"}, {"4", "Streams AQ"}});
+         {{"1", "RMAN"}, {"2", "LGWR"}, {"3", "Others"}, {"4", "Streams AQ"}, {"5", "Direct Reads"}});
     at("1", "1", {"0", "0", "0", "0", "0", "0", "0", "0", "0", "0"});
     at("2", "1", {"0", "8110", "0", "0", "36", "36", "0", "0", "3", "14400"});
     // Writes alone.
@@ -29,6 +29,8 @@ class IoRepository : public InstanceRepository {
     at("2", "2", {"0", "0", "500", "0", "0", "0", "70", "0", "0", "0"});
     at("1", "3", {"10", "0", "100", "0", "100", "5", "0", "0", "0", "10"});
     at("2", "3", {"10", "0", "36100", "0", "3700", "5", "7200", "0", "10000", "10"});
+    at("1", "5", {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"});
+    at("2", "5", {"21", "302", "43", "504", "105", "26", "207", "88", "64", "64010"});
     // No row at the start.
     at("2", "4", {"1", "1", "1", "1", "1", "1", "1", "1", "1", "1"});
   }
@@ -56,10 +58,13 @@ TEST(IoStatByFunction, functionsThatReadShowInFourDigitsAndAUnitByTheirVolume) {
   OpenReport report(repository);
   // Others: 3600 reads and 7200 writes in 3600 s; 36000 MB = 35.2 GB written, 10 MB a second; no wait time.
   // RMAN: 8110 MB, 2.25 a second; 72 requests, .02 a second; 14400 / 72 / 1000 = .2.
+  // Direct Reads: 20 + 300 MB and 100 + 20 requests read, .09 and .03 a second; 40 + 500 MB and 200 + 80
+  // requests written, .15 and .08 a second; 64000 / 400 / 1000 = .16.
   EXPECT_EQ(report.all("IO Stat by Function - summary", 0),
             std::string(kSummary) +
                 "1|Others| |    1.0 | |   35G|    2.0 |   10.0M|   10K|0\n"
-                "2|RMAN| 8110M|     .0 |    2.3M| | | |    3 |0.2\n");
+                "2|RMAN| 8110M|     .0 |    2.3M| | | |    3 |0.2\n"
+                "3|Direct Reads|  320M|     .0 |     .1M|  540M|     .1 |     .2M|   55 |0.2\n");
   EXPECT_EQ(report.all("IO Stat by Function - summary", 1), kSummary);
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
@@ -67,9 +72,11 @@ TEST(IoStatByFunction, functionsThatReadShowInFourDigitsAndAUnitByTheirVolume) {
 TEST(IoStatByFunction, smallAndLargeStandApartInTheDetail) {
   IoRepository repository;
   OpenReport report(repository);
-  EXPECT_EQ(report.all("IO Stat by Function - detail", 0), std::string(kDetail) +
-                                                               "1|Others| 3600 | | | | 7200 | |   35G| \n"
-                                                               "2|RMAN|   36 |   36 | | 8110M| | | | \n");
+  EXPECT_EQ(report.all("IO Stat by Function - detail", 0),
+            std::string(kDetail) +
+                "1|Others| 3600 | | | | 7200 | |   35G| \n"
+                "2|RMAN|   36 |   36 | | 8110M| | | | \n"
+                "3|Direct Reads|  100 |   20 |   20M|  300M|  200 |   80 |   40M|  500M\n");
   EXPECT_EQ(report.all("IO Stat by Function - detail", 1), kDetail);
 }
 

@@ -56,10 +56,10 @@ TEST(PgaHitRatio, isTheShareOfAllTrafficThatStayedInMemory) {
 
 TEST(PgaHitRatio, aSnapshotWithoutFiguresCountsFromZeroAtTheStart) {
   PgaRepository repository("10");
-  repository.traffic("2", "2097152", "1048576");
+  repository.traffic("2", "2621440", "524288");
   OpenReport report(repository);
-  // 2 of 3 MB.
-  EXPECT_EQ(report.all("PGA Aggr Target Stats[1]", 0), std::string(kHitRatio) + "1|66.7|2|1\n");
+  // 2.5 of 3 MB; halves are rounded up.
+  EXPECT_EQ(report.all("PGA Aggr Target Stats[1]", 0), std::string(kHitRatio) + "1|83.3|3|1\n");
   EXPECT_EQ(report.all("PGA Aggr Target Stats[1]", 2), kHitRatio);
 }
 
@@ -70,19 +70,24 @@ const char* const kSizes =
 TEST(PgaSizes, bothSnapshotsHaveARowAlsoAcrossARestart) {
   for (const char* major : {"9", "10", "11"}) {
     PgaRepository repository(major);
-    // 10 and 5 of 100 MB; no work area at the end of pair 0.
-    repository.parameter("pga_aggregate_target", "209715200")
-        .rows("stats$pgastat", {"snap_id", "name", "value"}, {{"1", "maximum PGA allocated", "999"}});
+    // 10 and 5 of 100 MB; no work area at the end of pair 0. Then .525 of 1.55 MB, a trace more and less. The
+    // target is 200 MB, 200.5 at the end of pair 0.
+    for (const char* snapshot : {"1", "2", "3"})
+      repository.row("stats$parameter",
+                     {{"snap_id", snapshot},
+                      {"name", "pga_aggregate_target"},
+                      {"value", snapshot == std::string("2") ? "210239488" : "209715200"}});
+    repository.rows("stats$pgastat", {"snap_id", "name", "value"}, {{"1", "maximum PGA allocated", "999"}});
     repository.memory("1", "104857600", "10485760", "5242880")
         .memory("2", "104857600", "0", "0")
-        .memory("3", "1572864", "0", "524288");
+        .memory("3", "1625293", "0", "550502");
     OpenReport report(repository);
     EXPECT_EQ(report.all("PGA Aggr Target Stats[2]", 0), std::string("NO|SNAP|") + kSizes +
                                                              "1|B|200|170|100|15|15|66.7|33.3|40960\n"
-                                                             "2|E|200|170|100|0|0|0|0|40960\n");
+                                                             "2|E|201|170|100|0|0|0|0|40960\n");
     EXPECT_EQ(report.all("PGA Aggr Target Stats[2]", 1), std::string("NO|SNAP|") + kSizes +
-                                                             "1|B|200|170|100|0|0|0|0|40960\n"
-                                                             "2|E|200|170|1.5|0.5|33.3|0|100|40960\n");
+                                                             "1|B|201|170|100|0|0|0|0|40960\n"
+                                                             "2|E|200|170|1.6|0.5|33.9|0|100|40960\n");
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
 }
@@ -128,7 +133,8 @@ TEST(PgaSizes, noAllocatedMemoryIsADivisionByZero) {
 const char* const kHistogram =
     "NO|LOW OPTIMAL|HIGH OPTIMAL|TOTAL EXECS|OPTIMAL EXECS|1-PASS EXECS|M-PASS EXECS\n";
 
-/// Growth by size of the work area: 3 below 1 KB, 10 of 1 to 2 KB (new), none of 2 to 4 KB, and one each of
+/// Growth by size of the work area: 3 below 1 KB, 10 of 1 to 2 KB (new), 6 of 1.5 to
+/// 2.5 KB, none of 2 to 4 KB, and one each of
 /// megabytes, gigabytes and terabytes.
 class HistogramRepository : public InstanceRepository {
  public:
@@ -139,6 +145,7 @@ class HistogramRepository : public InstanceRepository {
          {{"1", "0", "1023", "7", "7", "0", "0"},
           {"2", "0", "1023", "10", "10", "0", "0"},
           {"2", "1024", "2047", "10", "7", "2", "1"},
+          {"2", "1536", "2559", "6", "6", "0", "0"},
           {"1", "2048", "4095", "5", "5", "0", "0"},
           {"2", "2048", "4095", "5", "5", "0", "0"},
           {"2", "1048576", "2097151", "1", "1", "0", "0"},
@@ -156,9 +163,10 @@ TEST(PgaHistogram, sizesShowInTheirUnitAtTheRightOfTwelveCharacters) {
     EXPECT_EQ(report.all("PGA Aggr Target Histogram", 0), std::string(kHistogram) +
                                                               "1|          0B|1023B|3|3|0|0\n"
                                                               "2|          1K|          2K|10|7|2|1\n"
-                                                              "3|          1M|          2M|1|1|0|0\n"
-                                                              "4|          1G|          2G|1|0|1|0\n"
-                                                              "5|          1T|          2T|1|0|0|1\n");
+                                                              "3|          2K|          2K|6|6|0|0\n"
+                                                              "4|          1M|          2M|1|1|0|0\n"
+                                                              "5|          1G|          2G|1|0|1|0\n"
+                                                              "6|          1T|          2T|1|0|0|1\n");
     EXPECT_EQ(report.all("PGA Aggr Target Histogram", 1), kHistogram);
     EXPECT_THAT(report.boxes(), IsEmpty());
   }

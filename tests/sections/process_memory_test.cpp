@@ -57,11 +57,12 @@ class ProcessRepository : public InstanceRepository {
 /// 100 MB at the start of pair 0 and 50 MB at its end; snapshot 3 has no row.
 ProcessRepository& withSums(ProcessRepository& repository) {
   repository
-      .whole("1", "-9", "", {"104857600", "83886080", "5242880", "1572864", "", "10485760", "11010048", "30"})
+      .whole("1", "-9", "", {"104910029", "83938509", "5295309", "1625293", "", "11010048", "11010048", "30"})
       .category("1", "-9", "PL/SQL", {"10485760", "5242880", "524288", "1048576", "1048576", "1048576", "28"})
-      .category("1", "-9", "SQL", {"20971520", "10485760", "1048576", "1048576", "2097152", "3145728", "12"})
+      .category("1", "-9", "SQL", {"20971520", "10485760", "1048576", "1101005", "2097152", "3145728", "12"})
       .category("1", "-9", "Freeable", {"5242880", "", "", "", "", "", ""})
       .whole("2", "-9", "", {"52428800", "", "", "", "", "", "", ""})
+      .category("2", "-9", "Other", {"", "", "", "", "", "", "2"})
       .category("2", "-9", "SQL", {"1048576", "1048576", "1048576", "0", "1048576", "1048576", "1"})
       .whole("4", "-9", "", {"157286400", "", "", "", "", "", "", "7"})
       // Processes of their own are no sums.
@@ -75,14 +76,17 @@ TEST(ProcessMemorySummary, eachSnapshotHasAHeadRowOfDashesAndItsCategoriesBySize
     ProcessRepository repository(major);
     withSums(repository);
     OpenReport report(repository);
-    // 10.5 MB are shown as 11, without decimals.
-    EXPECT_EQ(report.all("Process Memory Summary Stats", 0), std::string("NO|SNAP|CATEGORY|") + kSummary +
-                                                                 "1|B|---------|100|80|5|1.5| |10|11|30\n"
-                                                                 "2|B|SQL|20|10| |1|1|2|3|12\n"
-                                                                 "3|B|PL/SQL|10|5| |.5|1|1|1|28\n"
-                                                                 "4|B|Freeable|5| | | | | | | \n"
-                                                                 "5|E|---------|50| | | | | | | \n"
-                                                                 "6|E|SQL|1|1| |1|0|1|1|1\n");
+    // A trace more than 100.05, 80.05, 5.05, 1.55 and 1.05 MB. 10.5 MB are shown as 11, without decimals.
+    // What is not known sorts before the largest.
+    EXPECT_EQ(report.all("Process Memory Summary Stats", 0),
+              std::string("NO|SNAP|CATEGORY|") + kSummary +
+                  "1|B|---------|100.1|80.1|5.1|1.6| |11|11|30\n"
+                  "2|B|SQL|20|10| |1|1.1|2|3|12\n"
+                  "3|B|PL/SQL|10|5| |.5|1|1|1|28\n"
+                  "4|B|Freeable|5| | | | | | | \n"
+                  "5|E|---------|50| | | | | | | \n"
+                  "6|E|Other| | | | | | | |2\n"
+                  "7|E|SQL|1|1| |1|0|1|1|1\n");
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
 }
@@ -93,7 +97,8 @@ TEST(ProcessMemorySummary, aRestartChangesNothing) {
   OpenReport report(repository);
   EXPECT_EQ(report.all("Process Memory Summary Stats", 1), std::string("NO|SNAP|CATEGORY|") + kSummary +
                                                                "1|B|---------|50| | | | | | | \n"
-                                                               "2|B|SQL|1|1| |1|0|1|1|1\n");
+                                                               "2|B|Other| | | | | | | |2\n"
+                                                               "3|B|SQL|1|1| |1|0|1|1|1\n");
 }
 
 TEST(ProcessMemorySummary, beginAndEndRowsLeadToSeriesOfTheirOwn) {
@@ -102,7 +107,7 @@ TEST(ProcessMemorySummary, beginAndEndRowsLeadToSeriesOfTheirOwn) {
   OpenReport report(repository);
   report.all("Process Memory Summary Stats", 0);
   EXPECT_EQ(report.col(2), std::string("NO|SNAP|CATEGORY|START TIME|") + kSummary +
-                               "1|B|SQL|2026-01-05 10:00:00|20|10| |1|1|2|3|12\n"
+                               "1|B|SQL|2026-01-05 10:00:00|20|10| |1|1.1|2|3|12\n"
                                "2|B|SQL|2026-01-05 11:00:00|1|1| |1|0|1|1|1\n"
                                "3|||2026-01-05 12:00:00||||||||\n");
   report.all("Process Memory Summary Stats", 0);
@@ -113,12 +118,12 @@ TEST(ProcessMemorySummary, beginAndEndRowsLeadToSeriesOfTheirOwn) {
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
 
-/// The writer with 10 MB, a client with 20 MB, a program without brackets; at the end process 10 is another
-/// program. The rows that sum up all are there too.
+/// The writer with a trace more than 10.05 MB, a client with 20 MB, a program without brackets; at the end
+/// process 10 is another program, and then there is a client alone. The rows that sum up all are there too.
 ProcessRepository& withProcesses(ProcessRepository& repository) {
   repository
       .whole("1", "10", "oracle@node1 (DBW0)",
-             {"10485760", "5242880", "1048576", "", "", "10485760", "11010048", ""})
+             {"10538189", "5295309", "1101005", "", "", "10538189", "11062477", ""})
       .category("1", "10", "SQL", {"1048576", "524288", "", "", "1048576", "1048576", ""}, "99")
       .category("1", "10", "Other", {"8388608", "", "", "", "8388608", "8388608", ""})
       .whole("1", "12", "oracle@node1 (TNS V1-V3)",
@@ -128,7 +133,10 @@ ProcessRepository& withProcesses(ProcessRepository& repository) {
       .whole("1", "-9", "", {"999", "", "", "", "", "", "", ""})
       .category("1", "-9", "SQL", {"999", "", "", "", "", "", ""})
       .whole("2", "10", "oracle@node1 (PMON)", {"3145728", "3145728", "0", "", "", "3145728", "3145728", ""})
-      .category("2", "10", "Other", {"2097152", "", "", "", "2097152", "2097152", ""});
+      .category("2", "10", "Other", {"2097152", "", "", "", "2097152", "2097152", ""})
+      .whole("3", "12", "oracle@node1 (TNS V1-V3)",
+             {"1048576", "1048576", "0", "", "", "1048576", "1048576", ""})
+      .category("3", "12", "Other", {"1048576", "", "", "", "1048576", "1048576", ""});
   return repository;
 }
 
@@ -139,20 +147,22 @@ TEST(TopProcessMemory, processesShowByTheirWholeMemoryEachBeforeItsCategories) {
     OpenReport report(repository);
     // The head row's name is the text in brackets, a blank, and dashes up to 13 characters. Without brackets
     // nothing is left of the program but the blank.
-    EXPECT_EQ(report.all("Top Process Memory (by component)", 0), std::string("NO|SNAP|PID|CATEGORY|") +
-                                                                      kTop +
-                                                                      "1|B|12|TNS V1-V3 ---|20|20|0|20|20\n"
-                                                                      "2|B|12|PL/SQL|2|1| |2|2\n"
-                                                                      "3|B|10|DBW0 --------|10|5|1|10|10.5\n"
-                                                                      "4|B|10|Other|8| | |8|8\n"
-                                                                      "5|B|10|SQL|1|.5| |1|1\n"
-                                                                      "6|B|13| ------------|1|1| |1|1\n"
-                                                                      "7|E|10|PMON --------|3|3|0|3|3\n"
-                                                                      "8|E|10|Other|2| | |2|2\n");
+    EXPECT_EQ(report.all("Top Process Memory (by component)", 0),
+              std::string("NO|SNAP|PID|CATEGORY|") + kTop +
+                  "1|B|12|TNS V1-V3 ---|20|20|0|20|20\n"
+                  "2|B|12|PL/SQL|2|1| |2|2\n"
+                  "3|B|10|DBW0 --------|10.1|5.1|1.1|10.1|10.6\n"
+                  "4|B|10|Other|8| | |8|8\n"
+                  "5|B|10|SQL|1|.5| |1|1\n"
+                  "6|B|13| ------------|1|1| |1|1\n"
+                  "7|E|10|PMON --------|3|3|0|3|3\n"
+                  "8|E|10|Other|2| | |2|2\n");
     EXPECT_EQ(report.all("Top Process Memory (by component)", 1), std::string("NO|SNAP|PID|CATEGORY|") +
                                                                       kTop +
                                                                       "1|B|10|PMON --------|3|3|0|3|3\n"
-                                                                      "2|B|10|Other|2| | |2|2\n");
+                                                                      "2|B|10|Other|2| | |2|2\n"
+                                                                      "3|E|12|TNS V1-V3 ---|1|1|0|1|1\n"
+                                                                      "4|E|12|Other|1| | |1|1\n");
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
 }

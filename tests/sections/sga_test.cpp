@@ -12,10 +12,11 @@ using testing::IsEmpty;
 TEST(SgaMemorySummary, regionsShowByNameAndAnUnchangedOneHasNoDifference) {
   for (const char* major : {"9", "10", "11"}) {
     InstanceRepository repository(major);
-    // Variable Size grows from 100 to 101.5 MB; Fixed Size is 1.005 MB, which is 1.01 at two digits.
+    // Variable Size grows from 100 to a trace more than 101.505 MB; Fixed Size is 1.005 MB, which is 1.01 at
+    // two digits.
     repository.rows("stats$sga", {"snap_id", "name", "value"},
                     {{"1", "Variable Size", "104857600"},
-                     {"2", "Variable Size", "106430464"},
+                     {"2", "Variable Size", "106435707"},
                      {"1", "Fixed Size", "1053819"},
                      {"2", "Fixed Size", "1053819"},
                      {"1", "Database Buffers", "1048576"},
@@ -28,10 +29,10 @@ TEST(SgaMemorySummary, regionsShowByNameAndAnUnchangedOneHasNoDifference) {
     EXPECT_EQ(report.all("SGA Memory Summary", 0), headings +
                                                        "1|Database Buffers|1|0.5|-.5\n"
                                                        "2|Fixed Size|1.01|1.01| \n"
-                                                       "3|Variable Size|100|101.5|1.5\n");
+                                                       "3|Variable Size|100|101.51|1.51\n");
     EXPECT_EQ(report.col(3),
               "NO|SGA REGIONS|END TIME|START SIZE(MB)|END SIZE(MB)|DIFF SIZE(MB)|STATUS\n"
-              "1|Variable Size|2026-01-05 11:00:00|100|101.5|1.5|OK\n"
+              "1|Variable Size|2026-01-05 11:00:00|100|101.51|1.51|OK\n"
               "2||2026-01-05 12:00:00||||DB RESTART\n"
               "3|Variable Size|2026-01-05 13:30:00|1|1| |OK\n");
     EXPECT_EQ(report.all("SGA Memory Summary", 1), headings);
@@ -57,19 +58,19 @@ TEST(SgaBreakdown, partsOfEitherEndShowByPoolAndThoseWithoutAPoolLast) {
     BreakdownRepository repository(major);
     repository.part("1", "shared pool", "free memory", "10485760")
         .part("2", "shared pool", "free memory", "15728640")
-        .part("1", "shared pool", "dictionary", "1048576")
-        .part("2", "shared pool", "sql area", "1572864")
+        .part("1", "shared pool", "dictionary", "1101005")
+        .part("2", "shared pool", "sql area", "1625293")
         .part("1", "java pool", "free memory", "3145728")
-        .part("2", "java pool", "free memory", "4194304")
+        .part("2", "java pool", "free memory", "5242880")
         .part("1", "", "log_buffer", "104857600")
         .part("2", "", "log_buffer", "104857600");
     OpenReport report(repository);
-    // What is new is measured against one byte: 100 * 1572864.
+    // 1.05 and 1.55 MB and a trace are rounded up. What is new is measured against one byte: 100 * 1625293.
     EXPECT_EQ(report.all("SGA breakdown difference", 0), std::string(kBreakdown) +
-                                                             "1|java pool|free memory|3|4|33.33\n"
-                                                             "2|shared pool|dictionary|1| |-100\n"
+                                                             "1|java pool|free memory|3|5|66.67\n"
+                                                             "2|shared pool|dictionary|1.1| |-100\n"
                                                              "3|shared pool|free memory|10|15|50\n"
-                                                             "4|shared pool|sql area| |1.5|157286400\n"
+                                                             "4|shared pool|sql area| |1.6|162529300\n"
                                                              "5| |log_buffer|100|100|0\n");
     EXPECT_EQ(report.all("SGA breakdown difference", 1), kBreakdown);
     EXPECT_THAT(report.boxes(), IsEmpty());
@@ -83,7 +84,8 @@ TEST(SgaBreakdown, aSeriesIsFoundByPoolAndNameAlsoWithoutAPool) {
       .part("1", "", "free memory", "1048576")
       .part("2", "", "free memory", "1048576")
       .part("3", "", "free memory", "1048576")
-      .part("4", "", "free memory", "2097152");
+      .part("4", "", "free memory", "2097152")
+      .part("4", "shared pool", "another", "1048576");
   OpenReport report(repository);
   const std::string headings = "NO|POOL|NAME|END TIME|START(MB)|END(MB)|% DIFF|STATUS\n";
   report.all("SGA breakdown difference", 0);
@@ -109,16 +111,18 @@ TEST(SgaBreakdown, anEmptyPoolCellStandsForTheBlankOne) {
 
 TEST(SgaBreakdown, theThirtyFiveSmallestAreKeptBesideFreeMemoryAndThePoolLess) {
   BreakdownRepository repository("11");
-  // p01 to p36 of 10 to 360 bytes. The pool-less part of 15 bytes takes one of the thirty-five places, so
-  // that p34 is the last that finds one.
+  // p01 to p36 of 10 to 360 bytes at the end; at the start the last is the smallest. The pool-less part of 15
+  // bytes, which only the start has, takes one of the thirty-five places, so that p34 is the last that finds
+  // one.
   for (int i = 1; i <= 36; ++i) {
     const std::string number = (i < 10 ? "0" : "") + std::to_string(i);
     const std::string bytes = std::to_string(i * 10);
-    repository.part("1", "large pool", "p" + number, bytes).part("2", "large pool", "p" + number, bytes);
+    repository.part("1", "large pool", "p" + number, std::to_string(1000 - i))
+        .part("2", "large pool", "p" + number, bytes);
   }
   repository.part("1", "large pool", "free memory", "9999").part("2", "large pool", "free memory", "9999");
   repository.part("1", "", "big", "8888").part("2", "", "big", "8888");
-  repository.part("1", "", "small", "15").part("2", "", "small", "15");
+  repository.part("1", "", "small", "15");
   OpenReport report(repository);
   report.all("SGA breakdown difference", 0);
   const Grid& grid = report.grid();
@@ -158,12 +162,13 @@ class SqlMemoryRepository : public InstanceRepository {
   }
 };
 
-/// 200 cursors of 10 KB, 100 parents; then 250 of 20 KB, 200 parents; 3 and 4 are alike.
+/// 200 cursors of 10 KB, 100 parents; then 250 of 20 KB, 200 parents. After the restart 5 cursors of .6666
+/// KB, 3 parents; then 15 of 1 KB, 8 parents.
 SqlMemoryRepository& withCursors(SqlMemoryRepository& repository) {
   return repository.at("1", "200", "100", "2048000")
       .at("2", "250", "200", "5120000")
-      .at("3", "3", "2", "1024")
-      .at("4", "3", "2", "1024");
+      .at("3", "5", "3", "3413")
+      .at("4", "15", "8", "15360");
 }
 
 TEST(SqlMemory, theDifferenceIsAShareOfTheEnd) {
@@ -171,17 +176,18 @@ TEST(SqlMemory, theDifferenceIsAShareOfTheEnd) {
     SqlMemoryRepository repository(major);
     withCursors(repository);
     OpenReport report(repository);
-    // 10 of 20; (1.25 - 2) of 1.25; 50 of 250; 100 of 200. Then 1024 / 1024 / 3 and 3 / 2.
+    // 10 of 20; (1.25 - 2) of 1.25; 50 of 250; 100 of 200. Then 3413 / 1024 / 5 = .66660 of 1, 1.67 of 1.875,
+    // 10 of 15 and 5 of 8.
     EXPECT_EQ(report.all("SQL Memory Statistics", 0), std::string(kSqlMemory) +
                                                           "1|Avg Cursor Size (KB):|10|20|50\n"
                                                           "2|Cursor to Parent ratio:|2|1.25|-60\n"
                                                           "3|Total Cursors:|200|250|20\n"
                                                           "4|Total Parents:|100|200|50\n");
     EXPECT_EQ(report.all("SQL Memory Statistics", 2), std::string(kSqlMemory) +
-                                                          "1|Avg Cursor Size (KB):|0.33|0.33|0\n"
-                                                          "2|Cursor to Parent ratio:|1.5|1.5|0\n"
-                                                          "3|Total Cursors:|3|3|0\n"
-                                                          "4|Total Parents:|2|2|0\n");
+                                                          "1|Avg Cursor Size (KB):|0.67|1|33.34\n"
+                                                          "2|Cursor to Parent ratio:|1.67|1.88|11.11\n"
+                                                          "3|Total Cursors:|5|15|66.67\n"
+                                                          "4|Total Parents:|3|8|62.5\n");
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
 }
@@ -203,14 +209,30 @@ TEST(SqlMemory, eachRowHasItsSeries) {
            last + "|OK\n";
   };
   report.all("SQL Memory Statistics", 0);
-  EXPECT_EQ(report.col(1), series("Avg Cursor Size (KB):", "10|20|50", "0.33|0.33|0"));
+  EXPECT_EQ(report.col(1), series("Avg Cursor Size (KB):", "10|20|50", "0.67|1|33.34"));
   report.all("SQL Memory Statistics", 0);
-  EXPECT_EQ(report.col(2), series("Cursor to Parent ratio:", "2|1.25|-60", "1.5|1.5|0"));
+  EXPECT_EQ(report.col(2), series("Cursor to Parent ratio:", "2|1.25|-60", "1.67|1.88|11.11"));
   report.all("SQL Memory Statistics", 0);
-  EXPECT_EQ(report.col(3), series("Total Cursors:", "200|250|20", "3|3|0"));
+  EXPECT_EQ(report.col(3), series("Total Cursors:", "200|250|20", "5|15|66.67"));
   report.all("SQL Memory Statistics", 0);
-  EXPECT_EQ(report.col(4), series("Total Parents:", "100|200|50", "2|2|0"));
+  EXPECT_EQ(report.col(4), series("Total Parents:", "100|200|50", "3|8|62.5"));
   EXPECT_THAT(report.boxes(), IsEmpty());
+}
+
+TEST(SqlMemory, aMissingFigureCountsAsZero) {
+  SqlMemoryRepository repository("11");
+  repository.at("1", "200", "100", "").at("2", "250", "200", "5120000");
+  repository.at("3", "", "", "").at("4", "4", "2", "4096");
+  OpenReport report(repository);
+  EXPECT_EQ(report.all("SQL Memory Statistics", 0), std::string(kSqlMemory) +
+                                                        "1|Avg Cursor Size (KB):|0|20|100\n"
+                                                        "2|Cursor to Parent ratio:|2|1.25|-60\n"
+                                                        "3|Total Cursors:|200|250|20\n"
+                                                        "4|Total Parents:|100|200|50\n");
+  report.col(4);
+  EXPECT_THAT(report.boxes(), IsEmpty());
+  EXPECT_EQ(report.grid().TextMatrix(3, 3), "0");
+  EXPECT_EQ(report.grid().TextMatrix(3, 5), "100");
 }
 
 TEST(SqlMemory, noCursorsAreADivisionByZero) {
