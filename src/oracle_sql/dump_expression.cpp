@@ -15,6 +15,11 @@ void Dump::expr(const Expr& e) {
     case ExprKind::String:
       head(e, "text " + quotedText(static_cast<const StringLiteral&>(e).value));
       break;
+    case ExprKind::IntervalLiteral: {
+      const auto& i = static_cast<const IntervalLiteral&>(e);
+      head(e, "interval " + quotedText(i.value) + " " + spelling(i.fields));
+      break;
+    }
     case ExprKind::DateLiteral:
       head(e, "date " + quotedText(static_cast<const DateLiteral&>(e).value));
       break;

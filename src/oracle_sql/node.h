@@ -24,6 +24,7 @@ enum class ExprKind : std::uint8_t {
   Number,
   String,
   DateLiteral,
+  IntervalLiteral,
   Column,
   Rownum,
   Bind,

@@ -72,6 +72,9 @@ class Parser {
   Expr* trim();
   Expr* extract();
   Expr* cast();
+  Expr* interval();
+  IntervalField intervalField();
+  int intervalDigits(int otherwise);
   void castType(CastExpr& c);
   bool nullTreatment(Call& c);
   void keepClause(Call& c);

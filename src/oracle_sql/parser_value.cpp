@@ -140,7 +140,7 @@ Expr* Parser::keywordPrimary(bool& taken) {
       if (now(1).kind == TokenKind::String) unsupported("a TIMESTAMP literal");
       break;
     case Keyword::Interval:
-      if (now(1).kind == TokenKind::String) unsupported("an INTERVAL literal");
+      if (now(1).kind == TokenKind::String) return interval();
       break;
     case Keyword::Cast:
       if (opens) return cast();

@@ -64,6 +64,11 @@ void Printer::bare(const Expr& e) {
     case ExprKind::String:
       out_ += quotedText(static_cast<const StringLiteral&>(e).value);
       break;
+    case ExprKind::IntervalLiteral: {
+      const auto& i = static_cast<const IntervalLiteral&>(e);
+      out_ += "INTERVAL " + quotedText(i.value) + " " + spelling(i.fields);
+      break;
+    }
     case ExprKind::DateLiteral:
       out_ += "DATE " + quotedText(static_cast<const DateLiteral&>(e).value);
       break;

@@ -83,8 +83,11 @@ Type Resolver::resolved(Expr& e, const Env& env) {
       if (t.kind == TypeKind::Date || t.kind == TypeKind::Raw) inconsistent({TypeKind::Number}, t, e.place);
       return {TypeKind::Number, t.integral && (n.plus || n.operand->kind == ExprKind::Number)};
     }
+    case ExprKind::IntervalLiteral:
+      throw SqlError::unsupported("an INTERVAL without a DATE beside it", e.place);
     case ExprKind::Arithmetic: {
       auto& a = static_cast<Arithmetic&>(e);
+      if (intervalOf(a)) return dateAndInterval(a, env);
       const Type left = value(*a.left, env);
       return arithmeticType(a, left, value(*a.right, env));
     }
@@ -126,6 +129,21 @@ Type Resolver::resolved(Expr& e, const Env& env) {
       condition(e, env);
       return {TypeKind::Condition};
   }
+}
+
+// date + interval, interval + date, date - interval.
+Type Resolver::dateAndInterval(Arithmetic& a, const Env& env) {
+  IntervalLiteral& interval = *intervalOf(a);
+  Expr& date = a.left == &interval ? *a.right : *a.left;
+  if (value(date, env).kind != TypeKind::Date)
+    throw SqlError::unsupported("an INTERVAL without a DATE beside it", interval.place);
+  try {
+    interval.interval = intervalOfLiteral(interval.value, interval.fields);
+  } catch (const FunctionError& e) {
+    if (e.code() == FunctionError::kUnsupported) throw SqlError::unsupported(e.what(), interval.place);
+    fail(e.code(), e.what(), interval.place);
+  }
+  return {TypeKind::Date};
 }
 
 Type Resolver::arithmeticType(const Arithmetic& a, Type left, Type right) const {

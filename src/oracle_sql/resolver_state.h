@@ -92,6 +92,7 @@ class Resolver {
   void subqueryAgainst(const Expr& operand, Query& q, const Env& env, Place place);
   void subquery(Query& q, const Env& env);
   void checkDate(const DateLiteral& d) const;
+  Type dateAndInterval(Arithmetic& a, const Env& env);
 
   // resolver_calls.cpp
   Type call(Call& c, const Env& env);

@@ -15,6 +15,11 @@ bool sameExpression(const Expr& a, const Expr& b, int level) {
       return as<NumberLiteral>(&a)->text == as<NumberLiteral>(&b)->text;
     case ExprKind::String:
       return as<StringLiteral>(&a)->value == as<StringLiteral>(&b)->value;
+    case ExprKind::IntervalLiteral: {
+      const auto& i = *as<IntervalLiteral>(&a);
+      const auto& j = *as<IntervalLiteral>(&b);
+      return i.interval.amount == j.interval.amount && i.interval.months == j.interval.months;
+    }
     case ExprKind::DateLiteral:
       return as<DateLiteral>(&a)->value == as<DateLiteral>(&b)->value;
     case ExprKind::Bind:

@@ -100,6 +100,17 @@ std::string_view spelling(GroupingKind kind) {
   return {};
 }
 
+std::string spelling(const IntervalFields& fields) {
+  static constexpr std::string_view kFields[] = {"YEAR", "MONTH", "DAY", "HOUR", "MINUTE", "SECOND"};
+  std::string text(kFields[static_cast<std::size_t>(fields.first)]);
+  if (fields.digits != 2) text += "(" + std::to_string(fields.digits) + ")";
+  if (fields.last != fields.first) {
+    text += " TO ";
+    text += kFields[static_cast<std::size_t>(fields.last)];
+  }
+  return text;
+}
+
 std::string castSpelling(const CastExpr& cast) {
   const std::string length = std::to_string(cast.precision) + (cast.inChars ? " CHAR)" : ")");
   switch (cast.target) {

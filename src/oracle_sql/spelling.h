@@ -17,6 +17,8 @@ std::string_view spelling(BoundKind kind);
 /// Empty for Keys.
 std::string_view spelling(GroupingKind kind);
 /// The type of a CAST, as in NUMBER(10,2).
+// DAY(3) TO SECOND; the digits are written where they are not two.
+std::string spelling(const IntervalFields& fields);
 std::string castSpelling(const CastExpr& cast);
 
 /// A text literal.

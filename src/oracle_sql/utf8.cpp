@@ -24,17 +24,22 @@ struct Shift {
   std::uint32_t distance;
 };
 
-constexpr Shift kShifts[] = {{'A', 'Z', 32},     {0xC0, 0xD6, 32},    {0xD8, 0xDE, 32},
-                             {0x391, 0x3A1, 32}, {0x3A3, 0x3AB, 32},  {0x410, 0x42F, 32},
-                             {0x400, 0x40F, 80}, {0xFF21, 0xFF3A, 32}};
+constexpr Shift kShifts[] = {
+    {'A', 'Z', 32},     {0xC0, 0xD6, 32},   {0xD8, 0xDE, 32},     {0x386, 0x386, 38},   {0x388, 0x38A, 37},
+    {0x38C, 0x38C, 64}, {0x38E, 0x38F, 63}, {0x391, 0x3A1, 32},   {0x3A3, 0x3AB, 32},   {0x410, 0x42F, 32},
+    {0x400, 0x40F, 80}, {0x531, 0x556, 48}, {0x2160, 0x216F, 16}, {0x24B6, 0x24CF, 26}, {0xFF21, 0xFF3A, 32}};
 
 // Blocks in which a capital and its small letter follow each other: the capital is even, or odd.
 bool evenPair(std::uint32_t c) {
   return (c >= 0x100 && c <= 0x137 && c != 0x130 && c != 0x131) || (c >= 0x14A && c <= 0x177) ||
-         (c >= 0x460 && c <= 0x481) || (c >= 0x1E00 && c <= 0x1E95);
+         (c >= 0x1F8 && c <= 0x21F) || (c >= 0x460 && c <= 0x481) || (c >= 0x48A && c <= 0x4BF) ||
+         (c >= 0x4D0 && c <= 0x4F9) || (c >= 0x1E00 && c <= 0x1E95) || (c >= 0x1EA0 && c <= 0x1EF9);
 }
 
-bool oddPair(std::uint32_t c) { return (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E); }
+bool oddPair(std::uint32_t c) {
+  return (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E) || (c >= 0x1CD && c <= 0x1DC) ||
+         (c >= 0x4C1 && c <= 0x4CE);
+}
 
 }  // namespace
 
@@ -135,6 +140,9 @@ std::uint32_t upper(std::uint32_t c) {
   }
   if (c == 0xFF) {
     return 0x178;
+  }
+  if (c == 0x3C2) {  // the sigma that ends a word
+    return 0x3A3;
   }
   if ((evenPair(c) && c % 2 == 1) || (oddPair(c) && c % 2 == 0)) {
     return c - 1;

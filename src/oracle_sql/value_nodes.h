@@ -1,6 +1,7 @@
 // Values: literals, columns, operators, CASE, CAST.
 #pragma once
 
+#include "oracle_sql/interval.h"
 #include "oracle_sql/node.h"
 
 namespace oracle_sql {
@@ -28,6 +29,15 @@ struct DateLiteral : Expr {
   static constexpr ExprKind kKind = ExprKind::DateLiteral;
   DateLiteral() : Expr(kKind) {}
   std::string_view value;
+};
+
+/// INTERVAL '1 12:30' DAY TO MINUTE, which only stands beside a DATE.
+struct IntervalLiteral : Expr {
+  static constexpr ExprKind kKind = ExprKind::IntervalLiteral;
+  IntervalLiteral() : Expr(kKind) {}
+  std::string_view value;
+  IntervalFields fields;
+  Interval interval;  ///< resolved
 };
 
 /// A name with up to two qualifiers.
@@ -75,6 +85,14 @@ struct Arithmetic : Expr {
   Expr* left = nullptr;
   Expr* right = nullptr;
 };
+
+/// The interval that is added to a date or taken from it, or null.
+inline IntervalLiteral* intervalOf(const Arithmetic& a) {
+  const bool adds = a.op == ArithmeticOp::Add;
+  if (adds || a.op == ArithmeticOp::Subtract)
+    if (a.right->kind == ExprKind::IntervalLiteral) return static_cast<IntervalLiteral*>(a.right);
+  return adds && a.left->kind == ExprKind::IntervalLiteral ? static_cast<IntervalLiteral*>(a.left) : nullptr;
+}
 
 /// a || b, two operands.
 struct Concat : Expr {

@@ -23,6 +23,7 @@ void forEachOperand(E& e, Visit&& visit) {
     case ExprKind::Number:
     case ExprKind::String:
     case ExprKind::DateLiteral:
+    case ExprKind::IntervalLiteral:
     case ExprKind::Column:
     case ExprKind::Rownum:
     case ExprKind::Bind:

@@ -438,5 +438,30 @@ TEST_F(OracleSemantics, dateLiteralOfADayThatIsNotIsRefusedWithItsPlace) {
   }
 }
 
+TEST_F(OracleSemantics, whatAFunctionLacksIsRefusedByItsName) {
+  try {
+    rows("select nls_upper('groß', 'NLS_SORT = XGERMAN') from dual");
+    FAIL() << "a sort that is not known was taken";
+  } catch (const DatabaseError& error) {
+    EXPECT_EQ(error.sqlState(), "0A000");
+    EXPECT_THAT(error.what(), testing::HasSubstr("not supported: NLS_SORT = XGERMAN"));
+  }
+}
+
+TEST_F(OracleSemantics, regularExpressionsChooseRows) {
+  EXPECT_THAT(
+      rows("select c from (select 'sql*net more data' c from dual union all select 'log file sync' from "
+           "dual union all select null from dual) where regexp_like(c, '^(SQL|db)', 'i')"),
+      testing::ElementsAre("sql*net more data"));
+  EXPECT_THAT(rows("select 'x' from dual where not regexp_like(null, 'a')"), testing::IsEmpty());
+}
+
+TEST_F(OracleSemantics, intervalsMoveDates) {
+  EXPECT_THAT(
+      rows("select to_char(date '2020-03-01' - interval '1 12:30' day to minute, 'YYYY-MM-DD HH24:MI'), "
+           "to_char(interval '1-1' year to month + date '2020-01-28', 'YYYY-MM-DD') from dual"),
+      testing::ElementsAre("2020-02-28 11:30|2021-02-28"));
+}
+
 }  // namespace
 }  // namespace kestrelix::embedded

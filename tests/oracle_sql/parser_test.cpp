@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"select 1 from t for update", 0}, Refusal{"select 1 from t connect by level < 5", 0},
         Refusal{"select 1 from t start with a = 1 connect by prior a = b", 0},
         Refusal{"select 1 from t@remote", 0}, Refusal{"select timestamp '2020-01-01 00:00:00' from dual", 0},
-        Refusal{"select interval '1' day from dual", 0},
+        Refusal{"select interval '1' weeks from dual", 30089},
         Refusal{"select * from t unpivot (a for b in (c, d))", 0}, Refusal{"select rowid from t", 0},
         Refusal{"select t.rowid from t", 0}, Refusal{"select * from table(f(1))", 0},
         Refusal{"select f(a => 1) from t", 0}, Refusal{"select 1 from t sample (5)", 0},

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "oracle_sql/functions.h"
+#include "oracle_sql/functions/settings.h"
 
 // What stands behind the rows of the function table, one file a family. Where table.cpp wraps a row in
 // strict<>, the arguments that come here are not NULL.
@@ -63,6 +64,7 @@ ORACLE_SQL_FUNCTION(upper);
 ORACLE_SQL_FUNCTION(lower);
 ORACLE_SQL_FUNCTION(initialCapitals);
 ORACLE_SQL_FUNCTION(concat);
+ORACLE_SQL_FUNCTION(soundex);
 ORACLE_SQL_FUNCTION(ascii);
 ORACLE_SQL_FUNCTION(character);
 // searching.cpp
@@ -98,6 +100,15 @@ ORACLE_SQL_FUNCTION(regexpReplace);
 // statspack.cpp
 ORACLE_SQL_FUNCTION(statspackV1024);
 #undef ORACLE_SQL_FUNCTION
+
+// NLS_UPPER and its like: the sort of their second argument is the session's own, or refused.
+template <Value (*F)(Arguments, const Context&)>
+Value sortedAsBinary(Arguments arguments, const Context& context) {
+  if (arguments.size() > 1) {
+    requireBinarySort(TextOf(arguments[1]).view());
+  }
+  return F(arguments.first(1), context);
+}
 
 template <Trigonometric F>
 Value trigonometricOf(Arguments arguments, const Context&) {

@@ -100,4 +100,13 @@ NumberSymbols numberSymbols(std::string_view settings) {
   return symbols;
 }
 
+void requireBinarySort(std::string_view settings) {
+  Reader reader(settings);
+  const std::string name = reader.name();
+  if (name != "NLS_SORT") {
+    refuse();
+  }
+  requireOne(name, reader.value(), {"BINARY"});
+}
+
 }  // namespace oracle_sql::library

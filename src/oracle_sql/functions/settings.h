@@ -11,4 +11,8 @@ namespace oracle_sql::library {
 // Gregorian) are known, another fails as unsupported. ORA-12702 for a text that names no parameter.
 NumberSymbols numberSymbols(std::string_view settings);
 
+// The second argument of NLS_UPPER and its like: "NLS_SORT = BINARY". Another sort fails as unsupported,
+// another parameter by ORA-12702.
+void requireBinarySort(std::string_view settings);
+
 }  // namespace oracle_sql::library

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "oracle_sql/ascii_case.h"
 #include "oracle_sql/functions/library.h"
 #include "oracle_sql/utf8.h"
 
@@ -102,6 +103,37 @@ Value initialCapitals(Arguments arguments, const Context&) {
 }
 
 Value concat(Arguments arguments, const Context&) { return concatenate(arguments[0], arguments[1]); }
+
+// Knuth's: the first letter and three digits for the consonants that follow. Like consonants in a row count
+// once, also with H or W between them. NULL for a text without letters of A to Z.
+Value soundex(Arguments arguments, const Context&) {
+  static constexpr std::string_view kDigits = "01230120022455012623010202";  // of A to Z
+  const TextOf text(arguments[0]);
+  std::string code;
+  char last = '0';
+  for (const char c : text.view()) {
+    if (!isAsciiLetter(c)) {
+      continue;
+    }
+    const char letter = asciiUpper(c);
+    const char digit = kDigits[static_cast<std::size_t>(letter - 'A')];
+    if (code.empty()) {
+      code += letter;
+    } else if (digit != '0' && digit != last) {
+      code += digit;
+    }
+    if (letter != 'H' && letter != 'W') {
+      last = digit;
+    }
+    if (code.size() == 4) {
+      break;
+    }
+  }
+  if (!code.empty()) {
+    code.resize(4, '0');
+  }
+  return Value::text(std::move(code));
+}
 
 // The bytes of the first character as one number.
 Value ascii(Arguments arguments, const Context&) {

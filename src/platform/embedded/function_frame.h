@@ -52,6 +52,7 @@ void checkRegistration(int result, const char* name);
 
 void registerNumberFunctions(sqlite3* connection, Evaluation& evaluation);
 void registerTextFunctions(sqlite3* connection, Evaluation& evaluation);
+void registerDateFunctions(sqlite3* connection, Evaluation& evaluation);
 void registerAggregates(sqlite3* connection, Evaluation& evaluation);
 void registerKeptValues(sqlite3* connection, Evaluation& evaluation);
 void registerKeepAggregates(sqlite3* connection, Evaluation& evaluation);

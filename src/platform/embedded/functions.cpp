@@ -107,6 +107,7 @@ void checkRegistration(int result, const char* name) {
 void registerFunctions(sqlite3* connection, Evaluation& evaluation) {
   registerNumberFunctions(connection, evaluation);
   registerTextFunctions(connection, evaluation);
+  registerDateFunctions(connection, evaluation);
   registerAggregates(connection, evaluation);
   registerKeptValues(connection, evaluation);
   registerKeepAggregates(connection, evaluation);

@@ -8,6 +8,7 @@
 
 #include "oracle_sql/date.h"
 #include "oracle_sql/error.h"
+#include "oracle_sql/function_error.h"
 #include "platform/embedded/account.h"
 #include "platform/embedded/repository_file.h"
 #include "platform/embedded/result_rows.h"
@@ -171,7 +172,11 @@ class LocalDatabase::Engine {
     } catch (const DatabaseError& error) {
       if (evaluation_.failure) {
         const auto failure = *std::exchange(evaluation_.failure, std::nullopt);
-        fail(sql::SqlError::wrong(failure.code, failure.message, placeOf(text, failure.offset)), text);
+        const sql::Place place = placeOf(text, failure.offset);
+        const bool unsupported = failure.code == values::FunctionError::kUnsupported;
+        fail(unsupported ? sql::SqlError::unsupported(failure.message, place)
+                         : sql::SqlError::wrong(failure.code, failure.message, place),
+             text);
       }
       if (!wideSums && std::string_view(error.what()).find("integer overflow") != std::string_view::npos)
         throw SumTooLarge();

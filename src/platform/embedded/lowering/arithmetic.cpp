@@ -70,7 +70,23 @@ Piece divided(Emitter&, const Piece& left, const Piece& right, sql::Place place)
   return piece;
 }
 
+/// A DATE and an INTERVAL literal, which is no value of its own.
+Piece dateAndInterval(Emitter& emitter, const sql::Arithmetic& arithmetic,
+                      const sql::IntervalLiteral& literal) {
+  const sql::Expr& date = arithmetic.left == &literal ? *arithmetic.right : *arithmetic.left;
+  const std::int64_t amount = literal.interval.amount;
+  Piece piece;
+  piece.kind = TypeKind::Date;
+  piece.text = "date_interval(" + emitter.expression(date).text + ", " +
+               std::to_string(arithmetic.op == ArithmeticOp::Subtract ? -amount : amount) + ", " +
+               (literal.interval.months ? "1" : "0") + ", " + std::to_string(arithmetic.place.offset) + ")";
+  piece.atom = true;
+  return piece;
+}
+
 Piece lowerArithmetic(Emitter& emitter, const sql::Arithmetic& arithmetic) {
+  if (const auto* interval = sql::intervalOf(arithmetic))
+    return dateAndInterval(emitter, arithmetic, *interval);
   if (isLongChain(arithmetic)) return lowerLongChain(emitter, arithmetic);
   Piece left = emitter.expression(*arithmetic.left);
   Piece right = emitter.expression(*arithmetic.right);
