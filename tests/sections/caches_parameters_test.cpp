@@ -23,7 +23,9 @@ void dictionaryCaches(FixtureRepository& repository) {
                    {"2", "dc_objects", "6", "400", "0", "30", "3", "0", "7", "0", "0"},
                    // Scans and no gets.
                    {"1", "dc_users", "5", "9", "0", "0", "0", "0", "0", "0", "0"},
-                   {"2", "dc_users", "5", "9", "0", "50", "0", "0", "2", "1", "1"}});
+                   {"2", "dc_users", "5", "9", "0", "50", "0", "0", "2", "1", "1"},
+                   // At one end alone.
+                   {"2", "dc_new", "5", "9", "0", "50", "0", "0", "2", "1", "1"}});
 }
 
 TEST(DictionaryCacheStats, cachesWithGetsShowByTheirLoweredName) {
@@ -82,7 +84,9 @@ void libraryCache(FixtureRepository& repository) {
                    {"2", "CLUSTER", "13", "12", "7", "7", "0", "0", "0", "0", "0", "0", "0"},
                    // Locks and no gets.
                    {"1", "BODY", "5", "5", "5", "5", "0", "0", "0", "0", "0", "0", "0"},
-                   {"2", "BODY", "5", "5", "9", "9", "0", "0", "99", "0", "0", "0", "0"}});
+                   {"2", "BODY", "5", "5", "9", "9", "0", "0", "99", "0", "0", "0", "0"},
+                   // At one end alone.
+                   {"2", "TRIGGER", "5", "5", "9", "9", "0", "0", "99", "0", "0", "0", "0"}});
 }
 
 TEST(LibraryCacheActivity, namespacesWithGetsShow) {

@@ -14,7 +14,9 @@ TEST(GlobalEnqueueStats, everyStatisticShowsByNameAlsoOneThatStoodStill) {
   repository.transactions()
       .dlm("2", "msgs sent queued", "1000", "4600")
       .dlm("1", "acks for commit broadcast(actual)", "3", "3")
-      .dlm("3", "it's a name", "0", "180");
+      .dlm("3", "it's a name", "0", "180")
+      .rows("stats$dlm_misc", {"snap_id", "statistic#", "name", "value"},
+            {{"2", "4", "new at the end", "7"}});
   ReportFixture report(repository.write());
   report.open(0);
   // 3600 and 72 to divide by: 3600/3600 = 1, 3600/72 = 50; 180/3600 = .05 -> .1, 180/72 = 2.5.

@@ -181,6 +181,22 @@ TEST(DynamicRemasteringStats, aSeriesHasTheLabelOfTheSameRowOfTheBlocksServedAnd
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
 
+TEST(DynamicRemasteringStats, theFirstOperationsCountFromZeroAndLackTheirStart) {
+  ClusterRepository repository;
+  repository.rows("stats$dynamic_remaster_stats", kRemaster,
+                  {{"2", "3", "1234", "7", "50", "15", "14", "200", "1000", "5", "600", "70", "8", "41"}});
+  ReportFixture report(repository.write());
+  report.open(0);
+  report.all("Dynamic Remastering Stats", 0);
+  EXPECT_EQ(report.grid().TextMatrix(1, 2), "3");
+  EXPECT_EQ(report.grid().TextMatrix(2, 2), "12.3");
+  EXPECT_EQ(report.grid().TextMatrix(3, 2), "7");
+  EXPECT_EQ(report.grid().TextMatrix(5, 2), " ") << "no level at the start";
+  EXPECT_EQ(report.grid().TextMatrix(7, 2), "41");
+  EXPECT_EQ(report.grid().TextMatrix(14, 2), ".1");
+  EXPECT_THAT(report.boxes(), IsEmpty());
+}
+
 TEST(DynamicRemasteringStats, withoutAnOperationAllRowsAreBlank) {
   ClusterRepository repository;
   repository.rows("stats$dynamic_remaster_stats", kRemaster,
