@@ -83,7 +83,7 @@ NumberParts Number::parts() const {
   if (form_ != 0) {
     std::memcpy(parts.digit, digits_, sizeof parts.digit);
     parts.count = count_;
-    parts.exponent = exponent_;
+    parts.exponent = static_cast<int>(exponent_);
     parts.negative = form_ < 0;
     return parts;
   }

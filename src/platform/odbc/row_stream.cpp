@@ -13,7 +13,7 @@ namespace {
 constexpr SQLULEN kRowsAtOnce = 256;
 /// A text column that can be longer than this many characters is read piece by piece.
 constexpr SQLULEN kLongestBound = 4000;
-constexpr std::size_t kPiece = 64 * 1024;
+constexpr std::size_t kPiece = std::size_t{64} * 1024;
 /// Room for a NUMBER of 40 digits with sign, point and exponent.
 constexpr std::size_t kNumberWidth = 200;
 
@@ -28,7 +28,9 @@ std::string hex(const unsigned char* bytes, std::size_t length) {
 }
 
 /// "2026-01-05 10:00:00.000" without its fraction.
-std::string seconds(std::string time) { return time.substr(0, std::min(time.find('.'), std::size_t{19})); }
+std::string seconds(const std::string& time) {
+  return time.substr(0, std::min(time.find('.'), std::size_t{19}));
+}
 
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QStringList>
+#include <cmath>
 
 namespace kestrelix {
 namespace {
@@ -11,7 +12,7 @@ namespace {
 QString installedFamily() {
   const QStringList installed = QFontDatabase::families();
   for (const char* family : {"ＭＳ ゴシック", "MS Gothic", "IPAGothic", "VL Gothic", "Noto Sans Mono CJK JP"})
-    if (const QString name = QString::fromUtf8(family); installed.contains(name)) return name;
+    if (QString name = QString::fromUtf8(family); installed.contains(name)) return name;
   return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
 }
 
@@ -19,7 +20,7 @@ QString installedFamily() {
 
 QFont fixedFont(double points, bool bold) {
   static const QString family = installedFamily();
-  const int pixels = static_cast<int>(points * 96 / 72 + 0.5);
+  const int pixels = static_cast<int>(std::lround(points * 96 / 72));
   QFont font(family);
   font.setStyleHint(QFont::Monospace);
   font.setFixedPitch(true);

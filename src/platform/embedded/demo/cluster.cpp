@@ -142,7 +142,7 @@ class Cluster : public Topic {
       const std::int64_t current = scaled(w.currentReceived, kClasses[i].share, 1000);
       // A bad hour keeps the holders busy.
       const auto late = [&](std::int64_t blocks, int usual, int inBadHour) {
-        return blocks * random_.around(usual * (w.bad ? inBadHour : 10), 120) / 100000;
+        return blocks * random_.around(std::int64_t{usual} * (w.bad ? inBadHour : 10), 120) / 100000;
       };
       const std::int64_t crBusy = late(cr, kClasses[i].crBusy, 40);
       const std::int64_t crCongested = late(cr, kClasses[i].crCongested, 60);

@@ -95,7 +95,7 @@ Plan planOf(const Statement& statement, bool other) {
   if (statement.plan == PlanShape::None || (other && !statement.twoPlans)) return plan;
   const auto names = objectsOf(statement.objects);
   // The optimizer's cost is near the blocks; the largest reach into the millions.
-  const std::int64_t cost = std::max<std::int64_t>(1, statement.gets / (other ? 1 : 3) * 4);
+  const std::int64_t cost = std::max<std::int64_t>(1, std::int64_t{statement.gets} / (other ? 1 : 3) * 4);
   Builder builder(statement.rows, cost);
   switch (statement.plan) {
     case PlanShape::Insert:

@@ -168,7 +168,7 @@ class ProcessMemory : public Topic {
     if (instance_.database->has(10)) {
       put("process count", sessions_ + 20);
       put("max processes count", sessions_ + 44);
-      put("recompute count (total)", snapshot.place * 1190);
+      put("recompute count (total)", std::int64_t{snapshot.place} * 1190);
     }
   }
 

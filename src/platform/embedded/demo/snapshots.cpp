@@ -48,8 +48,8 @@ class Snapshots : public Topic {
     }
     for (std::size_t i = 0; i < redo_.size(); ++i) {
       const std::int64_t sequence = redo_[i] / kLogFileBytes;
-      threads_.at(snapshot, i + 1, i + 1, "OPEN", startup_, sequence % 4 + 1 + 4 * static_cast<int>(i),
-                  sequence);
+      threads_.at(snapshot, i + 1, i + 1, "OPEN", startup_,
+                  sequence % 4 + 1 + 4 * static_cast<std::int64_t>(i), sequence);
     }
   }
 

@@ -37,6 +37,7 @@ QueryText lowerBlock(Emitter& emitter, const sql::SelectBlock& block,
 
 std::string whereOf(Emitter& emitter, const std::vector<const sql::Expr*>& conjuncts) {
   std::vector<std::string> terms;
+  terms.reserve(conjuncts.size());
   for (const sql::Expr* term : conjuncts) terms.push_back(emitter.condition(*term));
   return terms.empty() ? "" : " WHERE " + chained(std::move(terms), " AND ");
 }

@@ -46,7 +46,6 @@ void foldExtremes(Emitter& emitter, const sql::Call& call, std::vector<Piece>& a
 Piece lowerCall(Emitter& emitter, const sql::Call& call) {
   const std::string name = call.package.empty() ? std::string(call.name)
                                                 : std::string(call.package) + "." + std::string(call.name);
-  std::string function = name;
   std::vector<Piece> arguments;
   for (const sql::Expr* argument : call.args) arguments.push_back(emitter.expression(*argument));
   if (!call.option.empty()) {
@@ -55,7 +54,7 @@ Piece lowerCall(Emitter& emitter, const sql::Call& call) {
     if (call.name == "TRIM" && arguments.size() == 1) arguments.push_back(text(" "));
     arguments.push_back(text(call.option));
   }
-  const values::Function* known = values::findFunction(function);
+  const values::Function* known = values::findFunction(name);
   if (!known || !known->call) throw sql::SqlError::unsupported("the function " + name, call.place);
   if (name == "TO_NUMBER" && arguments.front().kind == sql::TypeKind::Null) {
     arguments.front().kind = sql::TypeKind::Number;
@@ -67,7 +66,7 @@ Piece lowerCall(Emitter& emitter, const sql::Call& call) {
     return arguments.front();
   }
   foldExtremes(emitter, call, arguments);
-  Piece piece = emitter.call(function, arguments, call.type, call.place);
+  Piece piece = emitter.call(name, arguments, call.type, call.place);
   piece.number.integral = piece.kind == sql::TypeKind::Number && call.type.integral;
   for (const auto& whole : kWholeFunctions)
     if (whole.name == name) piece.number = {true, whole.largest};

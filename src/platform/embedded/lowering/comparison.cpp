@@ -137,7 +137,7 @@ std::string lowerCompare(Emitter& emitter, const sql::Compare& compare) {
   if (left.size() != right.size())
     throw sql::SqlError::unsupported("a row against a subquery", compare.place);
   if (left.size() == 1) return "(" + compared(emitter, compare.op, left[0], right[0], compare.place) + ")";
-  const std::string equal = equalRows(emitter, left, right, compare.place);
+  std::string equal = equalRows(emitter, left, right, compare.place);
   if (compare.op == CompareOp::Equal) return equal;
   if (compare.op == CompareOp::NotEqual) return "(NOT " + equal + ")";
   throw sql::SqlError::unsupported("an order between rows", compare.place);
@@ -180,6 +180,7 @@ std::string lowerIn(Emitter& emitter, const sql::InExpr& in) {
            text + "))";
   }
   std::vector<std::string> terms;
+  terms.reserve(items.size());
   for (const auto& item : items) terms.push_back(equalRows(emitter, operand, item, in.place));
   text = chained(std::move(terms), " OR ");
   return in.negated ? "(NOT (" + text + "))" : "(" + text + ")";

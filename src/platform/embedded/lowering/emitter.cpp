@@ -109,7 +109,7 @@ const Source& Emitter::sourceOf(const sql::FromItem* item) const {
 // A named query sees nothing of the queries around it, so all of them stand in front of the statement, under
 // names that no table has.
 std::string Emitter::nameQuery(std::string_view wish, const std::string& text) {
-  const std::string name = uniqueAlias("with " + std::string(wish));
+  std::string name = uniqueAlias("with " + std::string(wish));
   with_ += (with_.empty() ? "" : ", ") + quoted(name) + " AS (" + text + ")";
   return name;
 }
@@ -147,7 +147,7 @@ std::string Emitter::source(const sql::FromItem& item) {
   if (const auto* derived = sql::as<sql::DerivedItem>(&item)) {
     QueryText text = query(*derived->query);
     Source source{uniqueAlias(item.alias), std::move(text.columns)};
-    const std::string from = "(" + text.text + ") AS " + quoted(source.alias);
+    std::string from = "(" + text.text + ") AS " + quoted(source.alias);
     define(&item, std::move(source));
     return from;
   }

@@ -32,8 +32,8 @@ std::string lowerPivot(Emitter& emitter, const sql::PivotItem& pivot) {
       add(piece);
     }
   }
-  const std::string text = "(SELECT " + list + " FROM " + from + (keys.empty() ? "" : " GROUP BY " + keys) +
-                           ") AS " + quoted(source.alias);
+  std::string text = "(SELECT " + list + " FROM " + from + (keys.empty() ? "" : " GROUP BY " + keys) +
+                     ") AS " + quoted(source.alias);
   emitter.define(&pivot, std::move(source));
   return text;
 }

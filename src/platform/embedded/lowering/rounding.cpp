@@ -12,7 +12,7 @@ bool isWholeLiteral(const sql::Expr& expr) {
 
 Piece lowerRound(Emitter& emitter, const sql::Call& call) {
   if (call.type.kind == sql::TypeKind::Date) return lowerCall(emitter, call);
-  const Piece value =
+  Piece value =
       emitter.converted(emitter.expression(*call.args[0]), sql::TypeKind::Number, call.args[0]->place);
   const bool noPlacesBefore = call.args.size() == 1 || isWholeLiteral(*call.args[1]);
   if (value.number.integral && noPlacesBefore) return value;

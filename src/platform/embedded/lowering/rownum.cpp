@@ -68,7 +68,7 @@ bool isSortedView(const sql::SelectBlock& block) {
 }
 
 /// The limit goes into the view: SQLite then keeps only so many rows while it sorts.
-std::string limitedView(Emitter& emitter, const sql::SelectBlock& block, std::string from,
+std::string limitedView(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
                         const std::string& limit) {
   const std::string end = ") AS " + quoted(emitter.sourceOf(block.from.front()).alias);
   return from.substr(0, from.size() - end.size()) + " LIMIT " + limit + end;

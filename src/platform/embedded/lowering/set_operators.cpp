@@ -60,11 +60,12 @@ std::vector<std::string> keysOf(const std::vector<QueryText>& branches, std::siz
     const bool null = piece.kind == sql::TypeKind::Null;
     keys.push_back(null ? "NULL" : "num_key(" + piece.text + ")");
     const bool isQuotient = !piece.quotient.dividend.empty();
-    const std::string factor = std::to_string(divisor / piece.quotient.divisor);
+    // Both are powers of ten.
+    const std::int64_t quotient = divisor / piece.quotient.divisor;
+    const std::string factor = std::to_string(quotient);
     if (null)
       whole.push_back("NULL");
-    else if (isQuotient &&
-             piece.quotient.largest * static_cast<double>(divisor / piece.quotient.divisor) <= kFitsWhole)
+    else if (isQuotient && piece.quotient.largest * static_cast<double>(quotient) <= kFitsWhole)
       whole.push_back("(" + piece.quotient.dividend + ") * " + factor);
     else if (!isQuotient && piece.number.integral &&
              piece.number.largest * static_cast<double>(divisor) <= kFitsWhole)
