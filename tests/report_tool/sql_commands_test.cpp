@@ -71,5 +71,20 @@ TEST_F(SqlCommands, planPrintsTheSteps) {
             "1,101,1,3,SELECT STATEMENT ,----- 11 -----,  , ,2 \r\n");
 }
 
+TEST_F(SqlCommands, statementsNeedNoRepositoryAndGoByVersion) {
+  const auto& scratch = repository.fixture.path();
+  const Outcome nine = runProgram("kestrelix-report", "--format csv statements --version 9", scratch);
+  EXPECT_EQ(nine.status, 0) << nine.errors;
+  EXPECT_THAT(
+      nine.output,
+      testing::StartsWith("CLASS,MEMBER,VIEW,VERSIONS,TEXT\r\nclsDbInstance,getDB_INSTANCE,list,9 10 11,"));
+  EXPECT_THAT(nine.output, HasSubstr("\r\nclsSnapId,getSNAP_ID,list,9 10 11,"));
+  EXPECT_THAT(nine.output, HasSubstr("\r\nclsLatchActivity,getLATCH_ACTIVITY_ALL,All,"));
+  EXPECT_THAT(nine.output, testing::Not(HasSubstr("clsInterconnectPingStats")));
+  const Outcome eleven = runProgram("kestrelix-report", "--format csv statements --version 11", scratch);
+  EXPECT_THAT(eleven.output,
+              HasSubstr("\r\nclsInterconnectPingStats,getINTERCONNECT_PING_STATS_COL,Col,11,"));
+}
+
 }  // namespace
 }  // namespace kestrelix::testing_support
