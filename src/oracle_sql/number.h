@@ -94,6 +94,8 @@ Number power(const Number& base, const Number& exponent);
 Number sqrt(const Number& n);
 Number exp(const Number& n);
 Number ln(const Number& n);
+// The server divides two logarithms whose last digit is not always right: TRUNC(LOG(2, 4)) is 1 there, 2
+// here.
 Number log(const Number& base, const Number& n);
 
 // The bits that two whole numbers have in common, a negative one as two's complement; ORA-01428 outside 128
