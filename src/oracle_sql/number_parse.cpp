@@ -75,11 +75,11 @@ class Reader {
         return minus;
       }
       case Sign::TrailingMinus: {
-        // The place of the sign must be there.
+        // The place of the sign must be there, unless FM leaves the blank out.
         if (takeBack('-')) {
           return true;
         }
-        if (!takeBack(' ')) {
+        if (!takeBack(' ') && model_.filled) {
           raiseInvalidNumber();
         }
         return false;

@@ -224,6 +224,7 @@ TEST(NumberParse, placeOfMiMustBeThere) {
   EXPECT_EQ("99", parseNumber("99.00 ", "9999D99MI").toPlainText());
   EXPECT_EQ("-1100", parseNumber("1100.00-", "9999D99MI").toPlainText());
   EXPECT_EQ(1722, errorOf([] { parseNumber("99.00", "9999D99MI"); }));
+  EXPECT_EQ("99", parseNumber("99.00", "FM9999D99MI").toPlainText());  // as TO_CHAR writes it
 }
 
 TEST(NumberParse, textIsReadAsTheModelWritesIt) {
