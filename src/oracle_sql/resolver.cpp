@@ -18,6 +18,19 @@ const Query* anyQuery(const Expr& e) {
   return found;
 }
 
+// Whether the operands of an ORDER BY expression are constants and expressions of the select list.
+bool isOfSelected(const Expr& e, const SelectBlock& b) {
+  const auto* c = as<ColumnRef>(&e);
+  if (c && c->output >= 0) return true;
+  for (const OutputColumn& column : b.columns)
+    if (sameExpression(e, *column.expr)) return true;
+  const auto* call = as<Call>(&e);
+  if (c || e.kind == ExprKind::Rownum || queryOf(e) || (call && call->role != CallRole::Scalar)) return false;
+  bool all = true;
+  forEachOperand(e, [&](const Expr& o) { all = all && isOfSelected(o, b); });
+  return all;
+}
+
 }  // namespace
 
 void resolve(Tree& tree, const Catalogue& catalogue, const BindTypes& binds) {
@@ -165,7 +178,7 @@ void Resolver::star(SelectBlock& b, const Scope& scope, const SelectItem& item) 
     name.place = item.place;
     const FromItem* leaf = nullptr;
     int leaves = 0;
-    bool merged = false;
+    const JoinItem* merged = nullptr;
     for (const FromItem* f : scope.items)
       if (const FromItem* found = leafNamed(*f, name, leaves, merged)) leaf = found;
     if (!leaf) fail(904, "\"" + std::string(item.qualifier) + "\": invalid identifier", item.place);
@@ -229,7 +242,7 @@ void Resolver::orderBlock(SelectBlock& b, const Scope& scope, List<OrderItem>& i
     if (!b.distinct) continue;
     for (std::size_t i = 0; i < b.columns.size() && item.output < 0; ++i)
       if (sameExpression(*item.expr, *b.columns[i].expr)) item.output = static_cast<int>(i);
-    if (item.output < 0) fail(1791, "not a SELECTed expression", item.place);
+    if (item.output < 0 && !isOfSelected(*item.expr, b)) fail(1791, "not a SELECTed expression", item.place);
   }
 }
 

@@ -36,14 +36,16 @@ void Resolver::search(const FromItem& f, std::string_view name, Found& found) co
     if (f.columns[i].name == name) found = {&f, static_cast<int>(i), found.matches + 1};
 }
 
-// The FROM item that a qualifier means. `merged` tells that a join over it merged the column.
-const FromItem* Resolver::leafNamed(const FromItem& f, const ColumnRef& c, int& leaves, bool& merged) const {
+// The FROM item that a qualifier means. `merged` is a join over it that merged the column.
+const FromItem* Resolver::leafNamed(const FromItem& f, const ColumnRef& c, int& leaves,
+                                    const JoinItem*& merged) const {
   if (const auto* j = as<JoinItem>(&f)) {
     const FromItem* left = leafNamed(*j->left, c, leaves, merged);
     const FromItem* right = leafNamed(*j->right, c, leaves, merged);
     const FromItem* leaf = left ? left : right;
     if (leaf)
-      for (const MergedColumn& m : j->merged) merged = merged || m.name == c.name;
+      for (const MergedColumn& m : j->merged)
+        if (m.name == c.name) merged = j;
     return leaf;
   }
   const auto* t = as<TableItem>(&f);
@@ -74,11 +76,13 @@ void Resolver::column(ColumnRef& c, const Env& env) {
       for (const FromItem* f : scope->items) search(*f, c.name, found);
     } else {
       int leaves = 0;
-      bool merged = false;
+      const JoinItem* merged = nullptr;
       for (const FromItem* f : scope->items) {
         const FromItem* leaf = leafNamed(*f, c, leaves, merged);
         if (leaf) search(*leaf, c.name, found);
       }
+      if (merged && merged->natural)
+        fail(25155, "column used in NATURAL join cannot have qualifier", c.place);
       if (merged) fail(25154, "column part of USING clause cannot have qualifier", c.place);
       if (leaves > 1) fail(918, "column ambiguously defined", c.place);
       // A name found here hides the same name further out, whatever columns it has.

@@ -77,7 +77,8 @@ class Resolver {
   // resolver_names.cpp
   void column(ColumnRef& c, const Env& env);
   void search(const FromItem& f, std::string_view name, Found& found) const;
-  const FromItem* leafNamed(const FromItem& f, const ColumnRef& c, int& leaves, bool& merged) const;
+  const FromItem* leafNamed(const FromItem& f, const ColumnRef& c, int& leaves,
+                            const JoinItem*& merged) const;
   static const OutputColumn& columnAt(const Found& found, OutputColumn& room);
   [[noreturn]] static void unknownName(const ColumnRef& c);
 

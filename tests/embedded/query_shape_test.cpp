@@ -74,6 +74,56 @@ TEST_F(QueryShape, orderOfNestedAggregatesChangesNothing) {
       ElementsAre("10875|3"));
 }
 
+TEST_F(QueryShape, constantsGroupAndSortNothing) {
+  for (const char* key : {"1", "-1", "+1", "- - 7", "-(2), 3", "1 + 0", "'x'", "null"})
+    EXPECT_THAT(rows(std::string("select count(*) from emp group by ") + key), ElementsAre("14")) << key;
+  EXPECT_THAT(rows("select g, count(*) from readings group by grouping sets (g, -1) order by g"),
+              ElementsAre("a|3", "b|2", "-|5"));
+  EXPECT_THAT(rows("select id from (select id from readings order by id) order by -1"),
+              ElementsAre("1", "2", "3", "4", "5"));
+}
+
+// ORA-01791 in Oracle's error help: the items of ORDER BY beside DISTINCT are constants, expressions of the
+// select list, or expressions whose operands are such.
+TEST_F(QueryShape, distinctRowsSortByWhatIsComputedFromThem) {
+  EXPECT_THAT(rows("select distinct deptno from emp order by -deptno"), ElementsAre("30", "20", "10"));
+  EXPECT_THAT(rows("select distinct deptno / 10 as d, job from emp where job <> 'CLERK' order by 5 - d, "
+                   "length(job), 'x', job"),
+              ElementsAre("3|MANAGER", "3|SALESMAN", "2|ANALYST", "2|MANAGER", "1|MANAGER", "1|PRESIDENT"));
+  EXPECT_THAT(rows("select distinct count(*) from emp group by deptno order by 10 / count(*)"),
+              ElementsAre("6", "5", "3"));
+  for (const char* order : {"sal", "deptno + sal", "count(*) over ()", "rownum", "(select 1 from dual)"})
+    EXPECT_THAT(failure(std::string("select distinct deptno from emp order by ") + order),
+                HasSubstr("ORA-01791"));
+}
+
+TEST_F(QueryShape, rowEqualsTheOnlyRowOfAQuery) {
+  EXPECT_THAT(rows("select ename from emp where (deptno, sal) = (select 10, max(sal) from emp)"),
+              ElementsAre("KING"));
+  EXPECT_THAT(
+      rows("select id from readings r where (v, g) = (select max(x.v), r.g from readings x where x.g = r.g) "
+           "order by id"),
+      ElementsAre("2", "5"));
+  EXPECT_THAT(rows("select id from readings where (id, v) <> (select 2, 10 from dual) order by id"),
+              ElementsAre("1", "3", "4", "5"));
+  EXPECT_THAT(rows("select id from readings where (id, v) <> (select 3, 10 from dual) order by id"),
+              ElementsAre("1", "2", "4", "5"));
+  EXPECT_THAT(rows("select id from readings where (id, v) <> (select 3, 10 from dual where 1 = 0)"),
+              IsEmpty());
+  EXPECT_THAT(failure("select id from readings where (id, v) = (select id, v from readings)"),
+              HasSubstr("ORA-01427"));
+  EXPECT_THAT(failure("select id from readings where (id, v) = (select 1, 2, 3 from dual)"),
+              HasSubstr("ORA-00913"));
+}
+
+// Oracle tells the two kinds of merged columns apart (ORA-25154 and ORA-25155).
+TEST_F(QueryShape, mergedColumnHasNoQualifier) {
+  EXPECT_THAT(failure("select e.deptno from emp e join emp f using (deptno)"),
+              HasSubstr("ORA-25154: column part of USING clause cannot have qualifier"));
+  EXPECT_THAT(failure("select r.id from readings r natural join (select id from readings) x"),
+              HasSubstr("ORA-25155: column used in NATURAL join cannot have qualifier"));
+}
+
 // ---- sizes ----
 
 TEST_F(QueryShape, longChainsOfOneOperatorRun) {

@@ -86,7 +86,9 @@ QueryText assembleList(Emitter& emitter, const sql::SelectBlock& block, const st
 
 std::string groupByText(const std::vector<std::string>& keys) {
   std::string list;
-  for (const std::string& key : keys) list += (list.empty() ? "" : ", ") + key;
+  for (const std::string& key : keys)
+    // A constant groups nothing in Oracle; SQLite would take a whole number for the place of a column.
+    if (!isPlainNumber(key)) list += (list.empty() ? "" : ", ") + key;
   return " GROUP BY " + (list.empty() ? "''||''" : list);
 }
 
@@ -98,7 +100,6 @@ QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const s
   QueryText result = assembleList(emitter, block, from + anchor, where);
   std::vector<std::string> keys;
   for (const sql::Expr* key : block.groupBy)
-    // A constant groups nothing in Oracle; SQLite would take a whole number for the place of a column.
     if (!isLiteral(*key)) keys.push_back(emitter.expression(*key).text);
   if (!block.groupBy.empty()) result.text += groupByText(keys);
   if (block.having) result.text += " HAVING " + emitter.condition(*block.having);

@@ -133,9 +133,10 @@ std::string compared(Emitter& emitter, CompareOp op, const Piece& left, const Pi
 std::string lowerCompare(Emitter& emitter, const sql::Compare& compare) {
   if (compare.quantifier != sql::Quantifier::None) return quantified(emitter, compare);
   const auto left = rowOf(emitter, *compare.left);
+  const auto* subquery = sql::as<sql::SubqueryExpr>(compare.right);
+  if (subquery && left.size() > 1)
+    return lowerRowAgainstQuery(emitter, left, compare.op == CompareOp::NotEqual, *subquery);
   const auto right = rowOf(emitter, *compare.right);
-  if (left.size() != right.size())
-    throw sql::SqlError::unsupported("a row against a subquery", compare.place);
   if (left.size() == 1) return "(" + compared(emitter, compare.op, left[0], right[0], compare.place) + ")";
   std::string equal = equalRows(emitter, left, right, compare.place);
   if (compare.op == CompareOp::Equal) return equal;

@@ -11,6 +11,10 @@ constexpr std::size_t kMaxKeysOfAggregate = 60;
 
 }  // namespace
 
+bool isPlainNumber(const std::string& text) {
+  return text.find_first_not_of("0123456789+-() ") == std::string::npos;
+}
+
 std::string sortKey(const Piece& piece) {
   // A quotient sorts as its dividend does.
   if (!piece.quotient.dividend.empty()) return piece.quotient.dividend;
@@ -40,7 +44,7 @@ std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,
     const Piece piece =
         isOutput ? outputs->at(static_cast<std::size_t>(item.output)) : emitter.expression(*item.expr);
     // A constant sorts nothing, and SQLite would take it for the place of a column.
-    if (piece.text.find_first_not_of("0123456789+-() ") == std::string::npos) continue;
+    if (isPlainNumber(piece.text)) continue;
     const std::string key = sortKey(piece);
     text += (text.empty() ? " ORDER BY " : ", ") + key + (item.descending ? " DESC" : "") +
             (item.nullsFirst() ? " NULLS FIRST" : " NULLS LAST");

@@ -76,6 +76,9 @@ Piece lowerOwnAggregate(Emitter& emitter, const sql::Call& call);
 /// ordering: NULL sorts as the greatest value; a NUMBER that may be broken sorts by its key.
 std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,
                        const std::vector<Piece>* outputs);
+/// Whether the text is a whole number, signs and brackets included, that SQLite could take for the place of a
+/// column.
+bool isPlainNumber(const std::string& text);
 /// What SQLite sorts, groups extremes and compares `piece` by.
 std::string sortKey(const Piece& piece);
 /// The order as further arguments of an aggregate (", key, how, ..."); `backwards` from its end.
@@ -157,5 +160,8 @@ std::string lowerQuantifiedQuery(Emitter& emitter, const sql::Compare& compare,
                                  const std::vector<Piece>& operand);
 std::string lowerInQuery(Emitter& emitter, const std::vector<Piece>& operand, bool negated,
                          const sql::Query& query, sql::Place place);
+/// (a, b) = or <> the only row of a query, unknown without one.
+std::string lowerRowAgainstQuery(Emitter& emitter, const std::vector<Piece>& row, bool negated,
+                                 const sql::SubqueryExpr& subquery);
 
 }  // namespace kestrelix::embedded

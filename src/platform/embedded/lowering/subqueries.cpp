@@ -19,6 +19,42 @@ Piece memberOf(const SourceColumn& column) {
   return member;
 }
 
+/// Both sides of a comparison with the columns of a query.
+struct Members {
+  std::vector<std::string> values;
+  std::vector<std::string> columns;
+  bool converts = false;  ///< a column does not stand as it is
+};
+
+Members membersOf(Emitter& emitter, const std::vector<Piece>& operand, const QueryText& query,
+                  sql::Place place) {
+  Members members;
+  for (std::size_t i = 0; i < operand.size(); ++i) {
+    const Piece item = memberOf(query.columns.at(i));
+    const auto comparison = sql::comparisonOf(sql::Type{operand[i].kind}, sql::Type{item.kind});
+    sql::TypeKind target = sql::TypeKind::Varchar2;
+    if (comparison == sql::Comparison::Number) target = sql::TypeKind::Number;
+    if (comparison == sql::Comparison::Date) target = sql::TypeKind::Date;
+    if (comparison == sql::Comparison::Raw) target = sql::TypeKind::Raw;
+    std::string value = emitter.converted(operand[i], target, place).text;
+    std::string member = emitter.converted(item, target, place).text;
+    if (comparison == sql::Comparison::PaddedText) {
+      value = "rtrim(" + value + ", ' ')";
+      member = "rtrim(" + member + ", ' ')";
+    }
+    members.converts = members.converts || member != item.text;
+    members.values.push_back(std::move(value));
+    members.columns.push_back(std::move(member));
+  }
+  return members;
+}
+
+std::string listed(const std::vector<std::string>& texts) {
+  std::string list;
+  for (const auto& text : texts) list += (list.empty() ? "" : ", ") + text;
+  return list;
+}
+
 }  // namespace
 
 Piece lowerScalarSubquery(Emitter& emitter, const sql::SubqueryExpr& subquery) {
@@ -61,29 +97,20 @@ std::string lowerQuantifiedQuery(Emitter& emitter, const sql::Compare& compare,
 std::string lowerInQuery(Emitter& emitter, const std::vector<Piece>& operand, bool negated,
                          const sql::Query& query, sql::Place place) {
   const QueryText text = emitter.query(query);
-  std::string left;
-  std::string list;
-  bool converts = false;
-  for (std::size_t i = 0; i < operand.size(); ++i) {
-    const Piece item = memberOf(text.columns.at(i));
-    const auto comparison = sql::comparisonOf(sql::Type{operand[i].kind}, sql::Type{item.kind});
-    sql::TypeKind target = sql::TypeKind::Varchar2;
-    if (comparison == sql::Comparison::Number) target = sql::TypeKind::Number;
-    if (comparison == sql::Comparison::Date) target = sql::TypeKind::Date;
-    if (comparison == sql::Comparison::Raw) target = sql::TypeKind::Raw;
-    std::string value = emitter.converted(operand[i], target, place).text;
-    std::string member = emitter.converted(item, target, place).text;
-    if (comparison == sql::Comparison::PaddedText) {
-      value = "rtrim(" + value + ", ' ')";
-      member = "rtrim(" + member + ", ' ')";
-    }
-    converts = converts || member != item.text;
-    left += (left.empty() ? "" : ", ") + value;
-    list += (list.empty() ? "" : ", ") + member;
-  }
-  return "((" + left + (negated ? ") NOT IN (" : ") IN (") +
-         (converts || !query.orderBy.empty() ? "SELECT " + list + " FROM (" + text.text + ")" : text.text) +
-         "))";
+  const Members members = membersOf(emitter, operand, text, place);
+  const bool plain = !members.converts && query.orderBy.empty();
+  return "((" + listed(members.values) + (negated ? ") NOT IN (" : ") IN (") +
+         (plain ? text.text : "SELECT " + listed(members.columns) + " FROM (" + text.text + ")") + "))";
+}
+
+std::string lowerRowAgainstQuery(Emitter& emitter, const std::vector<Piece>& row, bool negated,
+                                 const sql::SubqueryExpr& subquery) {
+  const QueryText text = emitter.query(*subquery.query);
+  Members members = membersOf(emitter, row, text, subquery.place);
+  const std::string place = ", " + std::to_string(subquery.place.offset) + ")";
+  for (auto& column : members.columns) column = "only_row(" + column + place;
+  return "((" + listed(members.values) + (negated ? ") <> (" : ") = (") + "SELECT " +
+         listed(members.columns) + " FROM (" + text.text + ")))";
 }
 
 }  // namespace kestrelix::embedded
