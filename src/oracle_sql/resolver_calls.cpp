@@ -101,9 +101,11 @@ Type Resolver::setFunction(Call& c, const SetFunction& f, const Env& env) {
     fail(30484, "missing window specification for this function", c.place);
   }
   if (c.keep && !f.keeps) fail(923, "FROM keyword not found where expected", c.place);
-  if (!c.withinGroup.empty() && f.result != SetResult::Text)
+  if (!c.withinGroup.empty() && !f.sortsWithinGroup())
     fail(30495, "WITHIN GROUP is not allowed here", c.place);
-  if (f.result == SetResult::Text && c.withinGroup.empty()) fail(2000, "missing WITHIN keyword", c.place);
+  if (f.sortsWithinGroup() && c.withinGroup.empty()) fail(2000, "missing WITHIN keyword", c.place);
+  if (c.withinGroup.size() > 1 && f.result != SetResult::Text)
+    throw SqlError::unsupported(std::string(c.name) + " by several keys", c.withinGroup[1].place);
   const bool picksRow = f.name == "LAG" || f.name == "LEAD" || f.name == "FIRST_VALUE" ||
                         f.name == "LAST_VALUE" || f.name == "NTH_VALUE";
   if (c.nulls != NullTreatment::Default && !picksRow) fail(907, "missing right parenthesis", c.place);
@@ -155,10 +157,11 @@ bool followsFrom(const Expr& e, const ExprList& keys) {
 
 }  // namespace
 
-// What must be one value for all rows of a group or partition: the separator of LISTAGG, the count of NTILE.
+// What must be one value for all rows of a group or partition: the separator of LISTAGG, the count of NTILE,
+// the share of a percentile.
 void Resolver::checkConstancy(const Call& c, const Env& env) const {
   const Expr* fixed = nullptr;
-  if (c.name == "NTILE") fixed = c.args[0];
+  if (c.name == "NTILE" || c.name == "PERCENTILE_CONT" || c.name == "PERCENTILE_DISC") fixed = c.args[0];
   if (c.name == "LISTAGG" && c.args.size() > 1) fixed = c.args[1];
   const SelectBlock* b = env.scope->block;
   if (!fixed || !b || followsFrom(*fixed, c.over ? c.over->partitionBy : b->groupBy)) return;
@@ -170,8 +173,8 @@ void Resolver::window(Call& c, const SetFunction& f, const Env& inside) {
   Window& w = *c.over;
   if (f.needsOrder && w.orderBy.empty())
     fail(30485, "missing ORDER BY expression in the window specification", c.place);
-  const bool noOrder = c.distinct || c.keep || f.name == "RATIO_TO_REPORT" || f.result == SetResult::Text ||
-                       f.name == "MEDIAN";
+  const bool noOrder =
+      c.distinct || c.keep || f.name == "RATIO_TO_REPORT" || f.sortsWithinGroup() || f.name == "MEDIAN";
   if (noOrder && !w.orderBy.empty()) fail(30487, "ORDER BY not allowed here", w.orderBy.front().place);
   if (f.needsOrder && w.unit != FrameUnit::None) fail(907, "missing right parenthesis", c.place);
   for (Expr* p : w.partitionBy) value(*p, inside);
@@ -185,21 +188,27 @@ void Resolver::window(Call& c, const SetFunction& f, const Env& inside) {
 }
 
 Type Resolver::setFunctionType(const Call& c, const SetFunction& f) const {
-  const Type first = c.args.empty() ? Type{TypeKind::Null} : c.args.front()->type;
-  const bool noNumber = first.kind == TypeKind::Date || first.kind == TypeKind::Raw;
+  const bool ofOrder = f.result == SetResult::LikeOrder || f.result == SetResult::NumberOrDateOfOrder;
+  const Expr* deciding = ofOrder ? c.withinGroup.front().expr : c.args.empty() ? nullptr : c.args.front();
+  const Type first = deciding ? deciding->type : Type{TypeKind::Null};
+  const auto refuse = [](Type got, Place place) {
+    fail(932, std::string("inconsistent datatypes: expected NUMBER got ") + typeName(got.kind), place);
+  };
+  const auto noNumber = [](Type type) { return type.kind == TypeKind::Date || type.kind == TypeKind::Raw; };
+  if (ofOrder && noNumber(c.args.front()->type)) refuse(c.args.front()->type, c.args.front()->place);
   switch (f.result) {
     case SetResult::Whole:
       return {TypeKind::Number, true};
     case SetResult::Text:
       return {TypeKind::Varchar2};
     case SetResult::NumberOrDate:
+    case SetResult::NumberOrDateOfOrder:
       if (first.kind == TypeKind::Date) return first;
       [[fallthrough]];
     case SetResult::Number:
-      if (noNumber)
-        fail(932, std::string("inconsistent datatypes: expected NUMBER got ") + typeName(first.kind),
-             c.args.front()->place);
+      if (noNumber(first)) refuse(first, deciding->place);
       return {TypeKind::Number};
+    case SetResult::LikeOrder:
     case SetResult::LikeArgument:
       break;
   }

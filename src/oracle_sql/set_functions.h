@@ -9,7 +9,16 @@
 namespace oracle_sql {
 
 /// How the type of the result follows from that of the first argument.
-enum class SetResult : std::uint8_t { Number, Whole, LikeArgument, NumberOrDate, Text };
+/// LikeOrder and NumberOrDateOfOrder: from that of what WITHIN GROUP sorts by.
+enum class SetResult : std::uint8_t {
+  Number,
+  Whole,
+  LikeArgument,
+  NumberOrDate,
+  Text,
+  LikeOrder,
+  NumberOrDateOfOrder
+};
 
 struct SetFunction {
   std::string_view name;
@@ -20,6 +29,11 @@ struct SetFunction {
   bool needsOrder;  ///< OVER must have ORDER BY
   bool keeps;       ///< may have KEEP (DENSE_RANK ...), and DISTINCT
   SetResult result;
+
+  bool sortsWithinGroup() const {
+    return result == SetResult::Text || result == SetResult::LikeOrder ||
+           result == SetResult::NumberOrDateOfOrder;
+  }
 };
 
 /// The function of that upper-case name, or null.

@@ -55,6 +55,7 @@ void registerTextFunctions(sqlite3* connection, Evaluation& evaluation);
 void registerDateFunctions(sqlite3* connection, Evaluation& evaluation);
 void registerAggregates(sqlite3* connection, Evaluation& evaluation);
 void registerKeptValues(sqlite3* connection, Evaluation& evaluation);
+void registerPercentiles(sqlite3* connection, Evaluation& evaluation);
 void registerKeepAggregates(sqlite3* connection, Evaluation& evaluation);
 
 }  // namespace kestrelix::embedded

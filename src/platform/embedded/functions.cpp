@@ -110,6 +110,7 @@ void registerFunctions(sqlite3* connection, Evaluation& evaluation) {
   registerDateFunctions(connection, evaluation);
   registerAggregates(connection, evaluation);
   registerKeptValues(connection, evaluation);
+  registerPercentiles(connection, evaluation);
   registerKeepAggregates(connection, evaluation);
   checkRegistration(sqlite3_create_function_v2(connection, "rownum_to_try", 2, kStateful, &evaluation,
                                                rownumToTry, nullptr, nullptr, nullptr),

@@ -2,10 +2,8 @@
 #include <algorithm>
 #include <deque>
 #include <string>
-#include <type_traits>
 #include <vector>
 
-#include "oracle_sql/date.h"
 #include "platform/embedded/sort_keys.h"
 #include "platform/embedded/storage.h"
 
@@ -32,31 +30,6 @@ struct KnownValues {
   void give(sqlite3_context* context) const {
     if (which > values.size()) return;
     sqlite3_result_value(context, values[Last ? values.size() - which : which - 1].get());
-  }
-};
-
-/// MEDIAN: the middle one, or what lies halfway between the two in the middle.
-template <class Value>
-struct Median : WholePartition {
-  std::vector<Value> sorted;
-
-  void take(int, Values arguments) {
-    if (isNull(arguments[0])) return;
-    if constexpr (std::is_same_v<Value, values::Date>)
-      sorted.push_back({sqlite3_value_int64(arguments[0])});
-    else
-      sorted.push_back(numberOf(arguments[0]));
-  }
-  void give(sqlite3_context* context) {
-    if (sorted.empty()) return;
-    std::sort(sorted.begin(), sorted.end());
-    const std::size_t middle = sorted.size() / 2;
-    if (sorted.size() % 2 == 1) return giveValue(context, sorted[middle]);
-    const Value& low = sorted[middle - 1];
-    if constexpr (std::is_same_v<Value, values::Date>)
-      giveValue(context, low + (sorted[middle] - low) / values::Number(2));
-    else
-      giveValue(context, (low + sorted[middle]) / values::Number(2));
   }
 };
 
@@ -97,8 +70,6 @@ void registerKeptValues(sqlite3* connection, Evaluation& evaluation) {
     addMoving<KnownValues<false>>(connection, "first_known", count, evaluation);
     addMoving<KnownValues<true>>(connection, "last_known", count, evaluation);
   }
-  addMoving<Median<values::Number>>(connection, "num_median", 1, evaluation);
-  addMoving<Median<values::Date>>(connection, "date_median", 1, evaluation);
   addMoving<TextList>(connection, "listagg", -1, evaluation);
 }
 

@@ -24,7 +24,7 @@ constexpr NumberAggregate kNumberAggregates[] = {
     {"VARIANCE", "num_variance"},
     {"VAR_SAMP", "num_var_samp"},
     {"VAR_POP", "num_var_pop"},
-    {"MEDIAN", "num_median"},
+
     {"STDDEV_POP", "num_stddev_pop"},
     {"STDDEV_SAMP", "num_stddev_samp"},
 };
@@ -45,6 +45,7 @@ Piece listAggregate(Emitter& emitter, const sql::Call& call, const std::vector<P
 }  // namespace
 
 Piece lowerAggregate(Emitter& emitter, const sql::Call& call) {
+  if (isPercentile(call)) return lowerPercentile(emitter, call);
   std::vector<Piece> arguments;
   for (const sql::Expr* argument : call.args) arguments.push_back(emitter.expression(*argument));
   if (call.keep || (call.distinct && call.over)) return lowerKeep(emitter, call, arguments);
@@ -67,10 +68,6 @@ Piece lowerAggregate(Emitter& emitter, const sql::Call& call) {
     return result;
   }
   if (call.name == "LISTAGG") return listAggregate(emitter, call, arguments);
-  if (call.name == "MEDIAN" && call.type.kind == TypeKind::Date) {
-    result.text = "date_median(" + arguments.at(0).text + ")";
-    return result;
-  }
   for (const auto& aggregate : kNumberAggregates) {
     if (aggregate.name != call.name) continue;
     const Piece argument = emitter.converted(arguments.at(0), TypeKind::Number, call.args.front()->place);

@@ -140,6 +140,9 @@ Piece lowerCall(Emitter& emitter, const sql::Call& call);
 Piece lowerAggregate(Emitter& emitter, const sql::Call& call);
 /// keep: the aggregate over the rows that are first or last in an order.
 Piece lowerKeep(Emitter& emitter, const sql::Call& call, const std::vector<Piece>& arguments);
+/// percentiles: MEDIAN and the percentiles.
+bool isPercentile(const sql::Call& call);
+Piece lowerPercentile(Emitter& emitter, const sql::Call& call);
 /// windows: ranks, and aggregates over a frame.
 Piece lowerWindow(Emitter& emitter, const sql::Call& call);
 /// other_rows: LAG and its like.
