@@ -1,4 +1,5 @@
-// What the Sections on activity, I/O and memory show when their statements fail: here, for want of a table.
+// What the Sections on activity, I/O, memory and contention show when their statements fail: here, for want
+// of a table.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -49,7 +50,7 @@ TEST_P(FailedFetch, leavesTheFormerViewAndShowsTheBoxOfItsGetter) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    ActivityAndMemory, FailedFetch,
+    ActivityMemoryAndContention, FailedFetch,
     testing::Values(
         Failing{"Instance Activity Stats[3]", "clsInstanceActivityStats", "getMAIN3_ALL", "getMAIN3_COL",
                 "stats$thread"},
@@ -97,7 +98,20 @@ INSTANTIATE_TEST_SUITE_P(
         Failing{"SQL Memory Statistics", "clsSQLMemoryStatistics", "getAVG_CURSOR_SIZE_KB",
                 "getAVG_CURSOR_SIZE_KB", "stats$sql_statistics"},
         Failing{"Cache Size Changes", "clsCacheSizeChanges", "getCACHE_SIZE_CHANGES_ALL",
-                "getCACHE_SIZE_CHANGES_COL", "stats$parameter"}));
+                "getCACHE_SIZE_CHANGES_COL", "stats$parameter"},
+        Failing{"Latch Activity", "clsLatchActivity", "getLATCH_ACTIVITY_ALL", "getLATCH_ACTIVITY_COL",
+                "stats$latch"},
+        Failing{"Latch Sleep Breakdown", "clsLatchSleepBreakdown", "getLATCH_SLEEP_BREAKDOWN_ALL",
+                "getLATCH_SLEEP_BREAKDOWN_COL", "stats$latch"},
+        Failing{"Latch Miss Sources", "clsLatchMissSources", "getLATCH_MISS_SOURCES_ALL",
+                "getLATCH_MISS_SOURCES_COL", "stats$latch_misses_summary"},
+        Failing{"Mutex Sleep", "clsMutexSleep", "getMUTEX_SLEEP_ALL", "getMUTEX_SLEEP_COL",
+                "stats$mutex_sleep"},
+        // The box spells this class with a capital A.
+        Failing{"Enqueue Activity", "clsEnqueueActivity", "getENQUEUE_ACTIVITY_ALL",
+                "getENQUEUE_ACTIVITY_COL", "stats$enqueue_statistics"},
+        Failing{"Undo Segment Summary", "clsUndoSegmentSummary", "getUNDO_SEGMENT_SUMMARY_ALL",
+                "getUNDO_SEGMENT_SUMMARY_COL", "stats$undostat"}));
 
 /// Here a text in the key column, which the Col views bind as a number, would be a failure of the binding.
 class FailedFetchByNumber : public FailedFetch {};
@@ -118,7 +132,7 @@ TEST_P(FailedFetchByNumber, showsTheBoxOfItsGetterOrOfTheBinding) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Memory, FailedFetchByNumber,
+    MemoryAndContention, FailedFetchByNumber,
     testing::Values(Failing{"Memory Target Advice", "clsMemoryTargetAdvice", "getMEMORY_TARGET_ADVICE_ALL",
                             "getMEMORY_TARGET_ADVICE_COL", "stats$memory_target_advice"},
                     Failing{"PGA Memory Advisory", "clsPGAMemoryAdvisory", "getPGA_MEMORY_ADVISORY_ALL",
@@ -128,7 +142,13 @@ INSTANTIATE_TEST_SUITE_P(
                     Failing{"Java Pool Advisory", "clsJavaPoolAdvisory", "getJAVA_POOL_ADVISORY_ALL",
                             "getJAVA_POOL_ADVISORY_COL", "stats$java_pool_advice"},
                     Failing{"SGA Target Advisory", "clsSGATargetAdvisory", "getSGA_TARGET_ADVISORY_ALL",
-                            "getSGA_TARGET_ADVISORY_COL", "stats$sga_target_advice"}));
+                            "getSGA_TARGET_ADVISORY_COL", "stats$sga_target_advice"},
+                    Failing{"Rollback Segment Stats", "clsRollbackSegmentStats",
+                            "getROLLBACK_SEGMENT_STATS_ALL", "getROLLBACK_SEGMENT_STATS_COL",
+                            "stats$rollstat"},
+                    Failing{"Rollback Segment Storage", "clsRollbackSegmentStorage",
+                            "getROLLBACK_SEGMENT_STORAGE_ALL", "getROLLBACK_SEGMENT_STORAGE_COL",
+                            "stats$rollstat"}));
 
 TEST(FailedFetchOfProcesses, showsTheBoxOfTheGetterOfEitherView) {
   InstanceRepository repository("10");
@@ -145,6 +165,16 @@ TEST(FailedFetchOfProcesses, showsTheBoxOfTheGetterOfEitherView) {
               ElementsAre("[Critical] (clsTopProcessMemory){getTOP_PROCESS_MEMORY_ALL} Error",
                           "[Critical] (clsTopProcessMemory){getTOP_PROCESS_MEMORY_COL} Error",
                           "[Critical] (clsTopProcessMemory){getTOP_PROCESS_MEMORY_COL} Error"));
+}
+
+TEST(FailedFetchOfUndoIntervals, showsTheBoxOfTheGetter) {
+  InstanceRepository repository("11");
+  repository.without("stats$undostat");
+  OpenReport report(repository);
+  report.grid().TextMatrix(0, 0, "former");
+  EXPECT_EQ(report.all("Undo Segment Stats", 0).substr(0, 6), "former");
+  EXPECT_THAT(report.boxes(),
+              ElementsAre("[Critical] (clsUndoSegmentStats){getUNDO_SEGMENT_STATS_ALL} Error"));
 }
 
 TEST(FailedFetchOfLevels, aMissingValueShowsTheBoxOfTheGetter) {
