@@ -3,6 +3,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <initializer_list>
 #include <map>
@@ -134,11 +135,13 @@ class FixtureRepository {
     std::vector<Row> neighbours;
     const auto told = rows_.find(table.name);
     if (told == rows_.end() || table.name == "stats$database_instance") return neighbours;
+    const bool keyed = std::any_of(table.columns.begin(), table.columns.end(),
+                                   [](const statspack::Column& column) { return column.keyPlace > 0; });
     const std::pair<std::string_view, const char*> elsewhere[] = {
         {"dbid", "0"}, {"instance_number", "0"}, {"snap_id", "0"}};
     for (const auto& [key, place] : elsewhere) {
       const statspack::Column* kept = table.column(key);
-      if (kept == nullptr || kept->keyPlace == 0) continue;
+      if (kept == nullptr || (keyed && kept->keyPlace == 0)) continue;
       if (key == "snap_id" && (table.name == "stats$snapshot" || table.name == "stats$undostat" ||
                                table.name == "stats$memory_resize_ops"))
         continue;
@@ -154,8 +157,8 @@ class FixtureRepository {
   /// Another value for what is neither a key of the table nor of another one. The figures of stats$parameter
   /// are texts.
   static std::string otherFigure(const statspack::Column& column, const std::string& value) {
-    const bool isKey =
-        column.keyPlace > 0 || column.name.ends_with("_id") || column.name.ends_with("hash_value");
+    const bool isKey = column.keyPlace > 0 || column.name == "dbid" || column.name == "instance_number" ||
+                       column.name.ends_with("_id") || column.name.ends_with("hash_value");
     if (column.type == statspack::Type::Date && !isKey && !value.empty()) return "1999" + value.substr(4);
     return column.name == "value" || (column.type == statspack::Type::Number && !isKey) ? value + "7" : value;
   }
