@@ -12,15 +12,15 @@ using testing::IsEmpty;
 TEST(PgaMemoryAdvisory, estimatesShowBySizeInMegabytes) {
   for (const char* major : {"9", "10", "11"}) {
     InstanceRepository repository(major);
-    // 200 MB, and 100 MB with 15 MB processed, 2.25 MB extra and 87.55 % from the cache. The time of the
-    // end snapshot alone counts.
+    // 200 MB, and 100.5 MB with a trace more than 15.55 MB processed, 2.25 MB extra and 87.55 % from the
+    // cache. The time of the end snapshot alone counts.
     repository.rows("stats$pga_target_advice",
                     {"snap_id", "pga_target_for_estimate", "pga_target_factor", "bytes_processed",
                      "estd_extra_bytes_rw", "estd_pga_cache_hit_percentage", "estd_overalloc_count"},
                     {{"1", "52428800", ".25", "1", "1", "1", "1"},
                      {"2", "209715200", "1", "15728640", "0", "100", "0"},
-                     {"2", "104857600", ".5", "15728640", "2359296", "87.55", "3"},
-                     {"4", "104857600", ".5", "1572864", "0", "99", "0"},
+                     {"2", "105381888", ".46", "16305357", "2359296", "87.55", "3"},
+                     {"4", "105381888", ".46", "1572864", "0", "99", "0"},
                      {"4", "209715200", "2", "1", "1", "1", "1"}});
     OpenReport report(repository);
     const std::string headings =
@@ -28,14 +28,14 @@ TEST(PgaMemoryAdvisory, estimatesShowBySizeInMegabytes) {
         "ESTD PGA CACHE HIT%|ESTD PGA OVERALLOCK COUNT\n";
     EXPECT_EQ(report.all("PGA Memory Advisory", 1), headings);
     EXPECT_EQ(report.all("PGA Memory Advisory", 0), headings +
-                                                        "1|100|0.5|15|2.3|87.6|3\n"
+                                                        "1|101|0.5|15.6|2.3|87.6|3\n"
                                                         "2|200|1|15|0|100|0\n");
     EXPECT_EQ(report.col(1),
               "NO|PGA TARGET EST(MB)|SIZE FACTR|END TIME|W/A MB PROCESSED|"
               "ESTD EXTRA W/A MB READ/WRITTEN TO DISK|ESTD PGA CACHE HIT%|ESTD PGA OVERALLOCK COUNT|STATUS\n"
-              "1|100|0.5|2026-01-05 11:00:00|15|2.3|87.6|3|OK\n"
+              "1|101|0.5|2026-01-05 11:00:00|15.6|2.3|87.6|3|OK\n"
               "2|||2026-01-05 12:00:00|||||DB RESTART\n"
-              "3|100|0.5|2026-01-05 13:30:00|1.5|0|99|0|OK\n");
+              "3|101|0.5|2026-01-05 13:30:00|1.5|0|99|0|OK\n");
     report.all("PGA Memory Advisory", 0);
     report.col(2);
     EXPECT_EQ(report.grid().TextMatrix(1, 1), "200");

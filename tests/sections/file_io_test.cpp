@@ -23,7 +23,7 @@ const char* const kHistogram =
     "NO|TABLESPACE|FILENAME|0 - 2 MS|2 - 4 MS|4 - 8 MS|8 - 16 MS|16 - 32 MS|32+ MS\n";
 
 /// Tablespace USERS has the files /u1, which was there, and /u2, which was added in the pair; TEMP and TEMP2
-/// have the temporary files /t1 and /t2; IDLE has no activity.
+/// have the temporary files /t1 and /t2; IDLE and IDLE_TEMP have no activity.
 class FileRepository : public InstanceRepository {
  public:
   explicit FileRepository(std::string_view major) : InstanceRepository(major), numbered_(major != "9") {
@@ -34,6 +34,8 @@ class FileRepository : public InstanceRepository {
     file("stats$filestatxs", "2", "IDLE", "/i1", "3", {"5", "5", "5", "5", "5", "5"});
     file("stats$tempstatxs", "1", "TEMP", "/t1", "1", {"9", "0", "9", "9", "0", "0"});
     file("stats$tempstatxs", "2", "TEMP", "/t1", "1", {"9", "3600", "9", "9", "0", "0"});
+    file("stats$tempstatxs", "1", "IDLE_TEMP", "/i2", "3", {"5", "5", "5", "5", "5", "5"});
+    file("stats$tempstatxs", "2", "IDLE_TEMP", "/i2", "3", {"5", "5", "5", "5", "5", "5"});
     file("stats$tempstatxs", "1", "TEMP2", "/t2", "2", {"100", "10", "50", "200", "1", "5"});
     file("stats$tempstatxs", "2", "TEMP2", "/t2", "2", {"2800", "1910", "1070", "4401", "4", "7"});
   }
@@ -77,8 +79,8 @@ class FileRepository : public InstanceRepository {
     return *this;
   }
 
-  /// Growth of /u1: 5 in bucket 1, 2 in 2, 5 in 4, 2 in 8, 4 in 16, 1 in 32 and 3 above; of /t1: 1 in 32 and
-  /// none in 64.
+  /// Growth of /u1: 5 in bucket 1, 2 in 2, 5 in 4, 2 in 8, 4 in 16, 1 in 32 and 3 above; of /t1: 4 in
+  /// 2, 1 in 32 and none in 64.
   FileRepository& histograms() {
     bucket("stats$file_histogram", "1", "1", "", "5");
     bucket("stats$file_histogram", "1", "2", "1", "3");
@@ -91,7 +93,8 @@ class FileRepository : public InstanceRepository {
   }
   FileRepository& temporaryHistogram() {
     return bucket("stats$temp_histogram", "1", "32", "1", "2")
-        .bucket("stats$temp_histogram", "1", "64", "5", "5");
+        .bucket("stats$temp_histogram", "1", "64", "5", "5")
+        .bucket("stats$temp_histogram", "1", "2", "", "4");
   }
 
  private:
@@ -112,6 +115,28 @@ TEST(TablespaceIo, filesAreSummedByTablespaceAndABusyOneComesFirst) {
     EXPECT_EQ(report.all("Tablespace IO Stats", 1), kTablespaces);
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
+}
+
+TEST(TablespaceIo, everyFigureIsTheSumOfTheFilesTheNewOnesFromZero) {
+  for (const char* table : {"stats$filestatxs", "stats$tempstatxs"})
+    for (const char* major : {"9", "10", "11"}) {
+      FileRepository repository(major);
+      repository.file(table, "1", "SUM", "/s1", "21", {"100", "10", "50", "200", "1", "5"});
+      repository.file(table, "2", "SUM", "/s1", "21", {"400", "110", "150", "800", "4", "7"});
+      repository.file(table, "2", "SUM", "/s2", "22", {"5100", "5300", "1000", "10000", "3", "4"});
+      OpenReport report(repository);
+      // 5400 reads and writes, 1.5 a second; 1100 / 5400 * 10 = 2.04 ms; 10600 / 5400 = 1.96 blocks; 6 waits
+      // of 10 ms. By file: 100 / 300 * 10 = 3.33 and 1000 / 5100 * 10 = 1.96 ms; 2 / 3 and 4 / 3 * 10 ms a
+      // wait.
+      report.all("Tablespace IO Stats", 0);
+      EXPECT_THAT(report.rowsInAnyOrder().front(), "SUM|5400|2|2|2|5400|2|6|10") << table << major;
+      report.all("File IO Stats", 0);
+      const std::string slowest = std::string(major) == "9" ? "" : " |";
+      EXPECT_THAT(report.rowsInAnyOrder(),
+                  testing::IsSupersetOf({"SUM|/s1|300|0|3.3|" + slowest + "2|100|0|3|6.7",
+                                         "SUM|/s2|5100|1|2|" + slowest + "2|5300|1|3|13.3"}))
+          << table << major;
+    }
 }
 
 TEST(TablespaceIo, aSeriesFollowsOneTablespace) {
@@ -223,7 +248,7 @@ TEST(FileReadHistogram, countsAreOfTheReadsThatCameInByBucket) {
   OpenReport report(repository);
   const std::string view = report.all("File Read Histogram Stats", 0);
   EXPECT_EQ(view.substr(0, view.find('\n') + 1), kHistogram);
-  EXPECT_THAT(report.rowsInAnyOrder(), UnorderedElementsAre("USERS|/u1|7|5|2|4|1|3", "TEMP|/t1|0|0|0|0|1|0"));
+  EXPECT_THAT(report.rowsInAnyOrder(), UnorderedElementsAre("USERS|/u1|7|5|2|4|1|3", "TEMP|/t1|4|0|0|0|1|0"));
   EXPECT_EQ(report.all("File Read Histogram Stats", 1), kHistogram);
   EXPECT_THAT(report.boxes(), IsEmpty());
 }

@@ -22,14 +22,15 @@ class PgaRepository : public InstanceRepository {
     return pgastat(snapshot, "bytes processed", processed)
         .pgastat(snapshot, "extra bytes read/written", extra);
   }
-  /// Bytes allocated and used by automatic and manual work areas; the bound is 40960 KB, the target 170 MB.
+  /// Bytes allocated and used by automatic and manual work areas; the bound is 40960.5 KB, the target
+  /// 170.5 MB.
   PgaRepository& memory(std::string_view snapshot, std::string_view allocated, std::string_view automatic,
                         std::string_view manual) {
     return pgastat(snapshot, "total PGA allocated", allocated)
         .pgastat(snapshot, "total PGA used for auto workareas", automatic)
         .pgastat(snapshot, "total PGA used for manual workareas", manual)
-        .pgastat(snapshot, "global memory bound", "41943040")
-        .pgastat(snapshot, "aggregate PGA auto target", "178257920");
+        .pgastat(snapshot, "global memory bound", "41943552")
+        .pgastat(snapshot, "aggregate PGA auto target", "178782208");
   }
 };
 
@@ -83,11 +84,11 @@ TEST(PgaSizes, bothSnapshotsHaveARowAlsoAcrossARestart) {
         .memory("3", "1625293", "0", "550502");
     OpenReport report(repository);
     EXPECT_EQ(report.all("PGA Aggr Target Stats[2]", 0), std::string("NO|SNAP|") + kSizes +
-                                                             "1|B|200|170|100|15|15|66.7|33.3|40960\n"
-                                                             "2|E|201|170|100|0|0|0|0|40960\n");
+                                                             "1|B|200|171|100|15|15|66.7|33.3|40961\n"
+                                                             "2|E|201|171|100|0|0|0|0|40961\n");
     EXPECT_EQ(report.all("PGA Aggr Target Stats[2]", 1), std::string("NO|SNAP|") + kSizes +
-                                                             "1|B|201|170|100|0|0|0|0|40960\n"
-                                                             "2|E|200|170|1.6|0.5|33.9|0|100|40960\n");
+                                                             "1|B|201|171|100|0|0|0|0|40961\n"
+                                                             "2|E|200|171|1.6|0.5|33.9|0|100|40961\n");
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
 }
@@ -100,14 +101,14 @@ TEST(PgaSizes, beginAndEndRowsLeadToSeriesOfTheirOwn) {
   OpenReport report(repository);
   report.all("PGA Aggr Target Stats[2]", 0);
   EXPECT_EQ(report.col(1), std::string("NO|SNAP|START TIME|") + kSizes +
-                               "1|B|2026-01-05 10:00:00|200|170|100|5|5|100|0|40960\n"
-                               "2|B|2026-01-05 11:00:00|200|170|100|10|10|100|0|40960\n"
-                               "3|B|2026-01-05 12:00:00|200|170|100|5|5|100|0|40960\n");
+                               "1|B|2026-01-05 10:00:00|200|171|100|5|5|100|0|40961\n"
+                               "2|B|2026-01-05 11:00:00|200|171|100|10|10|100|0|40961\n"
+                               "3|B|2026-01-05 12:00:00|200|171|100|5|5|100|0|40961\n");
   report.all("PGA Aggr Target Stats[2]", 0);
   EXPECT_EQ(report.col(2), std::string("NO|SNAP|END TIME|") + kSizes +
-                               "1|E|2026-01-05 11:00:00|200|170|100|10|10|100|0|40960\n"
-                               "2|E|2026-01-05 12:00:00|200|170|100|5|5|100|0|40960\n"
-                               "3|E|2026-01-05 13:30:00|200|170|100|5|5|100|0|40960\n");
+                               "1|E|2026-01-05 11:00:00|200|171|100|10|10|100|0|40961\n"
+                               "2|E|2026-01-05 12:00:00|200|171|100|5|5|100|0|40961\n"
+                               "3|E|2026-01-05 13:30:00|200|171|100|5|5|100|0|40961\n");
 }
 
 TEST(PgaSizes, anInstanceWithoutATargetHasNoRow) {
