@@ -21,4 +21,8 @@ Date parseDate(std::string_view text, std::string_view model, const Context& con
 // Date::fromFields.
 Date dateOfLiteral(std::string_view text);
 
+// The second that TIMESTAMP 'YYYY-MM-DD HH24:MI:SS' writes. Errors as of dateOfLiteral, and ORA-01850 to ORA-01852;
+// fractions of a second and time zones are refused as unsupported.
+Date timestampOfLiteral(std::string_view text);
+
 }  // namespace oracle_sql

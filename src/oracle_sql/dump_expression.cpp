@@ -21,7 +21,8 @@ void Dump::expr(const Expr& e) {
       break;
     }
     case ExprKind::DateLiteral:
-      head(e, "date " + quotedText(static_cast<const DateLiteral&>(e).value));
+      head(e, (static_cast<const DateLiteral&>(e).timestamp ? "timestamp " : "date ") +
+                  quotedText(static_cast<const DateLiteral&>(e).value));
       break;
     case ExprKind::Column:
       column(static_cast<const ColumnRef&>(e));

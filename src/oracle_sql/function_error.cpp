@@ -15,6 +15,8 @@ void raiseArgumentOutOfRange(const std::string& argument) {
   throw FunctionError(1428, "argument '" + argument + "' is out of range");
 }
 
+void raiseEscape() { throw FunctionError(1425, "escape character must be character string of length 1"); }
+
 void raiseInconsistentTypes() { throw FunctionError(932, "inconsistent datatypes"); }
 
 }  // namespace oracle_sql

@@ -25,6 +25,7 @@ class FunctionError : public std::runtime_error {
 [[noreturn]] void raiseDivisionByZero();                                 // ORA-01476
 [[noreturn]] void raiseNumericOverflow();                                // ORA-01426
 [[noreturn]] void raiseArgumentOutOfRange(const std::string& argument);  // ORA-01428; the argument as text
+[[noreturn]] void raiseEscape();                                         // ORA-01425
 [[noreturn]] void raiseInconsistentTypes();                              // ORA-00932
 
 }  // namespace oracle_sql

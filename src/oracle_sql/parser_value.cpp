@@ -136,9 +136,14 @@ Expr* Parser::keywordPrimary(bool& taken) {
       d->value = tree_.copy(stringValue(take()));
       return d;
     }
-    case Keyword::Timestamp:
-      if (now(1).kind == TokenKind::String) unsupported("a TIMESTAMP literal");
-      break;
+    case Keyword::Timestamp: {
+      if (now(1).kind != TokenKind::String) break;
+      take();
+      auto* d = node<DateLiteral>(place);
+      d->timestamp = true;
+      d->value = tree_.copy(stringValue(take()));
+      return d;
+    }
     case Keyword::Interval:
       if (now(1).kind == TokenKind::String) return interval();
       break;

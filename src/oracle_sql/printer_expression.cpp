@@ -70,7 +70,8 @@ void Printer::bare(const Expr& e) {
       break;
     }
     case ExprKind::DateLiteral:
-      out_ += "DATE " + quotedText(static_cast<const DateLiteral&>(e).value);
+      out_ += static_cast<const DateLiteral&>(e).timestamp ? "TIMESTAMP " : "DATE ";
+      out_ += quotedText(static_cast<const DateLiteral&>(e).value);
       break;
     case ExprKind::Column: {
       const auto& c = static_cast<const ColumnRef&>(e);

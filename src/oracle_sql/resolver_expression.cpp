@@ -39,9 +39,30 @@ void checkNumber(std::string_view text, Place place) {
   throw SqlError::wrong(1722, "invalid number", place);
 }
 
+constexpr const char* kLonelyTimestamp = "a TIMESTAMP without a DATE beside it";
+
+bool isTimestamp(const Expr& e) {
+  const auto* literal = as<DateLiteral>(&e);
+  return literal && literal->timestamp;
+}
+
 }  // namespace
 
 Type Resolver::value(Expr& e, const Env& env) { return e.type = resolved(e, env); }
+
+// One side of a comparison, where a TIMESTAMP may stand: against a DATE it is one, to the second.
+Type Resolver::operand(Expr& e, const Env& env) {
+  if (!isTimestamp(e)) return value(e, env);
+  checkDate(static_cast<DateLiteral&>(e));
+  return e.type = {TypeKind::Date};
+}
+
+void Resolver::comparable(const Expr& left, const Expr& right, Place place) const {
+  for (const auto& [a, b] : {std::pair(&left, &right), std::pair(&right, &left)})
+    if (isTimestamp(*a) && b->type.kind != TypeKind::Date)
+      throw SqlError::unsupported(kLonelyTimestamp, a->place);
+  comparable(left.type, right.type, place);
+}
 
 void Resolver::comparable(Type left, Type right, Place place) const {
   if (comparisonOf(left, right) == Comparison::Invalid) inconsistent(left, right, place);
@@ -63,6 +84,7 @@ Type Resolver::resolved(Expr& e, const Env& env) {
       return {TypeKind::Char, false, static_cast<std::uint16_t>(bytes)};
     }
     case ExprKind::DateLiteral:
+      if (isTimestamp(e)) throw SqlError::unsupported(kLonelyTimestamp, e.place);
       checkDate(static_cast<DateLiteral&>(e));
       return {TypeKind::Date};
     case ExprKind::Column:
@@ -106,7 +128,7 @@ Type Resolver::resolved(Expr& e, const Env& env) {
     }
     case ExprKind::Cast: {
       auto& c = static_cast<CastExpr&>(e);
-      const Type from = value(*c.operand, env);
+      const Type from = c.target == TypeKind::Date ? operand(*c.operand, env) : value(*c.operand, env);
       const bool numbers = from.kind == TypeKind::Number || c.target == TypeKind::Number;
       if ((from.kind == TypeKind::Date && (numbers || c.target == TypeKind::Raw)) ||
           (c.target == TypeKind::Date && (numbers || from.kind == TypeKind::Raw)) ||
@@ -197,21 +219,24 @@ void Resolver::condition(Expr& e, const Env& env) {
   switch (e.kind) {
     case ExprKind::Compare: {
       auto& c = static_cast<Compare&>(e);
-      const Type left = value(*c.left, env);
+      c.query ? value(*c.left, env) : operand(*c.left, env);
       if (c.right) {
         const auto* row = as<RowExpr>(c.left);
         if (auto* sub = as<SubqueryExpr>(c.right); row && sub) {
           subqueryAgainst(*c.left, *sub->query, env, c.place);
           return;
         }
-        const Type right = value(*c.right, env);
+        operand(*c.right, env);
         if (row)
           compareRows(*c.left, *c.right);
         else
-          comparable(left, right, c.place);
+          comparable(*c.left, *c.right, c.place);
       }
       checkListLength(c.list);
-      for (Expr* item : c.list) comparable(left, value(*item, env), item->place);
+      for (Expr* item : c.list) {
+        operand(*item, env);
+        comparable(*c.left, *item, item->place);
+      }
       if (c.query) subqueryAgainst(*c.left, *c.query, env, c.place);
       return;
     }
@@ -234,21 +259,23 @@ void Resolver::condition(Expr& e, const Env& env) {
       return;
     case ExprKind::Between: {
       auto& b = static_cast<Between&>(e);
-      const Type t = value(*b.operand, env);
-      comparable(t, value(*b.low, env), b.low->place);
-      comparable(t, value(*b.high, env), b.high->place);
+      operand(*b.operand, env);
+      for (Expr* bound : {b.low, b.high}) {
+        operand(*bound, env);
+        comparable(*b.operand, *bound, bound->place);
+      }
       return;
     }
     case ExprKind::In: {
       auto& in = static_cast<InExpr&>(e);
-      const Type t = value(*in.operand, env);
+      in.query ? value(*in.operand, env) : operand(*in.operand, env);
       if (in.operand->kind != ExprKind::Row) checkListLength(in.list);
       for (Expr* item : in.list) {
-        const Type other = value(*item, env);
+        operand(*item, env);
         if (in.operand->kind == ExprKind::Row)
           compareRows(*in.operand, *item);
         else
-          comparable(t, other, item->place);
+          comparable(*in.operand, *item, item->place);
       }
       if (in.query) subqueryAgainst(*in.operand, *in.query, env, in.place);
       return;
@@ -298,8 +325,9 @@ void Resolver::subquery(Query& q, const Env& env) {
 
 void Resolver::checkDate(const DateLiteral& d) const {
   try {
-    dateOfLiteral(d.value);
+    d.timestamp ? timestampOfLiteral(d.value) : dateOfLiteral(d.value);
   } catch (const FunctionError& e) {
+    if (e.code() == FunctionError::kUnsupported) throw SqlError::unsupported(e.what(), d.place);
     fail(e.code(), e.what(), d.place);
   }
 }

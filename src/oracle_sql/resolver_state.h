@@ -88,6 +88,8 @@ class Resolver {
   Type resolved(Expr& e, const Env& env);
   Type caseType(CaseExpr& c, const Env& env);
   Type arithmeticType(const Arithmetic& a, Type left, Type right) const;
+  Type operand(Expr& e, const Env& env);
+  void comparable(const Expr& left, const Expr& right, Place place) const;
   void comparable(Type left, Type right, Place place) const;
   void compareRows(const Expr& left, const Expr& right) const;
   void subqueryAgainst(const Expr& operand, Query& q, const Env& env, Place place);

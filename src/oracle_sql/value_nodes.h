@@ -24,11 +24,13 @@ struct StringLiteral : Expr {
   std::string_view value;
 };
 
-/// DATE 'YYYY-MM-DD'. The value is checked by the resolver.
+/// DATE 'YYYY-MM-DD'; TIMESTAMP 'YYYY-MM-DD HH24:MI:SS', which only stands where it is compared with a DATE
+/// or cast to one. The value is checked by the resolver.
 struct DateLiteral : Expr {
   static constexpr ExprKind kKind = ExprKind::DateLiteral;
   DateLiteral() : Expr(kKind) {}
   std::string_view value;
+  bool timestamp = false;
 };
 
 /// INTERVAL '1 12:30' DAY TO MINUTE, which only stands beside a DATE.

@@ -463,5 +463,43 @@ TEST_F(OracleSemantics, intervalsMoveDates) {
       testing::ElementsAre("2020-02-28 11:30|2021-02-28"));
 }
 
+TEST_F(OracleSemantics, timestampIsTheSecondOfADateThatItIsComparedWith) {
+  EXPECT_THAT(
+      rows("select to_char(d, 'HH24:MI:SS') from (select date '2020-01-01' + 1/86400 d from dual union all "
+           "select date '2020-01-01' from dual) where d > timestamp '2020-01-01 00:00:00' or timestamp "
+           "'2020-01-02 00:00:00.0' <= d"),
+      testing::ElementsAre("00:00:01"));
+  EXPECT_THAT(
+      rows("select 'x' from dual where date '2020-01-01' in (timestamp '2020-01-01 00:00:00') and date "
+           "'2020-01-01' between timestamp '2019-12-31 23:59:59' and timestamp '2020-01-01 00:00:00'"),
+      testing::ElementsAre("x"));
+  EXPECT_THAT(
+      rows("select cast(timestamp '2020-01-01 10:20:30' as date) - date '2020-01-01' from dual where 1 = 0"),
+      testing::IsEmpty());
+  for (const char* sql :
+       {"select timestamp '2020-01-01 00:00:00' from dual",
+        "select 1 from dual where timestamp '2020-01-01 "
+        "00:00:00' = '01-JAN-20'",
+        "select 1 from dual where timestamp '2020-01-01 00:00:00' in (select 'x' from dual)",
+        "select timestamp '2020-01-01 00:00:00' - sysdate from dual"}) {
+    try {
+      rows(sql);
+      FAIL() << sql;
+    } catch (const DatabaseError& error) {
+      EXPECT_EQ(error.sqlState(), "0A000") << sql;
+      EXPECT_THAT(error.what(), testing::HasSubstr("a TIMESTAMP without a DATE beside it")) << sql;
+    }
+  }
+}
+
+TEST_F(OracleSemantics, emptyEscapeOfLikeIsRefused) {
+  try {
+    rows("select 1 from dual where 'a' like 'a' escape ''");
+    FAIL() << "no character was taken as one";
+  } catch (const DatabaseError& error) {
+    EXPECT_EQ(error.nativeCode(), 1425);
+  }
+}
+
 }  // namespace
 }  // namespace kestrelix::embedded

@@ -180,5 +180,21 @@ TEST(Date, roundingTurnsWhereTheUnitDoes) {
   EXPECT_EQ(" 2020-02-29 14:40:00", rounded("2020-02-29 14:40:29", "MI"));
 }
 
+TEST(Date, timestampLiteralsAreReadToTheSecond) {
+  EXPECT_EQ(" 2020-02-29 13:05:09", text(timestampOfLiteral("2020-02-29 13:05:09")));
+  EXPECT_EQ(" 2020-02-29 13:05:09", text(timestampOfLiteral("2020-2-29 13:5:9.000000")));
+  EXPECT_EQ("-0044-03-15 00:00:00", text(timestampOfLiteral("-0044-03-15 00:00:00")));
+  for (const char* other : {"2020-02-29", "2020-02-29 13", "2020-02-29 13:05", "2020-02-29T13:05:09", ""}) {
+    EXPECT_EQ(1861, errorOf([&] { timestampOfLiteral(other); })) << other;
+  }
+  EXPECT_EQ(1839, errorOf([] { timestampOfLiteral("2021-02-29 00:00:00"); }));
+  EXPECT_EQ(1850, errorOf([] { timestampOfLiteral("2020-02-29 24:00:00"); }));
+  EXPECT_EQ(1851, errorOf([] { timestampOfLiteral("2020-02-29 23:60:00"); }));
+  EXPECT_EQ(1852, errorOf([] { timestampOfLiteral("2020-02-29 23:59:60"); }));
+  // Not known: nothing that is compared here has parts of a second or a time zone.
+  EXPECT_EQ(FunctionError::kUnsupported, errorOf([] { timestampOfLiteral("2020-02-29 13:05:09.5"); }));
+  EXPECT_EQ(FunctionError::kUnsupported, errorOf([] { timestampOfLiteral("2020-02-29 13:05:09 +9:00"); }));
+}
+
 }  // namespace
 }  // namespace oracle_sql

@@ -80,7 +80,7 @@ PatternUnit unitAt(std::string_view pattern, std::size_t at, std::string_view es
 bool like(std::string_view text, std::string_view pattern, std::string_view escape) {
   if (!escape.empty()) {
     if (utf8::length(escape) != 1) {
-      throw FunctionError(1425, "escape character must be character string of length 1");
+      raiseEscape();
     }
     for (std::size_t at = 0; at < pattern.size();) {
       at = unitAt(pattern, at, escape).next;  // a broken escape fails wherever it stands

@@ -15,8 +15,9 @@ std::string_view textOf(sqlite3_value* value) {
 }
 
 void like(sqlite3_context* context, int, Values arguments) {
-  if (anyNull(3, arguments)) return sqlite3_result_null(context);
+  if (anyNull(2, arguments)) return sqlite3_result_null(context);
   try {
+    if (isNull(arguments[2])) values::raiseEscape();  // '' is no character
     sqlite3_result_int(context,
                        values::like(textOf(arguments[0]), textOf(arguments[1]), textOf(arguments[2])));
   } catch (...) {

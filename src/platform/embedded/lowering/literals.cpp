@@ -23,7 +23,9 @@ Piece numberPiece(const sql::NumberLiteral& literal) {
 Piece datePiece(const sql::DateLiteral& literal) {
   Piece piece;
   piece.kind = sql::TypeKind::Date;
-  piece.text = std::to_string(values::dateOfLiteral(literal.value).seconds);
+  const values::Date date =
+      literal.timestamp ? values::timestampOfLiteral(literal.value) : values::dateOfLiteral(literal.value);
+  piece.text = std::to_string(date.seconds);
   piece.atom = true;
   piece.cheap = true;
   piece.present = true;
