@@ -62,12 +62,27 @@ Expr* Parser::notTerm() {
   return node;
 }
 
+// The list of IN, ANY and ALL: values, or rows if the left side is one.
+template <class Node>
+void Parser::valueList(const Expr& left, Node& node) {
+  const bool rows = left.kind == ExprKind::Row;
+  do {
+    Expr* item = additive(rows);
+    if (isCondition(*item)) fail(907, "missing right parenthesis", item->place);
+    if (rows != (item->kind == ExprKind::Row)) fail(920, "invalid relational operator", item->place);
+    node.list.push_back(item);
+    above(node, item);
+  } while (accept(Symbol::Comma));
+}
+
 Expr* Parser::comparison(Expr* left, CompareOp op) {
   const Place place = take().place;
   auto* node = this->node<Compare>(place);
   node->op = op;
   node->left = left;
   above(*node, left);
+  if (left->kind == ExprKind::Row && op != CompareOp::Equal && op != CompareOp::NotEqual)
+    fail(1796, "this operator cannot be used with lists", place);
   const bool any = is(Keyword::Any) || is(Keyword::Some);
   if ((any || is(Keyword::All)) && is(Symbol::LeftParen, 1)) {
     node->quantifier = any ? Quantifier::Any : Quantifier::All;
@@ -77,18 +92,13 @@ Expr* Parser::comparison(Expr* left, CompareOp op) {
       node->query = query();
       heighten(*node, queryHeight_ + 1);
     } else {
-      do {
-        node->list.push_back(value());
-        above(*node, node->list.back());
-      } while (accept(Symbol::Comma));
+      valueList(*left, *node);
     }
     expectRightParen();
     return node;
   }
   node->right = additive(left->kind == ExprKind::Row);
   if (left->kind == ExprKind::Row) {
-    if (op != CompareOp::Equal && op != CompareOp::NotEqual)
-      fail(1796, "this operator cannot be used with lists", place);
     // (a, b) = ((1, 2)) comes as a row already; (a, b) = (select ..) as a subquery.
     if (node->right->kind != ExprKind::Row && node->right->kind != ExprKind::Subquery)
       fail(920, "invalid relational operator", node->right->place);
@@ -176,14 +186,7 @@ Expr* Parser::predicate() {
       node->query = query();
       heighten(*node, queryHeight_ + 1);
     } else {
-      do {
-        Expr* item = additive(left->kind == ExprKind::Row);
-        if (isCondition(*item)) fail(907, "missing right parenthesis", item->place);
-        if ((left->kind == ExprKind::Row) != (item->kind == ExprKind::Row))
-          fail(920, "invalid relational operator", item->place);
-        node->list.push_back(item);
-        above(*node, item);
-      } while (accept(Symbol::Comma));
+      valueList(*left, *node);
     }
     expectRightParen();
     return node;

@@ -56,6 +56,8 @@ class Parser {
   Expr* notTerm();
   Expr* predicate();
   Expr* comparison(Expr* left, CompareOp op);
+  template <class Node>
+  void valueList(const Expr& left, Node& node);
   Expr* additive(bool conditionAllowed);
   Expr* multiplicative(bool conditionAllowed);
   Expr* factor(bool conditionAllowed);

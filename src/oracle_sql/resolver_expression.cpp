@@ -23,12 +23,6 @@ bool isWhole(std::string_view number) {
   return number.find_first_not_of("0123456789") == std::string_view::npos && number.size() <= 18;
 }
 
-void checkListLength(const ExprList& list) {
-  if (list.size() > kMaxListValues)
-    throw SqlError::wrong(1795, "maximum number of expressions in a list is 1000",
-                          list[kMaxListValues]->place);
-}
-
 // ORA-01426 for 1E200.
 void checkNumber(std::string_view text, Place place) {
   try {
@@ -232,11 +226,7 @@ void Resolver::condition(Expr& e, const Env& env) {
         else
           comparable(*c.left, *c.right, c.place);
       }
-      checkListLength(c.list);
-      for (Expr* item : c.list) {
-        operand(*item, env);
-        comparable(*c.left, *item, item->place);
-      }
+      listAgainst(*c.left, c.list, env);
       if (c.query) subqueryAgainst(*c.left, *c.query, env, c.place);
       return;
     }
@@ -269,14 +259,7 @@ void Resolver::condition(Expr& e, const Env& env) {
     case ExprKind::In: {
       auto& in = static_cast<InExpr&>(e);
       in.query ? value(*in.operand, env) : operand(*in.operand, env);
-      if (in.operand->kind != ExprKind::Row) checkListLength(in.list);
-      for (Expr* item : in.list) {
-        operand(*item, env);
-        if (in.operand->kind == ExprKind::Row)
-          compareRows(*in.operand, *item);
-        else
-          comparable(*in.operand, *item, item->place);
-      }
+      listAgainst(*in.operand, in.list, env);
       if (in.query) subqueryAgainst(*in.operand, *in.query, env, in.place);
       return;
     }
@@ -295,6 +278,20 @@ void Resolver::condition(Expr& e, const Env& env) {
       return;
     default:
       throw SqlError::internal("a value where a condition stands", e.place);
+  }
+}
+
+// The list of IN, ANY and ALL. Of rows there may be any number.
+void Resolver::listAgainst(const Expr& left, const ExprList& list, const Env& env) {
+  const bool rows = left.kind == ExprKind::Row;
+  if (!rows && list.size() > kMaxListValues)
+    fail(1795, "maximum number of expressions in a list is 1000", list[kMaxListValues]->place);
+  for (Expr* item : list) {
+    operand(*item, env);
+    if (rows)
+      compareRows(left, *item);
+    else
+      comparable(left, *item, item->place);
   }
 }
 

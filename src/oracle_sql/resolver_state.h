@@ -91,6 +91,7 @@ class Resolver {
   Type operand(Expr& e, const Env& env);
   void comparable(const Expr& left, const Expr& right, Place place) const;
   void comparable(Type left, Type right, Place place) const;
+  void listAgainst(const Expr& left, const ExprList& list, const Env& env);
   void compareRows(const Expr& left, const Expr& right) const;
   void subqueryAgainst(const Expr& operand, Query& q, const Env& env, Place place);
   void subquery(Query& q, const Env& env);

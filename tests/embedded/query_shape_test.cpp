@@ -116,6 +116,19 @@ TEST_F(QueryShape, rowEqualsTheOnlyRowOfAQuery) {
               HasSubstr("ORA-00913"));
 }
 
+TEST_F(QueryShape, rowsCompareWithListsOfRows) {
+  const auto ids = [&](const std::string& condition) {
+    return rows("select id from readings where " + condition + " order by id");
+  };
+  EXPECT_THAT(ids("(id, g) = any ((1, 'a'), (5, 'a'), (4, 'b'))"), ElementsAre("1", "4"));
+  EXPECT_THAT(ids("(id, v) <> all ((1, 0.5), (2, 10), (3, 1))"), ElementsAre("4", "5"));
+  EXPECT_THAT(ids("(g, g) = all (('a', 'a'), ('a', 'a'))"), ElementsAre("1", "2", "3"));
+  EXPECT_THAT(ids("(id, v) <> some ((2, 10), (3, 0.5))"), ElementsAre("1", "2", "3", "4", "5"));
+  EXPECT_THAT(failure("select id from readings where (id, v) < any ((1, 2))"), HasSubstr("ORA-01796"));
+  EXPECT_THAT(failure("select id from readings where (id, v) = any (1, 2)"), HasSubstr("ORA-00920"));
+  EXPECT_THAT(failure("select id from readings where (id, v) = any ((1, 2, 3))"), HasSubstr("ORA-00913"));
+}
+
 // Oracle tells the two kinds of merged columns apart (ORA-25154 and ORA-25155).
 TEST_F(QueryShape, mergedColumnHasNoQualifier) {
   EXPECT_THAT(failure("select e.deptno from emp e join emp f using (deptno)"),

@@ -105,13 +105,23 @@ std::string equalRows(Emitter& emitter, const std::vector<Piece>& left, const st
   return left.size() > 1 ? "(" + text + ")" : text;
 }
 
+/// A value or a row against another one.
+std::string comparedRows(Emitter& emitter, CompareOp op, const std::vector<Piece>& left,
+                         const std::vector<Piece>& right, sql::Place place) {
+  if (left.size() == 1) return compared(emitter, op, left.front(), right.front(), place);
+  std::string equal = equalRows(emitter, left, right, place);
+  if (op == CompareOp::Equal) return equal;
+  if (op == CompareOp::NotEqual) return "(NOT " + equal + ")";
+  throw sql::SqlError::unsupported("an order between rows", place);
+}
+
 std::string quantified(Emitter& emitter, const sql::Compare& compare) {
   const bool any = compare.quantifier == sql::Quantifier::Any;
   if (compare.query) return lowerQuantifiedQuery(emitter, compare, rowOf(emitter, *compare.left));
-  const Piece left = emitter.expression(*compare.left);
+  const auto left = rowOf(emitter, *compare.left);
   std::vector<std::string> terms;
   for (const sql::Expr* item : compare.list)
-    terms.push_back(compared(emitter, compare.op, left, emitter.expression(*item), compare.place));
+    terms.push_back(comparedRows(emitter, compare.op, left, rowOf(emitter, *item), compare.place));
   return "(" + chained(std::move(terms), any ? " OR " : " AND ") + ")";
 }
 
@@ -137,11 +147,8 @@ std::string lowerCompare(Emitter& emitter, const sql::Compare& compare) {
   if (subquery && left.size() > 1)
     return lowerRowAgainstQuery(emitter, left, compare.op == CompareOp::NotEqual, *subquery);
   const auto right = rowOf(emitter, *compare.right);
-  if (left.size() == 1) return "(" + compared(emitter, compare.op, left[0], right[0], compare.place) + ")";
-  std::string equal = equalRows(emitter, left, right, compare.place);
-  if (compare.op == CompareOp::Equal) return equal;
-  if (compare.op == CompareOp::NotEqual) return "(NOT " + equal + ")";
-  throw sql::SqlError::unsupported("an order between rows", compare.place);
+  std::string text = comparedRows(emitter, compare.op, left, right, compare.place);
+  return left.size() == 1 ? "(" + text + ")" : text;
 }
 
 std::string lowerBetween(Emitter& emitter, const sql::Between& between) {
