@@ -39,7 +39,7 @@ enum class RegexOp : std::uint8_t {
   LineEnd,        // $ with m
   BackReference,  // a: the group
   Save,           // a: the slot that takes the position
-  Progress,       // a: the slot that the position must have left
+  Progress,       // goes on at b if the position has not left that of slot a
   Split,          // goes on at a, later at b
   Jump,           // a
   Match

@@ -94,8 +94,9 @@ class Compiler {
       const std::uint32_t split = addWay(node.lazy);
       add({RegexOp::Save, slot});
       append(child);
-      add({RegexOp::Progress, slot});  // a turn that takes nothing would never end
+      const std::uint32_t progress = add({RegexOp::Progress, slot});  // a turn that takes nothing is the last
       add({RegexOp::Jump, split});
+      program[progress].b = end();
       setWayAround(split, node.lazy);
       return;
     }

@@ -72,7 +72,8 @@ class Matcher {
         slots_[i.a] = at_;
         return true;
       case RegexOp::Progress:
-        return slots_[i.a] != at_;
+        where = slots_[i.a] == at_ ? i.b : where;
+        return true;
       case RegexOp::Split:
         stack_.push_back({i.b, false, at_});
         where = i.a;

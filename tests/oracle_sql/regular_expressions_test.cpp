@@ -29,6 +29,9 @@ TEST(RegularExpressions, searchThatWouldNeverEndFails) {
   EXPECT_EQ(12723, callError("REGEXP_LIKE", {Value::text(std::string(40, 'a') + 'b'), s("^(a+)+$")}));
   EXPECT_EQ("1", call("REGEXP_LIKE", {Value::text(std::string(4000, 'a')), s("^(a|aa)+$")}));
   EXPECT_EQ("1", call("REGEXP_LIKE", {s("b"), s("^(a*)*b")}));
+  EXPECT_EQ("0", call("REGEXP_LIKE", {s("c"), s("^(a*|b*)*$")}));
+  EXPECT_EQ("1", call("REGEXP_LIKE", {s("ab"), s("^(a*|b*)*$")}));
+  EXPECT_EQ("[]aab", call("REGEXP_REPLACE", {s("aab"), s("(a{0,1}?)*"), s("[\\1]"), n("1"), n("1")}));
 }
 
 TEST(RegularExpressions, nullIsNoPatternAndNoText) {
