@@ -98,8 +98,11 @@ Type Resolver::groupingFunction(Call& c, const Env& env) {
   c.role = CallRole::Grouping;
   Env inside = env;
   inside.aggregates = inside.windows = false;
-  for (Expr* arg : c.args) {
+  for (Expr*& arg : c.args) {
     value(*arg, inside);
+    // In ORDER BY a name of the select list is what stands there.
+    if (const auto* name = as<ColumnRef>(arg); name && !name->source && name->output >= 0)
+      arg = b->columns[static_cast<std::size_t>(name->output)].expr;
     if (keyOf(*arg, *b) == b->groupBy.size()) fail(979, "not a GROUP BY expression", arg->place);
   }
   return {TypeKind::Number, true};

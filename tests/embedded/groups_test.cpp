@@ -59,6 +59,17 @@ TEST_F(Groups, groupingTellsATotalFromAKeyThatIsNull) {
               ElementsAre("30|9400", "20|10875", "all|29025"));
 }
 
+TEST_F(Groups, groupingInOrderByTakesANameOfTheSelectList) {
+  EXPECT_THAT(
+      rows("select deptno, count(*) from emp group by rollup(deptno) order by grouping(deptno) desc, deptno"),
+      ElementsAre("-|14", "10|3", "20|5", "30|6"));
+  // As told at sqlsnippets.com, topic 13138.
+  EXPECT_THAT(
+      failure("select decode(grouping(deptno), 1, 'all', deptno) deptno from emp group by rollup(deptno) "
+              "order by grouping(deptno)"),
+      HasSubstr("ORA-00979"));
+}
+
 TEST_F(Groups, equalGroupingsComeTwiceAndAreCounted) {
   EXPECT_THAT(rows("select deptno, group_id(), count(*) from emp where deptno < 30 "
                    "group by deptno, rollup(deptno) order by 1, 2"),

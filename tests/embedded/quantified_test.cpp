@@ -7,6 +7,7 @@ namespace kestrelix::embedded {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 class Quantified : public Employees {};
@@ -44,6 +45,20 @@ TEST_F(Quantified, nullLeavesItUnknownUnlessARowDecides) {
   EXPECT_THAT(rows("select count(*) from emp where comm > any (select comm from emp)"), ElementsAre("3"));
   EXPECT_THAT(rows("select count(*) from emp where not comm > any (select comm from emp)"), ElementsAre("0"));
   EXPECT_THAT(rows("select count(*) from emp where not sal < any (null, 100)"), ElementsAre("0"));
+}
+
+TEST_F(Quantified, aggregatesCompareWithThoseOfAllGroups) {
+  EXPECT_THAT(rows("select deptno from emp group by deptno having sum(sal) >= all (select sum(sal) from emp "
+                   "group by deptno)"),
+              ElementsAre("20"));
+  EXPECT_THAT(
+      rows("select job, case when avg(sal) > any (select sal from emp where job = 'MANAGER') then 'x' end "
+           "from emp where deptno < 30 group by job order by job"),
+      ElementsAre("ANALYST|x", "CLERK|-", "MANAGER|x", "PRESIDENT|x"));
+  EXPECT_THAT(failure("select 1 from emp having max(sal) > all (select sal from emp)"),
+              HasSubstr("not supported: an aggregate of all rows against ANY or ALL"));
+  EXPECT_THAT(failure("select case when max(sal) over () > all (select sal from emp) then 1 end from emp"),
+              HasSubstr("not supported: a window against ANY or ALL"));
 }
 
 TEST_F(Quantified, rowsAreEqualToAny) {

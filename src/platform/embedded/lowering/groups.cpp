@@ -1,6 +1,8 @@
 // A block whose groups are rows themselves: an aggregate over aggregates, as in SUM(AVG(x)), folds them once
-// more, and ROLLUP and its like lay the groups of several groupings over each other. An inner query makes the
+// more, ROLLUP and its like lay the groups of several groupings over each other, and an aggregate is compared
+// with ANY or ALL of a subquery. An inner query makes the
 // groups with their keys and aggregates; the block's own expressions read those.
+#include <algorithm>
 #include <map>
 
 #include "oracle_sql/same_expression.h"
@@ -14,6 +16,18 @@ namespace {
 bool isAggregate(const sql::Expr& expr) {
   const auto* call = sql::as<sql::Call>(&expr);
   return call && call->role == sql::CallRole::Aggregate;
+}
+
+/// `aggregate` op ANY|ALL (subquery): the comparison is made inside a subquery, where SQLite takes no
+/// aggregate of the block around.
+bool comparesAggregate(const sql::Expr& expr) {
+  bool found = false;
+  walkExpressions(expr, [&](const sql::Expr& e) {
+    const auto* compare = sql::as<sql::Compare>(&e);
+    if (!compare || compare->quantifier == sql::Quantifier::None || !compare->query) return;
+    walkExpressions(*compare->left, [&](const sql::Expr& operand) { found = found || isAggregate(operand); });
+  });
+  return found;
 }
 
 bool hasAggregateBelow(const sql::Expr& expr) {
@@ -140,7 +154,13 @@ class Groups {
 
 }  // namespace
 
-bool readsGroups(const sql::SelectBlock& block) { return block.nestedAggregates || !block.grouping.empty(); }
+bool readsGroups(const sql::SelectBlock& block) {
+  if (block.nestedAggregates || !block.grouping.empty()) return true;
+  if (block.groupBy.empty()) return false;
+  return (block.having && comparesAggregate(*block.having)) ||
+         std::any_of(block.columns.begin(), block.columns.end(),
+                     [](const auto& column) { return comparesAggregate(*column.expr); });
+}
 
 QueryText assembleGroups(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
                          const std::string& where, const sql::List<sql::OrderItem>* order) {

@@ -1,4 +1,5 @@
 #include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/walk.h"
 
 namespace kestrelix::embedded {
 namespace {
@@ -85,6 +86,13 @@ std::string lowerQuantifiedQuery(Emitter& emitter, const sql::Compare& compare,
   if (!any && compare.op == sql::CompareOp::NotEqual)
     return lowerInQuery(emitter, operand, true, *compare.query, compare.place);
   if (operand.size() > 1) throw sql::SqlError::unsupported("a row against ANY or ALL", compare.place);
+  walkExpressions(*compare.left, [&](const sql::Expr& e) {
+    const auto* call = sql::as<sql::Call>(&e);
+    if (call && call->over)
+      throw sql::SqlError::unsupported("a window against ANY or ALL of a subquery", e.place);
+    if (call && call->role == sql::CallRole::Aggregate && !emitter.replacements().count(&e))
+      throw sql::SqlError::unsupported("an aggregate of all rows against ANY or ALL of a subquery", e.place);
+  });
   const QueryText text = emitter.query(*compare.query);
   const std::string test =
       compared(emitter, compare.op, operand.front(), memberOf(text.columns.front()), compare.place);
