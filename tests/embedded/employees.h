@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "embedded/test_repository.h"
+#include "embedded/queried_repository.h"
 #include "platform/embedded/local_database.h"
 
 namespace kestrelix::embedded {
 
-class Employees : public testing::Test {
+class Employees : public QueriedRepository {
  protected:
   Employees() {
     const auto none = std::nullopt;
@@ -47,33 +47,6 @@ class Employees : public testing::Test {
           {{"1", "0.5", "a"}, {"2", "10", "a"}, {"3", none, "a"}, {"4", "-2.25", "b"}, {"5", "0.5", "b"}}}});
     database_ = std::make_unique<LocalDatabase>(folder_ / "emp.sqlite");
   }
-
-  /// Every row as its cells joined by "|"; NULL is "-".
-  std::vector<std::string> rows(const std::string& sql) {
-    std::vector<std::string> lines;
-    const auto result = database_->run(sql);
-    for (; !result->Eof(); result->MoveNext()) {
-      std::string line;
-      for (std::size_t i = 0; i < result->columns().size(); ++i) {
-        const auto field = result->field(i);
-        line += (i ? "|" : "") + (field.isNull() ? std::string("-") : field.value());
-      }
-      lines.push_back(line);
-    }
-    return lines;
-  }
-
-  std::string failure(const std::string& sql) {
-    try {
-      rows(sql);
-    } catch (const DatabaseError& error) {
-      return error.what();
-    }
-    return "it ran";
-  }
-
-  TestFolder folder_;
-  std::unique_ptr<LocalDatabase> database_;
 };
 
 }  // namespace kestrelix::embedded

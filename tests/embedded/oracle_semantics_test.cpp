@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "embedded/test_repository.h"
+#include "embedded/queried_repository.h"
 #include "platform/embedded/functions.h"
 #include "platform/embedded/local_database.h"
 #include "platform/embedded/repository_file.h"
@@ -15,7 +15,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-class OracleSemantics : public testing::Test {
+class OracleSemantics : public QueriedRepository {
  protected:
   OracleSemantics() {
     writeRepository(folder_ / "file.sqlite",
@@ -46,33 +46,6 @@ class OracleSemantics : public testing::Test {
                       {{"1", "1", "1", "a", "5"}, {"1", "1", "2", "a", "7"}, {"1", "1", "2", "b", "0"}}}});
     database_ = std::make_unique<LocalDatabase>(folder_ / "file.sqlite");
   }
-
-  /// Every row as its cells joined by "|"; NULL is "-".
-  std::vector<std::string> rows(const std::string& sql) {
-    std::vector<std::string> lines;
-    const auto result = database_->run(sql);
-    for (; !result->Eof(); result->MoveNext()) {
-      std::string line;
-      for (std::size_t i = 0; i < result->columns().size(); ++i) {
-        const auto field = result->field(i);
-        line += (i ? "|" : "") + (field.isNull() ? std::string("-") : field.value());
-      }
-      lines.push_back(line);
-    }
-    return lines;
-  }
-
-  std::string failure(const std::string& sql) {
-    try {
-      rows(sql);
-    } catch (const DatabaseError& error) {
-      return error.what();
-    }
-    return "it ran";
-  }
-
-  TestFolder folder_;
-  std::unique_ptr<LocalDatabase> database_;
 };
 
 // ---- numbers ----

@@ -50,7 +50,7 @@ class RandomStatementsOnAFile : public testing::Test {
     database_->parameters()(name).value(value);
   }
 
-  static std::vector<testing_support::RandomTable> tables() {
+  static std::vector<::testing_support::RandomTable> tables() {
     return {{"emp",
              {{"empno", TypeKind::Number},
               {"ename", TypeKind::Varchar2},
@@ -83,7 +83,7 @@ class RandomStatementsOnAFile : public testing::Test {
 
 TEST_F(RandomStatementsOnAFile, runOrAreRefusedAndChangeNothing) {
   const std::string before = bytesOf(file_);
-  testing_support::RandomStatement random(3, tables());
+  ::testing_support::RandomStatement random(3, tables());
   for (int i = 0; i < kRight; ++i) run(random.next());
   EXPECT_GT(ends_["ran"], kRight / 2);
   for (int i = 0; i < kBroken; ++i) run(random.nextBroken());

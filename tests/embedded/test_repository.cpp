@@ -1,7 +1,5 @@
 #include "embedded/test_repository.h"
 
-#include <unistd.h>
-
 #include <stdexcept>
 
 #include "platform/embedded/writing/repository_writer.h"
@@ -19,17 +17,6 @@ statspack::Type typeOf(const std::string& name) {
 }
 
 }  // namespace
-
-TestFolder::TestFolder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "kestrelix-test-XXXXXX").string();
-  if (!mkdtemp(pattern.data())) throw std::runtime_error("no folder for the test");
-  path_ = pattern;
-}
-
-TestFolder::~TestFolder() {
-  std::error_code error;
-  std::filesystem::remove_all(path_, error);
-}
 
 void writeRepository(const std::filesystem::path& file, const std::vector<conformance::TestTable>& tables) {
   RepositoryWriter writer(file, NewAccount{}, "test");

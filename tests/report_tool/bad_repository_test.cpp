@@ -2,11 +2,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
-#include <unistd.h>
 
 #include <fstream>
 
 #include "support/run_program.h"
+#include "support/test_folder.h"
 
 namespace kestrelix::testing_support {
 namespace {
@@ -19,16 +19,7 @@ constexpr const char* kNotConnected = "[Critical] データベースの接続に
 
 class BadRepository : public testing::Test {
  protected:
-  BadRepository()
-      : folder_(std::filesystem::temp_directory_path() /
-                ("kestrelix-bad-repository-" + std::to_string(::getpid()))),
-        csv_(folder_ / "csv"),
-        file_(folder_ / "made.sqlite") {
-    std::filesystem::remove_all(folder_);
-    std::filesystem::create_directories(folder_);
-    std::filesystem::copy(KESTRELIX_SOURCE_DIR "/tests/data/three_snapshots", csv_);
-  }
-  ~BadRepository() override { std::filesystem::remove_all(folder_); }
+  BadRepository() { std::filesystem::copy(KESTRELIX_SOURCE_DIR "/tests/data/three_snapshots", csv_); }
 
   void import(const std::string& options = {}) const {
     const Outcome outcome = runProgram(
@@ -56,9 +47,9 @@ class BadRepository : public testing::Test {
     EXPECT_EQ(query.errors, file_.string() + ": " + why + "\n");
   }
 
-  std::filesystem::path folder_;
-  std::filesystem::path csv_;
-  std::filesystem::path file_;
+  TestFolder folder_;
+  const std::filesystem::path csv_ = folder_ / "csv";
+  const std::filesystem::path file_ = folder_ / "made.sqlite";
 };
 
 TEST_F(BadRepository, aCutFileIsRefusedWhereverItIsCut) {

@@ -10,20 +10,13 @@
 #include <vector>
 
 #include "support/run_program.h"
+#include "support/test_folder.h"
 
 namespace kestrelix::testing_support {
 
 /// A folder that kestrelix-repository makes files in, run as a program of its own.
 class MakingRepositories : public testing::Test {
  protected:
-  MakingRepositories()
-      : folder_(std::filesystem::temp_directory_path() / ("kestrelix-making-" + std::to_string(::getpid()))),
-        file_(folder_ / "made.sqlite") {
-    std::filesystem::remove_all(folder_);
-    std::filesystem::create_directories(folder_);
-  }
-  ~MakingRepositories() override { std::filesystem::remove_all(folder_); }
-
   Outcome run(const std::string& arguments, const std::string& before = {}) const {
     return runProgram("kestrelix-repository", arguments, scratch_, before);
   }
@@ -31,10 +24,10 @@ class MakingRepositories : public testing::Test {
     return run("import " KESTRELIX_SOURCE_DIR "/tests/data/three_snapshots " + file_.string() + " " + options,
                before);
   }
-  std::ptrdiff_t files() const { return std::distance(std::filesystem::directory_iterator(folder_), {}); }
+  std::ptrdiff_t files() const { return folder_.files(); }
   std::ptrdiff_t unfinished() const {
     std::ptrdiff_t count = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(folder_))
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.path()))
       count += entry.path().string().starts_with(file_.string() + ".unfinished-") ? 1 : 0;
     return count;
   }
@@ -63,8 +56,8 @@ class MakingRepositories : public testing::Test {
     return status;
   }
 
-  std::filesystem::path folder_;
-  std::filesystem::path file_;
+  TestFolder folder_;
+  const std::filesystem::path file_ = folder_ / "made.sqlite";
   const std::filesystem::path scratch_ = folder_.string() + "-scratch";
 };
 

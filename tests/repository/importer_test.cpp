@@ -7,19 +7,14 @@
 #include <fstream>
 
 #include "support/sqlite_reading.h"
+#include "support/test_folder.h"
 
 namespace kestrelix::embedded {
 namespace {
 
 class ImporterTest : public ::testing::Test {
  protected:
-  ImporterTest() {
-    folder_ = std::filesystem::temp_directory_path() / ("kestrelix-import-" + std::to_string(::getpid()));
-    std::filesystem::remove_all(folder_);
-    std::filesystem::create_directories(folder_ / "csv");
-    path_ = folder_ / "made.sqlite";
-  }
-  ~ImporterTest() override { std::filesystem::remove_all(folder_); }
+  ImporterTest() { std::filesystem::create_directory(folder_ / "csv"); }
 
   void put(const std::string& name, const std::string& text) {
     std::ofstream(folder_ / "csv" / name, std::ios::binary) << text;
@@ -39,13 +34,13 @@ class ImporterTest : public ::testing::Test {
       const std::string folder = (folder_ / "csv").string();
       if (text.starts_with(folder)) text.erase(0, folder.size());
     }
-    const auto files = std::distance(std::filesystem::directory_iterator(folder_), {});
+    const auto files = folder_.files();
     return files == 1 ? text : text + " and something was left behind";
   }
   Texts ask(const std::string& sql) { return readTexts(path_, sql); }
 
-  std::filesystem::path folder_;
-  std::filesystem::path path_;
+  testing_support::TestFolder folder_;
+  const std::filesystem::path path_ = folder_ / "made.sqlite";
 };
 
 TEST_F(ImporterTest, aFolderWithoutTablesIsRefused) {
@@ -102,7 +97,7 @@ TEST_F(ImporterTest, aFileThatIsCutWhileItIsReadIsRefused) {
         std::string::npos)
         << said;
   }
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_), {}), 1);
+  EXPECT_EQ(folder_.files(), 1);
 }
 
 TEST_F(ImporterTest, longBadValuesAreCutAtACharacter) {
@@ -212,7 +207,7 @@ TEST_F(ImporterTest, withoutForegroundColumnsNoBackgroundEventsAreMade) {
 TEST_F(ImporterTest, whatProgressThrowsLeavesNothingBehind) {
   put("stats$sysstat.csv", "VALUE\n1\n");
   EXPECT_THROW(importFolder(folder_ / "csv", path_, {}, [](std::int64_t, std::int64_t) { throw 1; }), int);
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_), {}), 1);
+  EXPECT_EQ(folder_.files(), 1);
 }
 
 }  // namespace

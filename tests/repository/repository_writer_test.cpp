@@ -10,6 +10,7 @@
 #include "platform/embedded/writing/password_hash.h"
 #include "support/fixture_repository.h"
 #include "support/sqlite_reading.h"
+#include "support/test_folder.h"
 
 namespace kestrelix::embedded {
 namespace {
@@ -19,24 +20,15 @@ using testing_support::FixtureRepository;
 
 class RepositoryWriterTest : public ::testing::Test {
  protected:
-  RepositoryWriterTest() {
-    folder_ = std::filesystem::temp_directory_path() / ("kestrelix-writer-" + std::to_string(::getpid()));
-    std::filesystem::create_directory(folder_);
-    path_ = folder_ / "new.sqlite";
-  }
-  ~RepositoryWriterTest() override { std::filesystem::remove_all(folder_); }
+  std::ptrdiff_t filesInFolder() const { return folder_.files(); }
 
-  std::ptrdiff_t filesInFolder() const {
-    return std::distance(std::filesystem::directory_iterator(folder_), {});
-  }
-
-  std::filesystem::path folder_;
-  std::filesystem::path path_;
+  testing_support::TestFolder folder_;
+  const std::filesystem::path path_ = folder_ / "new.sqlite";
 };
 
 TEST_F(RepositoryWriterTest, aFolderThatIsMissingIsNamed) {
   try {
-    RepositoryWriter writer(folder_ / "missing" / "new.sqlite", {}, "a test");
+    RepositoryWriter writer(folder_ / "missing/new.sqlite", {}, "a test");
     FAIL();
   } catch (const RepositoryError& error) {
     EXPECT_NE(std::string(error.what()).find("missing/new.sqlite"), std::string::npos) << error.what();

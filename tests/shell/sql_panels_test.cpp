@@ -17,18 +17,7 @@ class SqlPanelsOfTheWindow : public ShellTest {
  protected:
   SqlPanelsOfTheWindow() {
     repository.usualTotals();
-    repository.add({.snap = 1, .hash = 101, .executions = 1, .gets = 100});
-    repository.add({.snap = 3, .hash = 101, .executions = 2, .gets = 1100});
-    repository.fixture.rows("stats$sqltext", {"old_hash_value", "text_subset", "piece", "sql_text"},
-                            {{"101", "select", "0", "select a"}, {"101", "select", "1", "from t"}});
-    repository.fixture.row(
-        "stats$sql_plan_usage",
-        {{"snap_id", "3"}, {"old_hash_value", "101"}, {"text_subset", "select"}, {"plan_hash_value", "11"}});
-    repository.fixture.row("stats$sql_plan", {{"plan_hash_value", "11"},
-                                              {"id", "0"},
-                                              {"depth", "0"},
-                                              {"operation", "SELECT STATEMENT"},
-                                              {"cost", "2"}});
+    repository.addStatementWithPlan();
     services.sections = sectionList();
     workspace.gOraSession = embedded::localSession(repository.write());
     workspace.gOraDatabase =

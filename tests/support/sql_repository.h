@@ -89,6 +89,23 @@ class SqlRepository {
         .sharedPool("__shared_pool_size", "104857600");
   }
 
+  /// The statement 101, with 1,000 gets in the pair, its text of two pieces and the plan 11.
+  SqlRepository& addStatementWithPlan() {
+    add({.snap = 1, .hash = 101, .executions = 1, .gets = 100});
+    add({.snap = 3, .hash = 101, .executions = 2, .gets = 1100});
+    fixture.rows("stats$sqltext", {"old_hash_value", "text_subset", "piece", "sql_text"},
+                 {{"101", "select", "0", "select a"}, {"101", "select", "1", "from t"}});
+    fixture.row(
+        "stats$sql_plan_usage",
+        {{"snap_id", "3"}, {"old_hash_value", "101"}, {"text_subset", "select"}, {"plan_hash_value", "11"}});
+    fixture.row("stats$sql_plan", {{"plan_hash_value", "11"},
+                                   {"id", "0"},
+                                   {"depth", "0"},
+                                   {"operation", "SELECT STATEMENT"},
+                                   {"cost", "2"}});
+    return *this;
+  }
+
   SqlRepository& add(const Captured& c) {
     const auto n = [](long value) { return std::to_string(value); };
     const std::string snap = n(c.snap), hash = n(c.hash), executions = n(c.executions), cpu = n(c.cpu),
