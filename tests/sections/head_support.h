@@ -59,7 +59,8 @@ class HeadRepository : public FixtureRepository {
   }
   /// 50 commits and 10 rollbacks in pair 0, 30 commits in pair 2.
   HeadRepository& transactions() {
-    return sysstat("user commits", {"100", "150", "0", "30"})
+    return sysstat("commit cleanouts", {"1", "2", "3", "5"})
+        .sysstat("user commits", {"100", "150", "0", "30"})
         .sysstat("user rollbacks", {"10", "20", "5", "5"});
   }
 

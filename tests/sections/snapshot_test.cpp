@@ -12,7 +12,8 @@ using testing::IsEmpty;
 
 // 8 sessions with 12 cursors are 1.5 each; 3 with 11 are 3.7; none at snapshot 3; 3 with 2 are .7.
 void sessions(HeadRepository& repository) {
-  repository.sysstat("logons current", {"8", "3", "0", "3"})
+  repository.sysstat("CPU used by this session", {"1", "2", "3", "4"})
+      .sysstat("logons current", {"8", "3", "0", "3"})
       .sysstat("opened cursors current", {"12", "11", "4", "2"});
 }
 

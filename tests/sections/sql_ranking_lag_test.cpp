@@ -58,21 +58,21 @@ TEST_F(SqlRanking11, everyColumnOfEveryRanking) {
   // Values per execution are texts, so a half has no zero before its point.
   expectRows(
       {
-          {"CPU TOTAL", "5"},        // 2.5 of 50
-          {"Elapsed TOTAL", "10"},   // 10 of 100
-          {"Gets TOTAL", "4"},       // 400 of 10,000
-          {"Reads TOTAL", "2.1"},    // 21 of 1,000
-          {"I/O Wait TOTAL", "3"},   // 3 of 100
-          {"Cluster TOTAL", "10"},   // the elapsed time's share
-          {"Executions", "2"},       // 4 of 200
-          {"Parse Calls", "2"},      // 2 of 100
-          {"Sharable Memory", "5"},  // 5,242,880 of 104,857,600
+          {"CPU TOTAL", "5.1"},        // 2.535 of 50 are 5.07
+          {"Elapsed TOTAL", "10.1"},   // 10.065 of 100
+          {"Gets TOTAL", "4.1"},       // 407 of 10,000
+          {"Reads TOTAL", "2.3"},      // 23 of 1,000
+          {"I/O Wait TOTAL", "3.1"},   // 3.075 of 100
+          {"Cluster TOTAL", "10.1"},   // the elapsed time's share
+          {"Executions", "1.5"},       // 3 of 200
+          {"Parse Calls", "2"},        // 2 of 100
+          {"Sharable Memory", "5.1"},  // 5,300,000 of 104,857,600 are 5.054
           {"Version Count", ""},
       },
       {{"NO", "1"},
        {"OLD_HASH_VALUE", "101"},
        {"MODULE", "sqlplus"},
-       {"EXECUTIONS", "4"},
+       {"EXECUTIONS", "3"},
        {"TOTAL_DB_CPU(S)", "50"},
        {"TOTAL_DB_TIME(S)", "100"},
        {"TOTAL_LOGICAL_READS", "10000"},
@@ -80,24 +80,24 @@ TEST_F(SqlRanking11, everyColumnOfEveryRanking) {
        {"TOTAL_EXECUTE_COUNT", "200"},
        {"TOTAL_PARSE_COUNT", "100"},
        {"SHARED_POOL_SIZE", "104857600"},
-       {"CPU_TIME(S)", "2.5"},
-       {"CPU_TIME_PEXEC(S)", ".63"},  // 0.625
-       {"ELAPSED_TIME(S)", "10"},
-       {"ELAPSED_TIME_PEXEC(S)", "2.5"},
-       {"BUFFER_GETS", "400"},
-       {"BUFFER_GETS_PEXEC", "100"},
-       {"DISK_READS", "21"},
-       {"DISK_READS_PEXEC", "5.25"},
+       {"CPU_TIME(S)", "2.54"},
+       {"CPU_TIME_PEXEC(S)", ".85"},
+       {"ELAPSED_TIME(S)", "10.07"},
+       {"ELAPSED_TIME_PEXEC(S)", "3.36"},
+       {"BUFFER_GETS", "407"},
+       {"BUFFER_GETS_PEXEC", "135.67"},
+       {"DISK_READS", "23"},
+       {"DISK_READS_PEXEC", "7.67"},
        {"ROWS_PROCESSED", "5"},
-       {"ROWS_PROCESSED_PEXEC", "1.25"},
-       {"IO_WAIT_TIME(S)", "3"},
-       {"IO_WAIT_TIME_PEXEC(S)", ".75"},
-       {"CLUSTER_WAIT_TIME(S)", "1.5"},
-       {"CLUSTER_WAIT_%ELAPSED", "15"},
-       {"CLUSTER_WAIT_TIME_PEXEC(S)", ".38"},  // 0.375
+       {"ROWS_PROCESSED_PEXEC", "1.67"},
+       {"IO_WAIT_TIME(S)", "3.08"},
+       {"IO_WAIT_TIME_PEXEC(S)", "1.03"},
+       {"CLUSTER_WAIT_TIME(S)", "1.52"},
+       {"CLUSTER_WAIT_%ELAPSED", "15.1"},
+       {"CLUSTER_WAIT_TIME_PEXEC(S)", ".51"},
        {"PARSE_CALLS", "2"},
-       {"MAX_SHARABLE_MEM", "5242880"},
-       {"LAST_SHARABLE_MEM", "5242880"},
+       {"MAX_SHARABLE_MEM", "5300000"},
+       {"LAST_SHARABLE_MEM", "5300000"},
        {"MAX_VERSION_COUNT", "25"},
        {"LAST_VERSION_COUNT", "25"},
        {"DELTA_VERSION_COUNT", "15"},

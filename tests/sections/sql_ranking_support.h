@@ -35,9 +35,9 @@ class SqlRankingTest : public testing::Test {
     report->open(0);
   }
 
-  /// A statement captured by both ends. Its growth: 4 executions, 10 s elapsed, 2.5 s of CPU, 400 gets, 21
-  /// reads, 5 rows, 3 s of I/O waits, 1.5 s of cluster waits, 2 parse calls; at the end it has 5 MB and 25
-  /// versions.
+  /// A statement captured by both ends. Its growth: 3 executions, 10.065 s elapsed, 2.535 s of CPU, 407 gets,
+  /// 23 reads, 5 rows, 3.075 s of I/O waits, 1.515 s of cluster waits, 2 parse calls; at the end it has
+  /// 5,300,000 bytes and 25 versions. Seconds and their thirds end in a 5 that rounds up.
   void plain(long memoryAtStart, long versionsAtStart) {
     repository.usualTotals();
     repository.add({.snap = 1,
@@ -55,16 +55,16 @@ class SqlRankingTest : public testing::Test {
                     .versions = versionsAtStart});
     repository.add({.snap = 3,
                     .hash = 101,
-                    .executions = 14,
-                    .elapsed = 12000000,
-                    .cpu = 3500000,
-                    .gets = 500,
-                    .reads = 31,
+                    .executions = 13,
+                    .elapsed = 12065000,
+                    .cpu = 3535000,
+                    .gets = 507,
+                    .reads = 33,
                     .rows = 10,
-                    .ioWait = 3300000,
-                    .clusterWait = 2000000,
+                    .ioWait = 3375000,
+                    .clusterWait = 2015000,
                     .parseCalls = 6,
-                    .memory = 5242880,
+                    .memory = 5300000,
                     .versions = 25});
   }
 

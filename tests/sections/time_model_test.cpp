@@ -10,14 +10,15 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// Pair 0: 10 seconds of DB time. Shares of 75, 40, 9 and .5 percent; parsing is .05 s, which shows as .1.
+// Pair 0: 10 seconds of DB time. Shares of 75, 40, 9.05 and .5 percent; parsing is .05 s, which shows as .1.
+// The background took longer than the sessions, and more CPU than time.
 void timeModel(HeadRepository& repository) {
-  repository.timeModel("background cpu time", {"0", "2000000", "0", "1000000"})
+  repository.timeModel("background cpu time", {"0", "40000000", "0", "1000000"})
       .timeModel("parse time elapsed", {"50000", "100000", "0", "0"})
       .timeModel("DB time", {"5000000", "15000000", "0", "4000000"})
-      .timeModel("PL/SQL execution elapsed time", {"0", "900000", "0", "0"})
+      .timeModel("PL/SQL execution elapsed time", {"0", "905000", "0", "0"})
       .timeModel("hard parse elapsed time", {"70", "70", "0", "1000000"})
-      .timeModel("background elapsed time", {"0", "3000000", "0", "0"})
+      .timeModel("background elapsed time", {"0", "30000000", "0", "0"})
       .timeModel("DB CPU", {"0", "4000000", "0", "2000000"})
       .timeModel("sql execute elapsed time", {"500000", "8000000", "0", "0"})
       .timeModel("sequence load elapsed time", {"90", "0", "0", "0"});
@@ -33,11 +34,11 @@ TEST(TimeModel, partsOfDbTimeComeFirstThenDbTimeThenTheBackground) {
               "NO|STATISTIC|TIME (S)|% OF DB TIME\n"
               "1|sql execute elapsed time|7.5|75\n"
               "2|DB CPU|4|40\n"
-              "3|PL/SQL execution elapsed time|0.9|9\n"
+              "3|PL/SQL execution elapsed time|0.9|9.1\n"
               "4|parse time elapsed|0.1|.5\n"
               "5|DB time|10| \n"
-              "6|background elapsed time|3| \n"
-              "7|background cpu time|2| \n");
+              "6|background cpu time|40| \n"
+              "7|background elapsed time|30| \n");
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
 }

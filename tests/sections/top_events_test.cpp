@@ -9,19 +9,20 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// Pair 0: 34.3 s waited on events that aren't idle (46.3 - 12), 15.7 s of CPU: 50 s in all. The enqueue's 8 s
+// Pair 0: 34.4 s waited on events that aren't idle (46.4 - 12), 15.6 s of CPU: 50 s in all. The enqueue's 8 s
 // of unfinished waiting count in the sum though it is not listed.
 void topEvents(WaitsRepository& repository) {
   repository.idle("SQL*Net message from client")
-      .sysstat("CPU used by this session", {"1000", "2570", "0", "10"});
+      .sysstat("CPU used when call started", {"5", "6", "7", "8"})
+      .sysstat("CPU used by this session", {"1000", "2560", "0", "10"});
   repository
       .event("db file sequential read",
-             {{"100", "0", "10000000"}, {"300", "0", "30000000"}, {"0", "0", "0"}, {"1", "0", "100000"}})
+             {{"100", "0", "10000000"}, {"300", "0", "30100000"}, {"0", "0", "0"}, {"1", "0", "100000"}})
       .event("log file sync", {{}, {"50", "0", "5000000"}})
-      .event("latch free", {{"10", "0", "1000000"}, {"20", "0", "1400000"}})
+      .event("latch free", {{"10", "0", "1000000"}, {"20", "0", "1425000"}})
       .event("enqueue", {{"5", "0", "1000000"}, {"5", "0", "9000000"}})
       .event("buffer busy waits", {{}, {"2", "0", "600000"}})
-      .event("control file parallel write", {{"0", "0", "0"}, {"100", "0", "300000"}})
+      .event("control file parallel write", {{"0", "0", "0"}, {"100", "0", "275000"}})
       .event("SQL*Net message from client",
              {{"1000", "0", "0"}, {"5000", "0", "9000000000"}, {"0", "0", "0"}, {"9", "0", "9"}});
 }
@@ -34,13 +35,14 @@ TEST(TopEvents, fiveLongestWithTheCpuAmongThem) {
     topEvents(repository);
     ReportFixture report(repository.write());
     report.open(0);
-    // 20 s of 200 waits, 100 ms each; .6 s shows as 1; 10 waits in .4 s. The sixth, .3 s, is cut off.
+    // 20.1 s of 200 waits, 100.5 ms each; .6 s shows as 1; 10 waits in .425 s, .85 percent. The sixth, .275
+    // s, is cut off.
     EXPECT_EQ(report.all("Top 5 Timed Events", 0), kHeadings +
-                                                       "1|db file sequential read|200|20|100|40\n"
-                                                       "2|CPU time| |16| |31.4\n"
+                                                       "1|db file sequential read|200|20|101|40.2\n"
+                                                       "2|CPU time| |16| |31.2\n"
                                                        "3|log file sync|50|5|100|10\n"
                                                        "4|buffer busy waits|2|1|300|1.2\n"
-                                                       "5|latch free|10|0|40|.8\n");
+                                                       "5|latch free|10|0|43|.9\n");
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
 }
@@ -62,13 +64,13 @@ TEST(TopEvents, seriesOfAnEventAndOfTheCpu) {
   report.all("Top 5 Timed Events", 0);
   EXPECT_EQ(report.col(1),
             "NO|EVENT|END TIME|WAITS|TIME (S)|AVG WAIT (MS)|%TOTAL CALL TIME|STATUS\n"
-            "1|db file sequential read|2026-01-05 11:00:00|200|20|100|40|OK\n"
+            "1|db file sequential read|2026-01-05 11:00:00|200|20|101|40.2|OK\n"
             "2||2026-01-05 12:00:00|||||DB RESTART\n"
             "3|db file sequential read|2026-01-05 13:00:00|1|0|100|50|OK\n");
   report.all("Top 5 Timed Events", 0);
   EXPECT_EQ(report.col(2),
             "NO|EVENT|END TIME|WAITS|TIME (S)|AVG WAIT (MS)|%TOTAL CALL TIME|STATUS\n"
-            "1|CPU time|2026-01-05 11:00:00| |16| |31.4|OK\n"
+            "1|CPU time|2026-01-05 11:00:00| |16| |31.2|OK\n"
             "2||2026-01-05 12:00:00|||||DB RESTART\n"
             "3|CPU time|2026-01-05 13:00:00| |0| |50|OK\n");
   EXPECT_THAT(report.boxes(), IsEmpty());
@@ -139,7 +141,7 @@ TEST(TopEvents, totalsThatFailAreTheirOwnBoxes) {
   EXPECT_EQ(second.boxes().back(), "[Critical] (clsTopNWaitEvents){getTCPU} Error");
 }
 
-TEST(TopEvents, missingTableIsTheBoxOfTheList) {
+TEST(TopEvents, missingListOfIdleEventsIsTheBoxOfTheWaitTime) {
   WaitsRepository repository("10");
   topEvents(repository);
   repository.without("stats$idle_event");

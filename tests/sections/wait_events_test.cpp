@@ -27,8 +27,8 @@ void waits(WaitsRepository& repository, Add add) {
       .idle("client message");
   (repository.*add)(
       "db file sequential read",
-      {{"100", "10", "10000000"}, {"200", "60", "12400000"}, {"0", "0", "0"}, {"3", "1", "2000"}});
-  (repository.*add)("log file sync", {{}, {"30", "0", "2400000"}});               // as long, fewer waits
+      {{"100", "10", "10000000"}, {"300", "75", "15500000"}, {"0", "0", "0"}, {"3", "1", "2000"}});
+  (repository.*add)("log file sync", {{}, {"40", "0", "5500000"}});               // as long, fewer waits
   (repository.*add)("latch free", {{"5", "5", "5000"}, {"5", "6", "90000000"}});  // no more waits
   (repository.*add)("short", {{"0", "0", "0"}, {"7", "0", "999"}});               // under a millisecond
   (repository.*add)("just", {{"0", "0", "0"}, {"1", "1", "1000"}});               // a millisecond
@@ -36,10 +36,10 @@ void waits(WaitsRepository& repository, Add add) {
   for (const char* timer : kTimers) (repository.*add)(timer, {{"0", "0", "0"}, {"12", "12", "600000000"}});
 }
 
-// 100 waits, half of them timed out, 2.4 s, 24 ms each, 1.7 a transaction.
-const std::string kRead = "db file sequential read|100|50|2|24|1.7\n";
-// 2.4 s of 30 waits: 80 ms each, .5 a transaction.
-const std::string kSync = "log file sync|30|0|2|80|.5\n";
+// 200 waits, 65 of them timed out, 5.5 s, 27.5 ms each, 3.33 a transaction.
+const std::string kRead = "db file sequential read|200|33|6|28|3.3\n";
+// 5.5 s of 40 waits: 137.5 ms each, .67 a transaction.
+const std::string kSync = "log file sync|40|0|6|138|.7\n";
 const std::string kJust = "just|1|100|0|1|0\n";
 // 7200 s of 1200 waits: 6 s each, 20 a transaction.
 const std::string kIdle = "client message|1200|0|7200|6000|20\n";
@@ -97,13 +97,13 @@ TEST(WaitEvents, seriesOfAnEvent) {
     int row = 1;
     while (report.grid().TextMatrix(row, 1) != "db file sequential read") ++row;
     EXPECT_EQ(report.col(row), kSeriesHeadings +
-                                   "1|db file sequential read|2026-01-05 11:00:00|100|50|2|24|1.7|OK\n"
+                                   "1|db file sequential read|2026-01-05 11:00:00|200|33|6|28|3.3|OK\n"
                                    "2||2026-01-05 12:00:00||||||DB RESTART\n"
                                    "3|db file sequential read|2026-01-05 13:00:00|3|33|0|1|.1|OK\n");
     report.all(section, 0);
     EXPECT_EQ(columnsOf(report.col(row + 1), 1, 3),
               "EVENT|END TIME|WAITS\n"
-              "log file sync|2026-01-05 11:00:00|30\n"
+              "log file sync|2026-01-05 11:00:00|40\n"
               "|2026-01-05 12:00:00|\n"
               "|2026-01-05 13:00:00|\n");
     EXPECT_THAT(report.boxes(), IsEmpty());
@@ -162,23 +162,23 @@ TEST(WaitEvents, missingTransactionsAreTheirOwnBox) {
 const std::string kForegroundHeadings =
     "NO|EVENT|WAITS|%TIMEOUT|TOTAL WAIT TIME(S)|AVG WAIT(MS)|WAITS/TXN|%TOTAL CALL TIME\n";
 
-// In pair 0 the events that aren't idle gained 5 * 600 s (timers), 2.4 + 2.4 s, .001999 s, and the latch's 89.995 s
-// though it isn't listed: 3094.796999 s. With 5.2 s of CPU that are 3099.996999 s.
+// In pair 0 the events that aren't idle gained 5 * 600 s (timers), 5.5 + 5.5 s, .001999 s, and the
+// latch's 89.995 s though it isn't listed: 3100.996999 s. With 5.2 s of CPU that are 3106.196999 s.
 TEST(ForegroundWaitEvents, shareOfTheCallTimeIsBlankForIdleEvents) {
   WaitsRepository repository("11");
   waits(repository, &WaitsRepository::foreground);
   repository.sysstat("CPU used by this session", {"0", "520"});
   ReportFixture report(repository.write());
   report.open(0);
-  // 600 s of that are 19.4 percent, 2.4 s are .1; TIME_SEC and the waits of a transaction are
+  // 600 s of that are 19.32 percent, 5.5 s are .18; TIME_SEC and the waits of a transaction are
   // numbers.
   const std::string lines = report.all("Foreground Wait Events", 0);
   EXPECT_EQ(lines.substr(0, kForegroundHeadings.size()), kForegroundHeadings);
   for (const char* timer : kTimers)
-    EXPECT_NE(lines.find(std::string("|") + timer + "|12|100|600|50000|0.2|19.4\n"), std::string::npos)
+    EXPECT_NE(lines.find(std::string("|") + timer + "|12|100|600|50000|0.2|19.3\n"), std::string::npos)
         << lines;
-  EXPECT_NE(lines.find("\n6|db file sequential read|100|50|2|24|1.7|.1\n"
-                       "7|log file sync|30|0|2|80|0.5|.1\n"
+  EXPECT_NE(lines.find("\n6|db file sequential read|200|33|6|28|3.3|.2\n"
+                       "7|log file sync|40|0|6|138|0.7|.2\n"
                        "8|just|1|100|0|1|0|0\n"
                        "9|client message|1200|0|7200|6000|20| \n"),
             std::string::npos)
@@ -209,7 +209,7 @@ TEST(ForegroundWaitEvents, seriesOfAnEvent) {
   EXPECT_EQ(
       report.col(6),
       "NO|EVENT|END TIME|WAITS|%TIMEOUT|TOTAL WAIT TIME(S)|AVG WAIT(MS)|WAITS/TXN|%TOTAL CALL TIME|STATUS\n"
-      "1|db file sequential read|2026-01-05 11:00:00|100|50|2|24|1.7|.1|OK\n"
+      "1|db file sequential read|2026-01-05 11:00:00|200|33|6|28|3.3|.2|OK\n"
       "2||2026-01-05 12:00:00|||||||DB RESTART\n"
       "3|db file sequential read|2026-01-05 13:00:00|3|33|0|1|0.1|16.7|OK\n");
   EXPECT_THAT(report.boxes(), IsEmpty());

@@ -91,8 +91,8 @@ class FixtureRepository {
     return *this;
   }
 
-  /// Lets every row stand once more, with other figures, under another database, another instance and a
-  /// purged snapshot, and before the row itself: what a statement finds there is a condition that it lacks.
+  /// Lets every row stand again, with other figures, under another database, another instance and a purged
+  /// snapshot, and before the row itself: a statement that finds them lacks a condition.
   FixtureRepository& withNeighbours(bool told = true) {
     neighbours_ = told;
     return *this;
@@ -145,22 +145,26 @@ class FixtureRepository {
       if (key == "snap_id" && (table.name == "stats$snapshot" || table.name == "stats$undostat" ||
                                table.name == "stats$memory_resize_ops"))
         continue;
-      for (Row row : told->second) {
-        for (auto& [column, value] : row) value = otherFigure(*table.column(column), value);
-        row[std::string(key)] = place;
-        neighbours.push_back(std::move(row));
-      }
+      for (const bool larger : {false, true})
+        for (Row row : told->second) {
+          for (auto& [column, value] : row) value = otherFigure(*table.column(column), value, larger);
+          row[std::string(key)] = place;
+          neighbours.push_back(std::move(row));
+        }
     }
     return neighbours;
   }
 
-  /// Another value for what is neither a key of the table nor of another one. The figures of stats$parameter
-  /// are texts.
-  static std::string otherFigure(const statspack::Column& column, const std::string& value) {
+  /// Another value, larger or smaller, for what is neither a key of the table nor of another one. The figures
+  /// of stats$parameter are texts. What lay hours apart lies days apart.
+  static std::string otherFigure(const statspack::Column& column, const std::string& value, bool larger) {
     const bool isKey = column.keyPlace > 0 || column.name == "dbid" || column.name == "instance_number" ||
                        column.name.ends_with("_id") || column.name.ends_with("hash_value");
-    if (column.type == statspack::Type::Date && !isKey && !value.empty()) return "1999" + value.substr(4);
-    return column.name == "value" || (column.type == statspack::Type::Number && !isKey) ? value + "7" : value;
+    if (isKey) return value;
+    if (column.type == statspack::Type::Date && !value.empty())
+      return "1999-01-1" + value.substr(12, 1) + value.substr(10);
+    if (column.name != "value" && column.type != statspack::Type::Number) return value;
+    return larger ? value + "7" : "1";
   }
 
   void writeRows(embedded::TableWriter& table, const std::vector<Row>& rows) {
