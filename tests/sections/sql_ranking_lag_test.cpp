@@ -141,6 +141,12 @@ TEST_F(SqlRanking11, aStatementOfTheMiddleAloneHasNoLastMemoryAndNoLastVersions)
             "105|1000|0|1|0|1");
 }
 
+TEST_F(SqlRanking11, aTotalOfTimeIsInSecondsOfTwoDigits) {
+  repository.time("2", "DB time", "0", "100005000");
+  repository.add({.snap = 3, .hash = 201, .executions = 1, .elapsed = 90000000});
+  EXPECT_THAT(all("Elapsed TOTAL", {"OLD_HASH_VALUE", "TOTAL_DB_TIME(S)"}), ElementsAre("201|100.01"));
+}
+
 TEST_F(SqlRanking11, withATotalOfZeroEveryStatementPassesAndTheShareIsBlank) {
   repository.time("2", "DB time", "7000000", "7000000");
   repository.add({.snap = 3, .hash = 201, .executions = 1, .elapsed = 1});

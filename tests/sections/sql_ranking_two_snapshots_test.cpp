@@ -213,6 +213,19 @@ TEST_F(SqlRanking10, readsWithATotalOfZeroHaveNoRowsAndNoError) {
   EXPECT_THAT(report->boxes(), IsEmpty()) << testing::PrintToString(report->errors());
 }
 
+TEST_F(SqlRanking9, readsWithATotalOfZeroHaveNoRowsAndNoError) {
+  repository.statistic("physical reads", "5", "5");
+  repository.add({.snap = 3, .hash = 501, .executions = 5, .reads = 10});
+  EXPECT_THAT(all("Reads EXEC", {"HASH_VALUE"}), IsEmpty());
+  EXPECT_THAT(report->boxes(), IsEmpty()) << testing::PrintToString(report->errors());
+}
+
+TEST_F(SqlRanking10, aTotalOfTimeIsInSecondsOfTwoDigits) {
+  repository.time("2", "DB time", "0", "100005000");
+  repository.add({.snap = 3, .hash = 502, .executions = 1, .elapsed = 90000000});
+  EXPECT_THAT(all("Elapsed TOTAL", {"OLD_HASH_VALUE", "TOTAL_DB_TIME(S)"}), ElementsAre("502|100.01"));
+}
+
 TEST_F(SqlRanking10, clusterListsEveryStatementThatWaitedAlsoOneThatDidNotRun) {
   repository.usualTotals();
   repository.add({.snap = 3, .hash = 601, .executions = 2, .elapsed = 100000, .clusterWait = 25000});

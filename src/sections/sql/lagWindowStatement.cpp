@@ -7,7 +7,8 @@ namespace kestrelix {
 namespace {
 
 /// Each row of the range with its predecessor's figures. Counters begin at nothing: a statement's first row
-/// has a predecessor of snapshot -1, of an address of zero bytes and of zero counters.
+/// has a predecessor of snapshot -1, of an address of zero bytes and of zero counters. The figures of hard
+/// parses, the following snapshot and the earlier memory are part of the text though no ranking shows them.
 std::string rowLevel() {
   const std::string window = " over (partition by old_hash_value,dbid,instance_number order by snap_id)";
   std::string text = R"sql(

@@ -21,7 +21,7 @@ const SqlMeasure kNothing{};
 const SqlTotal kDbCpu{SqlTotal::Source::TimeModel, "DB CPU", "TOTAL_DB_CPU"};
 const SqlTotal kDbTime{SqlTotal::Source::TimeModel, "DB time", "TOTAL_DB_TIME"};
 const SqlTotal kLogicalReads{SqlTotal::Source::Statistics, "session logical reads", "TOTAL_LOGICAL_READS"};
-const SqlTotal kPhysicalReads{SqlTotal::Source::Statistics, "physical reads", "TOTAL_PHYSICAL_READS"};
+const SqlTotal kPhysicalReads{SqlTotal::Source::Statistics, "physical reads", "TOTAL_PHYSICAL_READS", true};
 const SqlTotal kExecuteCount{SqlTotal::Source::Statistics, "execute count", "TOTAL_EXECUTE_COUNT"};
 const SqlTotal kParseCount{SqlTotal::Source::Statistics, "parse count (total)", "TOTAL_PARSE_COUNT"};
 const SqlTotal kSharedPool{SqlTotal::Source::Parameter, "shared_pool_size", "SHARED_POOL_SIZE"};
@@ -113,6 +113,7 @@ std::vector<SqlColumn> columnsOf(SqlColumns group, const SqlRanking& ranking, Ve
 std::vector<SqlRanking> makeRankings() {
   using enum SqlColumns;
   using enum SqlCutOff;
+  // {name, versions, has EXEC, total, share of it, sorted by, cut-off, threshold, columns}
   // clang-format off
   return {
       {"CPU", V10_11, true, kDbCpu, kCpu, kCpu, LeastShare, "",

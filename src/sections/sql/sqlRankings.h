@@ -29,6 +29,8 @@ struct SqlTotal {
   Source source = Source::None;
   std::string name;    ///< of the statistic or the parameter
   std::string column;  ///< of the report
+  /// Oracle 9 and 10: a total of zero lists nothing, where a division by another one fails.
+  bool mustBePositive = false;
 };
 
 enum class SqlSort { ByMeasure, PerExecution };

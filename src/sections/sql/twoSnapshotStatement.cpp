@@ -119,8 +119,7 @@ std::vector<std::string> joinConditions(const SqlRanking& ranking) {
   if (!ranking.hasTotal()) return {};
   std::vector<std::string> conditions{"AA.DBID = BB.DBID", "AA.INSTANCE_NUMBER = BB.INSTANCE_NUMBER",
                                       "AA.END_SNAP_ID = BB.SNAP_ID"};
-  // Of all totals this one alone is asked to be above zero.
-  if (ranking.name == "READS") conditions.push_back("BB.PHYSICAL_READS > 0");
+  if (ranking.total.mustBePositive) conditions.push_back("BB." + totalName(ranking.total) + " > 0");
   return conditions;
 }
 
