@@ -11,16 +11,16 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// 3000 busy and 7000 idle hundredths in pair 0: 10000 in all.
+// 3000 busy and 6000 idle hundredths in pair 0: 9000 in all.
 void busy(HeadRepository& repository) {
-  repository.host("BUSY_TIME", {"1000", "4000", "0", "100"}).host("IDLE_TIME", {"0", "7000", "0", "300"});
+  repository.host("BUSY_TIME", {"1000", "4000", "0", "100"}).host("IDLE_TIME", {"50", "6050", "0", "300"});
 }
 
 void hostTimes(HeadRepository& repository) {
   busy(repository);
   repository.host("NUM_CPUS", {"4", "8", "8", "8"})
-      .host("USER_TIME", {"0", "5", "0", "100"})    // .05, then 25
-      .host("SYS_TIME", {"50", "1100", "0", "0"});  // 10.5
+      .host("USER_TIME", {"7", "12", "0", "100"})   // .056, then 25
+      .host("SYS_TIME", {"50", "1100", "0", "0"});  // 11.667
 }
 
 TEST(HostCpu, sharesOfTheHostsTime) {
@@ -28,8 +28,8 @@ TEST(HostCpu, sharesOfTheHostsTime) {
     HeadRepository repository(version);
     hostTimes(repository);
     repository.host("LOAD", {".125", "1.005"})
-        .host("IOWAIT_TIME", {"0", "1"})
-        .host("OS_CPU_WAIT_TIME", {"0", "33"});
+        .host("IOWAIT_TIME", {"2", "3"})
+        .host("OS_CPU_WAIT_TIME", {"1", "34"});
     ReportFixture report(repository.write());
     report.open(0);
     // What can be blank is a text and has no digit before the point.
@@ -37,11 +37,11 @@ TEST(HostCpu, sharesOfTheHostsTime) {
               "NO|NAME|START|END|OTHER VALUE\n"
               "1|CPUs:|4|8|\n"
               "2|Load Average:|.13|1.01|\n"
-              "3|User:|||0.05\n"
-              "4|System:|||10.5\n"
-              "5|Idle:|||70\n"
+              "3|User:|||0.06\n"
+              "4|System:|||11.67\n"
+              "5|Idle:|||66.67\n"
               "6|WIO:|||.01\n"
-              "7|WCPU:|||.33\n");
+              "7|WCPU:|||.37\n");
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
 }
@@ -52,7 +52,8 @@ TEST(HostCpu, whatAHostDoesNotReportIsBlank) {
   ReportFixture report(repository.write());
   report.open(0);
   const std::string lines = report.all("Host CPU", 0);
-  EXPECT_EQ(columnsOf(lines, 2, 4), "START|END|OTHER VALUE\n4|8|\n | |\n||0.05\n||10.5\n||70\n|| \n|| \n");
+  EXPECT_EQ(columnsOf(lines, 2, 4),
+            "START|END|OTHER VALUE\n4|8|\n | |\n||0.06\n||11.67\n||66.67\n|| \n|| \n");
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
 
@@ -133,13 +134,13 @@ TEST(HostCpu, seriesOfEachRow) {
             "3|Load Average:|2026-01-05 13:00:00|3|4|OK\n");
   EXPECT_EQ(series(3),
             "NO|NAME|END TIME|OTHER VALUE|STATUS\n"
-            "1|User:|2026-01-05 11:00:00|0.05|OK\n"
+            "1|User:|2026-01-05 11:00:00|0.06|OK\n"
             "2|User:|2026-01-05 12:00:00||DB RESTART\n"
             "3|User:|2026-01-05 13:00:00|25|OK\n");
   EXPECT_EQ(columnsOf(series(4), 1, 3),
-            "NAME|END TIME|OTHER VALUE\nSystem:|2026-01-05 11:00:00|10.5\n"
+            "NAME|END TIME|OTHER VALUE\nSystem:|2026-01-05 11:00:00|11.67\n"
             "System:|2026-01-05 12:00:00|\nSystem:|2026-01-05 13:00:00|0\n");
-  EXPECT_EQ(columnsOf(series(5), 3, 3), "OTHER VALUE\n70\n\n75\n");
+  EXPECT_EQ(columnsOf(series(5), 3, 3), "OTHER VALUE\n66.67\n\n75\n");
   EXPECT_EQ(columnsOf(series(6), 1, 1), "NAME\nWIO:\nWIO:\nWIO:\n");
 }
 
@@ -151,7 +152,7 @@ TEST(HostCpu, seriesOfTheWaitForCpuBearsTheLabelOfTheRowAbove) {
   report.open(0);
   report.all("Host CPU", 0);
   EXPECT_EQ(report.grid().TextMatrix(7, 1), "WCPU:");
-  EXPECT_EQ(report.col(7), "NO|NAME|END TIME|OTHER VALUE|STATUS\n1|WIO:|2026-01-05 11:00:00|2.5|OK\n");
+  EXPECT_EQ(report.col(7), "NO|NAME|END TIME|OTHER VALUE|STATUS\n1|WIO:|2026-01-05 11:00:00|2.78|OK\n");
 }
 
 TEST(HostCpu, restartedPairLeavesTheLabels) {
@@ -168,11 +169,12 @@ TEST(HostCpu, restartedPairLeavesTheLabels) {
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
 
-// 6 + 1.5 seconds of 100, 30 of them busy. The wait is 15 by 10, rounded to 2 before it becomes a percentage.
+// 6.2 + 1.5 seconds of 90, 30 of them busy. The wait is 15 by 10, rounded to 2 before it becomes a
+// percentage.
 void instanceTimes(HeadRepository& repository) {
   busy(repository);
   repository.host("RSRC_MGR_CPU_WAIT_TIME", {"5", "20", "20", "20"});
-  repository.timeModel("DB CPU", {"0", "6000000", "0", "1000000"})
+  repository.timeModel("DB CPU", {"0", "6200000", "0", "1000000"})
       .timeModel("background cpu time", {"500000", "2000000", "0", "0"})
       .timeModel("DB time", {"0", "10", "0", "10"});
 }
@@ -184,8 +186,8 @@ TEST(InstanceCpu, shareOfTheHostAndTheWaitForTheResourceManager) {
   report.open(0);
   EXPECT_EQ(report.all("Instance CPU", 0),
             "NO|NAME|VALUE\n"
-            "1|% of total CPU for Instance:|7.5\n"
-            "2|% of busy  CPU for Instance:|25\n"
+            "1|% of total CPU for Instance:|8.56\n"
+            "2|% of busy  CPU for Instance:|25.67\n"
             "3|%DB time waiting for CPU - Resource Mgr:|200\n");
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
@@ -202,10 +204,10 @@ TEST(InstanceCpu, seriesAndTheBlankOfAnUnchangedWait) {
   };
   EXPECT_EQ(series(1),
             "NO|NAME|END TIME|VALUE|STATUS\n"
-            "1|% of total CPU for Instance:|2026-01-05 11:00:00|7.5|OK\n"
+            "1|% of total CPU for Instance:|2026-01-05 11:00:00|8.56|OK\n"
             "2|% of total CPU for Instance:|2026-01-05 12:00:00||DB RESTART\n"
             "3|% of total CPU for Instance:|2026-01-05 13:00:00|25|OK\n");
-  EXPECT_EQ(columnsOf(series(2), 3, 4), "VALUE|STATUS\n25|OK\n|DB RESTART\n100|OK\n");
+  EXPECT_EQ(columnsOf(series(2), 3, 4), "VALUE|STATUS\n25.67|OK\n|DB RESTART\n100|OK\n");
   EXPECT_EQ(columnsOf(series(3), 1, 3),
             "NAME|END TIME|VALUE\n"
             "%DB time waiting for CPU - Resource Mgr:|2026-01-05 11:00:00|200\n"

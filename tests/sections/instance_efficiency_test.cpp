@@ -13,10 +13,10 @@ using testing::IsEmpty;
 void common(HeadRepository& repository) {
   repository.series("stats$waitstat", {{"class", "data block"}}, "wait_count", {"10", "30"})
       .series("stats$waitstat", {{"class", "undo header"}}, "wait_count", {"5", "10"});
-  repository.sysstat("redo entries", {"1000", "3000"})
-      .sysstat("redo log space requests", {"4", "5"})  // 1 of 2000 waited: 99.95
-      .sysstat("sorts (memory)", {"0", "99"})
-      .sysstat("sorts (disk)", {"0", "1"})  // 99 of 100
+  repository.sysstat("redo entries", {"1000", "4000"})
+      .sysstat("redo log space requests", {"4", "5"})  // 1 of 3000 waited: 99.9667
+      .sysstat("sorts (memory)", {"5", "104"})
+      .sysstat("sorts (disk)", {"2", "3"})  // 99 of 100
       .sysstat("parse count (total)", {"100", "400"})
       .sysstat("parse count (hard)", {"0", "30"})  // 30 of 300 were hard: 90
       .sysstat("execute count", {"0", "1200"})     // 300 parses by 1200: 75
@@ -62,11 +62,11 @@ void poolOf10(HeadRepository& repository) {
 }
 
 void workAreas(HeadRepository& repository) {
-  // 50 more at their best of 50 in the first class; 40 of 50 in one that the start doesn't have: 90 of 100.
+  // 50 more at their best of 50 in the first class; 40 of 49 in one that the start doesn't have: 90 of 99.
   repository.rows(
       "stats$sql_workarea_histogram",
       {"snap_id", "low_optimal_size", "high_optimal_size", "optimal_executions", "total_executions"},
-      {{"1", "0", "1023", "50", "60"}, {"2", "0", "1023", "100", "110"}, {"2", "1024", "2047", "40", "50"}});
+      {{"1", "0", "1023", "50", "60"}, {"2", "0", "1023", "100", "110"}, {"2", "1024", "2047", "40", "49"}});
 }
 
 std::string expected(const std::string& nowait, const std::string& hit, const std::string& row4,
@@ -75,7 +75,7 @@ std::string expected(const std::string& nowait, const std::string& hit, const st
          "1|Buffer Nowait %:|||" +
          nowait +
          "\n"
-         "2|Redo NoWait %:|||99.95\n"
+         "2|Redo NoWait %:|||99.97\n"
          "3|Buffer  Hit   %:|||" +
          hit +
          "\n"
@@ -116,7 +116,7 @@ TEST(InstanceEfficiency, versionElevenTellsWorkAreasInsteadOfSorts) {
   ReportFixture report(repository.write());
   report.open(0);
   EXPECT_EQ(report.all("Instance Efficiency", 0),
-            expected("97.5", "95", "Optimal W/A Exec %:|||90", "75|50"));
+            expected("97.5", "95", "Optimal W/A Exec %:|||90.91", "75|50"));
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
 
@@ -287,7 +287,7 @@ TEST(InstanceEfficiency, rowFourLeadsToTheFigureOfItsVersion) {
   eleven.open(0);
   gDispInstanceEfficiency_Col(eleven.workspace(), "11", {4, {}});
   EXPECT_EQ(printed(eleven.grid()),
-            "NO|NAME|END TIME|OTHER VALUE|STATUS\n1|Optimal W/A Exec %:|2026-01-05 11:00:00|90|OK\n");
+            "NO|NAME|END TIME|OTHER VALUE|STATUS\n1|Optimal W/A Exec %:|2026-01-05 11:00:00|90.91|OK\n");
 }
 
 }  // namespace
