@@ -22,7 +22,7 @@ inline constexpr std::size_t kMaxTokens = 100'000;
 /// Brackets, subqueries, CASE, calls and prefix operators inside each other.
 inline constexpr int kMaxNesting = 200;
 /// Height of the tree of one expression, chains such as a + b + c included.
-inline constexpr int kMaxHeight = 2500;
+inline constexpr int kMaxHeight = 1500;
 /// Oracle's bound on the values of one IN list up to release 21.
 inline constexpr std::size_t kMaxListValues = 1000;
 /// Oracle's bound on the bytes of a name up to release 12.1.
