@@ -2,6 +2,7 @@
 #include "conformance/database_conformance.h"
 #include "embedded/test_repository.h"
 #include "platform/embedded/local_session.h"
+#include "shell/BackEndChain.h"
 
 namespace kestrelix::conformance {
 namespace {
@@ -9,7 +10,8 @@ namespace {
 class LocalBackEnd final : public BackEnd {
  public:
   void createTables(const std::vector<TestTable>& tables) override {
-    embedded::writeRepository(folder_ / "TEST.sqlite", tables);
+    std::filesystem::create_directory(folder_ / "repository");
+    embedded::writeRepository(folder_ / "repository" / "TEST.sqlite", tables);
   }
   Session& session() override { return session_; }
   std::string databaseName() const override { return "TEST"; }
@@ -18,7 +20,7 @@ class LocalBackEnd final : public BackEnd {
 
  private:
   embedded::TestFolder folder_;
-  embedded::LocalSession session_{folder_.path()};
+  BackEndChain session_{{localRepositories(folder_.path(), embedded::localSession)}};
 };
 
 std::shared_ptr<BackEnd> localBackEnd() { return std::make_shared<LocalBackEnd>(); }

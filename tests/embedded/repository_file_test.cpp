@@ -159,12 +159,5 @@ TEST_F(RepositoryFile, aHashOfAnotherCostIsRefusedAtOnce) {
   }
 }
 
-TEST_F(RepositoryFile, nameWithASlashIsNoDatabase) {
-  LocalSession session(folder_.path() / "below");
-  EXPECT_FALSE(session.has("../a repository %41"));
-  EXPECT_FALSE(session.has(""));
-  EXPECT_THROW(session.OpenDatabase("../a repository %41", "PERFSTAT/perfstat", 1), DatabaseError);
-}
-
 }  // namespace
 }  // namespace kestrelix::embedded

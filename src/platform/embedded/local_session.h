@@ -1,4 +1,4 @@
-// Connections to local repository files, by file or by name.
+// Connections to local repository files.
 #pragma once
 
 #include <filesystem>
@@ -8,22 +8,6 @@
 #include "platform/database.h"
 
 namespace kestrelix::embedded {
-
-/// Opens the repositories of a folder: the database NAME is the file NAME.sqlite in it.
-class LocalSession final : public Session {
- public:
-  explicit LocalSession(std::filesystem::path folder) : folder_(std::move(folder)) {}
-
-  /// Whether the folder has a repository of that name.
-  bool has(const std::string& name) const;
-  std::unique_ptr<Database> OpenDatabase(const std::string& name, const std::string& connect,
-                                         long options) override;
-
- private:
-  std::filesystem::path fileOf(const std::string& name) const;
-
-  std::filesystem::path folder_;
-};
 
 /// Opens one repository file, whatever name is asked for.
 class LocalFileSession final : public Session {
