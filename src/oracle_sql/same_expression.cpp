@@ -9,6 +9,27 @@
 namespace oracle_sql {
 
 bool sameExpression(const Expr& a, const Expr& b, int level) {
+  // Long chains lean to the left, and are gone down without a call for each operator.
+  const Expr* x = &a;
+  const Expr* y = &b;
+  while (true) {
+    const auto* sum = as<Arithmetic>(x);
+    const auto* otherSum = as<Arithmetic>(y);
+    const auto* text = as<Concat>(x);
+    const auto* otherText = as<Concat>(y);
+    if (sum && otherSum) {
+      if (sum->op != otherSum->op || !sameExpression(*sum->right, *otherSum->right, level)) return false;
+      x = sum->left;
+      y = otherSum->left;
+    } else if (text && otherText) {
+      if (!sameExpression(*text->right, *otherText->right, level)) return false;
+      x = text->left;
+      y = otherText->left;
+    } else {
+      break;
+    }
+  }
+  if (x != &a) return sameExpression(*x, *y, level);
   if (a.kind != b.kind) return false;
   switch (a.kind) {
     case ExprKind::Number:
