@@ -1,6 +1,7 @@
 // Queries and blocks.
 #include "oracle_sql/resolver.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "oracle_sql/ascii_case.h"
@@ -19,16 +20,25 @@ const Query* anyQuery(const Expr& e) {
 }
 
 // Whether the operands of an ORDER BY expression are constants and expressions of the select list.
-bool isOfSelected(const Expr& e, const SelectBlock& b) {
-  const auto* c = as<ColumnRef>(&e);
-  if (c && c->output >= 0) return true;
-  for (const OutputColumn& column : b.columns)
-    if (sameExpression(e, *column.expr)) return true;
-  const auto* call = as<Call>(&e);
-  if (c || e.kind == ExprKind::Rownum || queryOf(e) || (call && call->role != CallRole::Scalar)) return false;
-  bool all = true;
-  forEachOperand(e, [&](const Expr& o) { all = all && isOfSelected(o, b); });
-  return all;
+bool isOfSelected(const Expr& whole, const SelectBlock& b) {
+  const auto isSelected = [&](const Expr& e) {
+    const auto* c = as<ColumnRef>(&e);
+    return (c && c->output >= 0) || std::any_of(b.columns.begin(), b.columns.end(), [&](const auto& column) {
+             return sameExpression(e, *column.expr);
+           });
+  };
+  std::vector<const Expr*> open{&whole};
+  while (!open.empty()) {
+    const Expr& e = *open.back();
+    open.pop_back();
+    if (isSelected(e)) continue;
+    const auto* call = as<Call>(&e);
+    if (e.kind == ExprKind::Column || e.kind == ExprKind::Rownum || queryOf(e) ||
+        (call && call->role != CallRole::Scalar))
+      return false;
+    forEachOperand(e, [&](const Expr& o) { open.push_back(&o); });
+  }
+  return true;
 }
 
 }  // namespace

@@ -110,7 +110,7 @@ bool sameExpression(const Expr& a, const Expr& b, int level) {
   forEachOperand(b, [&](const Expr& o) { right.push_back(&o); });
   return left.size() == right.size() &&
          std::equal(left.begin(), left.end(), right.begin(),
-                    [&](const Expr* x, const Expr* y) { return sameExpression(*x, *y, level); });
+                    [&](const Expr* one, const Expr* other) { return sameExpression(*one, *other, level); });
 }
 
 }  // namespace oracle_sql
