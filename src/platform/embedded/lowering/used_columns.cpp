@@ -45,11 +45,16 @@ class Marker {
   }
 
   /// Names of the select list inside an expression of ORDER BY.
-  void markOutputs(const sql::Expr& expr, std::vector<bool>& wanted) {
-    const auto* column = sql::as<sql::ColumnRef>(&expr);
-    if (column && column->output >= 0 && static_cast<std::size_t>(column->output) < wanted.size())
-      wanted[static_cast<std::size_t>(column->output)] = true;
-    sql::forEachOperand(expr, [&](const sql::Expr& operand) { markOutputs(operand, wanted); });
+  void markOutputs(const sql::Expr& whole, std::vector<bool>& wanted) {
+    std::vector<const sql::Expr*> open{&whole};
+    while (!open.empty()) {
+      const sql::Expr& expr = *open.back();
+      open.pop_back();
+      const auto* column = sql::as<sql::ColumnRef>(&expr);
+      if (column && column->output >= 0 && static_cast<std::size_t>(column->output) < wanted.size())
+        wanted[static_cast<std::size_t>(column->output)] = true;
+      sql::forEachOperand(expr, [&](const sql::Expr& operand) { open.push_back(&operand); });
+    }
   }
 
   void read(const sql::Expr& expr) {
