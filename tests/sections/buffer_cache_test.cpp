@@ -18,8 +18,10 @@ const char* const kPools =
 
 class PoolRepository : public InstanceRepository {
  public:
-  explicit PoolRepository(std::string_view major) : InstanceRepository(major) {
-    parameter("db_block_size", "8192");
+  /// An empty block size leaves the parameter out.
+  explicit PoolRepository(std::string_view major, std::string_view blockSize = "8192")
+      : InstanceRepository(major) {
+    if (!blockSize.empty()) parameter("db_block_size", blockSize);
   }
 
   /// Block gets, consistent gets, reads, writes, and waits for free buffers, writes and busy buffers.
@@ -97,40 +99,18 @@ TEST(BufferPoolStatistics, poolsOfOtherBlockSizesShowUnderTheSizeAndHaveTheirSer
 }
 
 TEST(BufferPoolStatistics, theBlockSizeInForceAtTheStartCounts) {
-  InstanceRepository repository("10");
+  PoolRepository repository("10", "");
   repository.rows(
       "stats$parameter", {"snap_id", "name", "value"},
       {{"1", "db_block_size", "4096"}, {"1", "__db_block_size", "8192"}, {"2", "db_block_size", "16384"}});
-  repository.row("stats$buffer_pool_statistics", {{"snap_id", "2"},
-                                                  {"id", "3"},
-                                                  {"name", "DEFAULT"},
-                                                  {"block_size", "8192"},
-                                                  {"set_msize", "1"},
-                                                  {"db_block_gets", "0"},
-                                                  {"consistent_gets", "0"},
-                                                  {"physical_reads", "0"},
-                                                  {"physical_writes", "0"},
-                                                  {"free_buffer_wait", "0"},
-                                                  {"write_complete_wait", "0"},
-                                                  {"buffer_busy_wait", "0"}});
+  repository.pool("2", "3", "DEFAULT", "8192", "1");
   OpenReport report(repository);
   EXPECT_EQ(report.all("Buffer Pool Statistics", 0), std::string(kPools) + "1|D|     1 | |0|0|0|0|0|0\n");
 }
 
 TEST(BufferPoolStatistics, withoutABlockSizeABoxComesAndTheRowsShowAllTheSame) {
-  InstanceRepository repository("10");
-  repository.row("stats$buffer_pool_statistics", {{"snap_id", "2"},
-                                                  {"id", "3"},
-                                                  {"name", "DEFAULT"},
-                                                  {"block_size", "8192"},
-                                                  {"set_msize", "1"},
-                                                  {"db_block_gets", "0"},
-                                                  {"consistent_gets", "0"},
-                                                  {"physical_reads", "0"},
-                                                  {"physical_writes", "0"},
-                                                  {"free_buffer_wait", "0"},
-                                                  {"write_complete_wait", "0"},
-                                                  {"buffer_busy_wait", "0"}});
+  PoolRepository repository("10", "");
+  repository.pool("2", "3", "DEFAULT", "8192", "1");
   OpenReport report(repository);
   EXPECT_EQ(report.all("Buffer Pool Statistics", 0), std::string(kPools) + "1|8k|     1 | |0|0|0|0|0|0\n");
   EXPECT_THAT(report.boxes(), ElementsAre("[Critical] (clsBufferPoolStatistics){getBLOCK_SIZE} Error"));

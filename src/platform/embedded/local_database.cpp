@@ -180,6 +180,8 @@ class LocalDatabase::Engine {
       }
       if (!wideSums && std::string_view(error.what()).find("integer overflow") != std::string_view::npos)
         throw SumTooLarge();
+      // "frame starting offset must be a non-negative integer", and "ending": of a bind, since literals are
+      // looked at before.
       if (std::string_view(error.what()).find("ing offset must be") != std::string_view::npos)
         fail(sql::SqlError::wrong(1428, "the offset of a frame is out of range", {}), text);
       throw DatabaseError(error.sqlState(), error.nativeCode(), error.what(), text);

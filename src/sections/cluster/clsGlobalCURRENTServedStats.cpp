@@ -1,5 +1,7 @@
 #include "sections/cluster/clsGlobalCURRENTServedStats.h"
 
+#include "platform/ascii.h"
+
 namespace kestrelix {
 namespace {
 
@@ -14,10 +16,10 @@ std::string servedStatement(const std::string& total, const std::string& measure
     end += (end.empty() ? "e." : "+e.") + column;
     growth += ", e." + column + " - b." + column + " AS " + column;
     shares += ", lpad(to_char(decode(" + total + ",0,0,100*" + column + "/" + total +
-              "),'990.99'),8,' ') AS " + column;
+              "),'990.99'),8,' ') AS " + asciiUpper(column);
   }
-  return fold("select " + total + " AS " + total + shares + " from (select (" + end + " - (" + start +
-              ")) AS " + total + growth + R"sql(
+  return fold("select " + total + " AS " + asciiUpper(total) + shares + " from (select (" + end + " - (" +
+              start + ")) AS " + total + growth + R"sql(
       from stats$current_block_server b, stats$current_block_server e
      where b.snap_id = :B3
        and e.snap_id = :B4

@@ -1,7 +1,7 @@
 // A block whose groups are rows themselves: an aggregate over aggregates, as in SUM(AVG(x)), folds them once
 // more, ROLLUP and its like lay the groups of several groupings over each other, and an aggregate is compared
-// with ANY or ALL of a subquery. An inner query makes the
-// groups with their keys and aggregates; the block's own expressions read those.
+// with ANY or ALL of a subquery. An inner query makes the groups with their keys and aggregates; the block's
+// own expressions read those.
 #include <algorithm>
 #include <map>
 
