@@ -87,7 +87,11 @@ class Compiler {
   void appendRepeat(const RegexNode& node) {
     const RegexNode& child = *node.children.front();
     for (int i = 0; i < node.least; ++i) {
+      const std::uint32_t begin = end();
       append(child);
+      if (end() == begin) {
+        break;  // nothing, however often; the length of the program would not bound the turns
+      }
     }
     if (node.most == RegexNode::kNoLimit) {
       const auto slot = static_cast<std::uint32_t>(slots++);

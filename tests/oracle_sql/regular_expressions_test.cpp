@@ -34,6 +34,12 @@ TEST(RegularExpressions, searchThatWouldNeverEndFails) {
   EXPECT_EQ("[]aab", call("REGEXP_REPLACE", {s("aab"), s("(a{0,1}?)*"), s("[\\1]"), n("1"), n("1")}));
 }
 
+// The groups behind the ninth are not kept, so that theirs is a program of no steps.
+TEST(RegularExpressions, repetitionsOfNothingTakeNoTime) {
+  const char* const nothing = "()()()()()()()()()((((){65535}){65535}){65535})b";
+  EXPECT_EQ("2", call("REGEXP_INSTR", {s("ab"), s(nothing)}));
+}
+
 TEST(RegularExpressions, nullIsNoPatternAndNoText) {
   EXPECT_EQ("NULL", call("REGEXP_LIKE", {null, s("a")}));
   EXPECT_EQ("NULL", call("REGEXP_LIKE", {s("a"), null}));
