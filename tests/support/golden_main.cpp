@@ -1,4 +1,4 @@
-// The tests' own main, for the one option of the golden files.
+// The main of tests with golden files: a difference is written into the file with --update, else a failure.
 #include <gmock/gmock.h>
 
 #include <string_view>
