@@ -14,6 +14,7 @@ ROOMS = {
     "platform/chm": {"platform"},
     "platform/odbc": {"platform", "oracle_sql"},
     "navigation": {"platform"},
+    "documents": {"platform"},
     "report": {"navigation", "platform"},
     "sections": {"report", "navigation", "platform"},
     "shell": {"sections", "report", "navigation", "platform"},

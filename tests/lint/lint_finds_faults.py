@@ -12,6 +12,7 @@ PLANTED = [
     ("arrows.py", "shell/a.h", "#include <sqlite3.h>\n"),
     ("arrows.py", "platform/qt/a.h", "#include <chm_lib.h>\n"),
     ("arrows.py", "platform/embedded/a.h", "#include <sqlext.h>\n"),
+    ("arrows.py", "documents/a.h", '#include "report/b.h"\n'),
     ("arrows.py", "elsewhere/a.h", "int a;\n"),
     ("locale_dependence.py", "report/a.h", "double a = std::stod(text);\n"),
     ("locale_dependence.py", "report/a.h", 'snprintf(text, 9, "%5.1f", a);\n'),

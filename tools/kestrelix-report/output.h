@@ -2,19 +2,19 @@
 
 #include <iosfwd>
 #include <string>
-#include <vector>
 
+#include "documents/table.h"
 #include "platform/controls/grid.h"
 #include "platform/message_box.h"
 
 namespace kestrelix::report_tool {
 
-using Table = std::vector<std::vector<std::string>>;
+using documents::Table;
 
 /// A grid's cells, heading row and column "NO" included.
 Table cells(const Grid& grid);
 
-/// As RFC 4180 tells, lines ending in CRLF; or in columns, two blanks apart, a Japanese character two wide.
+/// As CSV, or as text in columns.
 void print(std::ostream& out, const Table& table, bool csv);
 
 /// Boxes as lines of standard error: the icon's name in brackets and the text, then the error behind it.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "commands.h"
+#include "documents/csv.h"
 #include "platform/embedded/local_database.h"
 
 namespace kestrelix {
@@ -97,36 +98,6 @@ bool addBind(Parameters& parameters, const std::string& text) {
   return true;
 }
 
-void printField(const std::string& text) {
-  if (text.find_first_of(",\"\r\n") == std::string::npos) {
-    std::cout << text;
-    return;
-  }
-  std::cout << '"';
-  for (const char c : text) {
-    if (c == '"') std::cout << '"';
-    std::cout << c;
-  }
-  std::cout << '"';
-}
-
-void printNames(const std::vector<std::string>& names) {
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    if (i > 0) std::cout << ',';
-    printField(names[i]);
-  }
-  std::cout << "\r\n";
-}
-
-void printLine(std::span<const std::optional<std::string>> cells) {
-  bool first = true;
-  for (const auto& cell : cells) {
-    if (!std::exchange(first, false)) std::cout << ',';
-    if (cell) printField(*cell);
-  }
-  std::cout << "\r\n";
-}
-
 }  // namespace
 
 int queryCommand(std::span<const std::string> arguments) {
@@ -155,11 +126,11 @@ int queryCommand(std::span<const std::string> arguments) {
   }
   bool headed = false;
   const auto names = database.stream(request->sql, [&](const auto& columns, const auto row) {
-    if (!std::exchange(headed, true)) printNames(columns);
-    printLine(row);
+    if (!std::exchange(headed, true)) documents::writeCsvLine(std::cout, columns);
+    documents::writeCsvLine(std::cout, row);
     if (!std::cout) throw std::runtime_error("the standard output cannot be written");
   });
-  if (!headed) printNames(names);
+  if (!headed) documents::writeCsvLine(std::cout, names);
   return kExitDone;
 }
 
