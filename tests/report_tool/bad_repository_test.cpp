@@ -44,7 +44,7 @@ class BadRepository : public testing::Test {
     const Outcome query =
         runProgram("kestrelix-repository", "query " + file_.string() + " 'select 1 from dual'", folder_);
     EXPECT_EQ(query.status, 1);
-    EXPECT_EQ(query.errors, file_.string() + ": " + why + "\n");
+    EXPECT_EQ(query.errors, "kestrelix-repository: " + file_.string() + ": " + why + "\n");
   }
 
   TestFolder folder_;
@@ -132,6 +132,10 @@ TEST_F(BadRepository, wrongUsageIsOneLine) {
                             "instances --format html",
                             "instances --tns X",
                             "instances --password-file /nowhere",
+                            "instances --password-stdin < /dev/null",
+                            "instances --password-stdin --password-file /nowhere",
+                            "instances --user SCOTT --user SCOTT",
+                            "instances --tns",
                             "statements --version 12"}) {
     const Outcome outcome = report(usage);
     EXPECT_EQ(outcome.status, 2) << usage;
@@ -203,12 +207,29 @@ TEST_F(BadRepository, oddPasswordsOpenTheFileTheyWereGivenFor) {
   const std::filesystem::path words = folder_ / "password";
   for (const char* password : {"a,b", "a/b/", "q'\"x", "日本語", " a b ", "a;b{}=", "%s%n", "\\", "-"}) {
     put(words, std::string(password) + "\n");
-    import("--force --user scott --password-stdin < " + words.string());
-    const std::string login = "--user Scott --password-file " + words.string();
-    EXPECT_EQ(report(login + " instances").status, 0) << password;
-    put(words, std::string(password) + "x\n");
-    EXPECT_THAT(boxes(login + " instances"), HasSubstr("ORA-01017")) << password;
+    const std::vector<std::string> ways{" --password-stdin < " + words.string(),
+                                        " --password-file " + words.string()};
+    for (const std::string& made : ways) {
+      put(words, std::string(password) + "\r\n");
+      import("--force --user scott" + made);
+      for (const std::string& opened : ways)
+        EXPECT_EQ(report("instances --user Scott" + opened).status, 0) << password << made << opened;
+      put(words, std::string(password) + "x\n");
+      for (const std::string& opened : ways)
+        EXPECT_THAT(boxes("instances --user Scott" + opened), HasSubstr("ORA-01017")) << password << made;
+    }
   }
+}
+
+TEST_F(BadRepository, theVariableIsThePasswordForBothPrograms) {
+  const std::string variable = "KESTRELIX_PASSWORD=secret";
+  ASSERT_EQ(
+      runProgram("kestrelix-repository", "import " + csv_.string() + " " + file_.string(), folder_, variable)
+          .status,
+      0);
+  const std::string instances = "--repository " + file_.string() + " instances";
+  EXPECT_EQ(runProgram("kestrelix-report", instances, folder_, variable).status, 0);
+  EXPECT_THAT(boxes("instances"), HasSubstr("ORA-01017"));
 }
 
 }  // namespace

@@ -85,7 +85,8 @@ TEST_F(InterruptedMaking, aDiskThatTakesNoMoreIsOneLineAndNoFile) {
         "import " KESTRELIX_SOURCE_DIR "/tests/data/three_snapshots " + file_.string()}) {
     const Outcome outcome = run(command, "ulimit -f 20;");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_THAT(outcome.errors, StartsWith(file_.string() + ": cannot be written: "));
+    EXPECT_THAT(outcome.errors,
+                StartsWith("kestrelix-repository: " + file_.string() + ": cannot be written: "));
     EXPECT_THAT(outcome.errors, EndsWith("File too large\n"));
     EXPECT_EQ(std::count(outcome.errors.begin(), outcome.errors.end(), '\n'), 1);
     EXPECT_EQ(files(), 0);
@@ -94,22 +95,22 @@ TEST_F(InterruptedMaking, aDiskThatTakesNoMoreIsOneLineAndNoFile) {
 
 TEST_F(InterruptedMaking, namesThatTheSystemRefusesAreSaidInItsWords) {
   const std::string name = (folder_ / std::string(300, 'x')).string();
-  EXPECT_EQ(run("demo " + name).errors, name + ": cannot be written: File name too long\n");
+  EXPECT_EQ(run("demo " + name).errors, line(name + ": cannot be written: File name too long"));
   EXPECT_EQ(run("demo " + folder_.string() + "/").errors,
-            folder_.string() + "/: is there already; --force replaces it\n");
+            line(folder_.string() + "/: is there already; --force replaces it"));
 }
 
 TEST_F(InterruptedMaking, aFolderThatMayNotBeWrittenIsOneLine) {
   if (::geteuid() == 0) GTEST_SKIP() << "root may write anywhere";
   std::filesystem::permissions(folder_,
                                std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
-  EXPECT_EQ(import().errors, file_.string() + ": cannot be written: Permission denied\n");
+  EXPECT_EQ(import().errors, line(file_.string() + ": cannot be written: Permission denied"));
   std::filesystem::permissions(folder_, std::filesystem::perms::owner_all);
 }
 
 TEST_F(InterruptedMaking, aLinkThatLeadsNowhereIsAFileThatIsThere) {
   std::filesystem::create_symlink("nowhere", file_);
-  EXPECT_EQ(import().errors, file_.string() + ": is there already; --force replaces it\n");
+  EXPECT_EQ(import().errors, line(file_.string() + ": is there already; --force replaces it"));
   EXPECT_TRUE(std::filesystem::is_symlink(file_));
 }
 

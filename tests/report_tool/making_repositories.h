@@ -24,6 +24,9 @@ class MakingRepositories : public testing::Test {
     return run("import " KESTRELIX_SOURCE_DIR "/tests/data/three_snapshots " + file_.string() + " " + options,
                before);
   }
+  /// The one line that tells of a failure or of wrong usage.
+  static std::string line(const std::string& text) { return "kestrelix-repository: " + text + "\n"; }
+  static std::string wrongUsage(const std::string& text) { return line(text + "; --help tells the usage"); }
   std::ptrdiff_t files() const { return folder_.files(); }
   std::ptrdiff_t unfinished() const {
     std::ptrdiff_t count = 0;

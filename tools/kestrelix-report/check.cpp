@@ -65,7 +65,7 @@ void check(const Options& options, StderrBoxes& boxes) {
 
   const auto session =
       options.repository.empty() ? anySession(programFolder()) : embedded::localSession(name);
-  const auto database = logOn(*session, name, asciiUpper(options.user) + "/" + password(options));
+  const auto database = logOn(*session, name, connectText(options));
   std::cout << "login: " << asciiUpper(options.user) << " is connected" << std::endl;
 
   if (const std::string error = unreadable(*database, "stats$database_instance"); !error.empty())

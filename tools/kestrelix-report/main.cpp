@@ -1,31 +1,26 @@
-#include <iostream>
-
-#include "app/process.h"
+// kestrelix-report: the report without a window.
 #include "commands.h"
+#include "console/run.h"
 #include "report_run.h"
 
-namespace tool = kestrelix::report_tool;
+namespace kestrelix::report_tool {
+namespace {
+
+int runProgram(std::span<const std::string> words) {
+  const auto options = readOptions(words);
+  if (!options) return console::kExitDone;
+  StderrBoxes boxes;
+  try {
+    runCommand(*options, boxes);
+  } catch (const ReportRun::Stopped&) {
+    return console::kExitFailed;  // the box has said it
+  }
+  return boxes.critical() ? console::kExitFailed : console::kExitDone;
+}
+
+}  // namespace
+}  // namespace kestrelix::report_tool
 
 int main(int count, char** values) {
-  kestrelix::guardStreams();
-  tool::StderrBoxes boxes;
-  try {
-    const tool::Options options = tool::parseOptions({values + 1, values + count});
-    if (options.help) {
-      std::cout << tool::kUsage;
-    } else {
-      tool::runCommand(options, boxes);
-    }
-    std::cout.flush();
-    if (!std::cout) throw std::runtime_error("the standard output cannot be written");
-  } catch (const tool::UsageError& error) {
-    std::cerr << "kestrelix-report: " << error.what() << "; --help tells the usage\n";
-    return 2;
-  } catch (const tool::ReportRun::Stopped&) {
-    return 1;  // the box has said it
-  } catch (const std::exception& error) {
-    std::cerr << "kestrelix-report: " << error.what() << '\n';
-    return 1;
-  }
-  return boxes.critical() ? 1 : 0;
+  return kestrelix::console::run("kestrelix-report", count, values, kestrelix::report_tool::runProgram);
 }

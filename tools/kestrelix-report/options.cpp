@@ -1,23 +1,15 @@
 #include "options.h"
 
-#include <charconv>
-#include <functional>
-#include <map>
+#include <iostream>
+
+#include "platform/ascii.h"
 
 namespace kestrelix::report_tool {
+namespace {
 
-const char* const kUsage =
-    R"(kestrelix-report [options] command ...: the report without a window
+constexpr const char* kAbout =
+    R"(The report without a window.
 
-options
-  --repository FILE       a local repository file, or
-  --tns NAME              a database by its TNS alias
-  --user NAME             default PERFSTAT
-  --password-file FILE    the password is the file's first line; else the variable
-                          KESTRELIX_PASSWORD; else perfstat for a local file
-  --format csv|text       default text
-
-commands
   instances               the instances of the repository, with their index I
   pairs --instance I      the snapshot pairs of an instance, with their index P
   sections --instance I   the names of the Sections that the instance has
@@ -44,67 +36,36 @@ Boxes go to standard error. Exit status: 0, 1 if there was a critical box, 2 for
 wrong usage.
 )";
 
-namespace {
-
-int number(const std::string& option, const std::string& text) {
-  int value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error != std::errc() || end != text.data() + text.size() || value < 0)
-    throw UsageError(option + " takes a whole number from 0, not '" + text + "'");
-  return value;
-}
-
 }  // namespace
 
-Options parseOptions(const std::vector<std::string>& arguments) {
+std::optional<Options> readOptions(std::span<const std::string> words) {
   Options options;
-  using Set = std::function<void(const std::string&)>;
-  const auto text = [](std::string& target) -> Set {
-    return [&target](const std::string& v) { target = v; };
-  };
-  const auto whole = [](const std::string& option, std::optional<int>& target) -> Set {
-    return [option, &target](const std::string& v) { target = number(option, v); };
-  };
-  const std::map<std::string, Set> valued{
-      {"--repository", text(options.repository)},
-      {"--tns", text(options.tns)},
-      {"--user", text(options.user)},
-      {"--password-file", text(options.passwordFile)},
-      {"--format",
-       [&](const std::string& v) {
-         if (v != "csv" && v != "text") throw UsageError("--format is csv or text, not '" + v + "'");
-         options.csv = v == "csv";
-       }},
-      {"--instance", whole("--instance", options.instance)},
-      {"--pair", whole("--pair", options.pair)},
-      {"--row", whole("--row", options.row)},
-      {"--column", whole("--column", options.column)},
-      {"--from", whole("--from", options.from)},
-      {"--to", whole("--to", options.to)},
-      {"--page", text(options.page)},
-      {"--version", text(options.version)},
-  };
-
-  std::vector<std::string> words;
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& argument = arguments[i];
-    if (argument == "--help" || argument == "-h") {
-      options.help = true;
-    } else if (argument == "--shaped") {
-      options.shaped = true;
-    } else if (const auto found = valued.find(argument); found != valued.end()) {
-      if (++i == arguments.size()) throw UsageError(argument + " needs a value");
-      found->second(arguments[i]);
-    } else if (argument.starts_with('-')) {
-      throw UsageError("there is no option " + argument);
-    } else {
-      words.push_back(argument);
-    }
-  }
-  if (!words.empty()) options.command = words[0];
-  if (words.size() > 1) options.name = words[1];
-  if (words.size() > 2) throw UsageError("'" + words[2] + "' is one word too many");
+  std::string format;
+  console::CommandLine line("kestrelix-report", kAbout);
+  line.word("COMMAND", options.command)
+      .optionalWord("NAME", options.name)
+      .text("--repository", "FILE", options.repository, "a local repository file, or")
+      .text("--tns", "NAME", options.tns, "a database by its TNS alias")
+      .text("--user", "NAME", options.user, "default PERFSTAT");
+  console::addPasswordOptions(line, options.password, ", else perfstat for a local file");
+  line.choice("--format", {"csv", "text"}, format, "default text")
+      .whole<int>("--instance", "I", options.instance, "the instance, from 0")
+      .whole<int>("--pair", "P", options.pair, "the pair, from 0")
+      .whole<int>("--row", "R", options.row, "the row of the view, from 1")
+      .whole<int>("--column", "C", options.column, "the column of the series, from 0")
+      .whole<int>("--from", "P1", options.from, "the first pair of the range")
+      .whole<int>("--to", "P2", options.to, "the last pair of the range")
+      .text("--page", "N", options.page, "the page of the chart, from 1, or start, end or max; default start")
+      .flag("--shaped", options.shaped, "the SQL by its own lines")
+      .choice("--version", {"9", "10", "11"}, options.version, "the statements for this release alone");
+  if (!line.read(words, std::cout)) return std::nullopt;
+  options.csv = format == "csv";
   return options;
+}
+
+std::string connectText(const Options& options) {
+  const bool local = !options.repository.empty();
+  return asciiUpper(options.user) + "/" + console::readPassword(options.password, local ? "perfstat" : "");
 }
 
 }  // namespace kestrelix::report_tool

@@ -2,26 +2,22 @@
 #pragma once
 
 #include <optional>
-#include <stdexcept>
+#include <span>
 #include <string>
-#include <vector>
+
+#include "console/password.h"
 
 namespace kestrelix::report_tool {
 
-/// A command line that can't be taken; its text is one line for the user.
-class UsageError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
+using console::UsageError;
 
 /// Rows, pairs and instances count from 0, but a grid row from 1, as the grid's own "NO" does.
 struct Options {
   std::string repository;
   std::string tns;
   std::string user = "PERFSTAT";
-  std::string passwordFile;
+  console::PasswordSource password;
   bool csv = false;
-  bool help = false;
 
   std::string command;
   std::string name;  ///< of the Section, for the commands that take one
@@ -36,9 +32,10 @@ struct Options {
   bool shaped = false;
 };
 
-/// Fails with UsageError.
-Options parseOptions(const std::vector<std::string>& arguments);
+/// Nothing when the help was asked for, which is printed then. Fails with UsageError.
+std::optional<Options> readOptions(std::span<const std::string> words);
 
-extern const char* const kUsage;
+/// The user and the password as a database takes them, "USER/password". Fails with UsageError.
+std::string connectText(const Options& options);
 
 }  // namespace kestrelix::report_tool

@@ -1,8 +1,5 @@
 #include "report_run.h"
 
-#include <cstdlib>
-#include <fstream>
-
 #include "app/back_ends.h"
 #include "navigation/ModuleLoadCommon.h"
 #include "navigation/ModuleRangeCommon.h"
@@ -15,18 +12,6 @@
 #include "sections/sql/ModuleDispSQLShaping.h"
 
 namespace kestrelix::report_tool {
-
-std::string password(const Options& options) {
-  if (!options.passwordFile.empty()) {
-    std::ifstream file(options.passwordFile);
-    std::string line;
-    if (!std::getline(file, line)) throw UsageError("no password can be read from " + options.passwordFile);
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    return line;
-  }
-  if (const char* variable = std::getenv("KESTRELIX_PASSWORD")) return variable;
-  return options.repository.empty() ? std::string() : std::string("perfstat");
-}
 
 namespace {
 
@@ -53,7 +38,7 @@ ReportRun::ReportRun(MessageBoxes& boxes, const Options& options) : options_(opt
 void ReportRun::connect() {
   if (options_.repository.empty() == options_.tns.empty())
     throw UsageError("name the repository by one of --repository FILE and --tns NAME");
-  const std::string connect = asciiUpper(options_.user) + "/" + password(options_);
+  const std::string connect = connectText(options_);
   const bool open = guarded(workspace_.boxes, "ModuleCommon", "OPEN_Conect", [&] {
     if (options_.repository.empty())
       workspace_.gOraSession = anySession(programFolder());

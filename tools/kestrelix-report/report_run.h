@@ -7,9 +7,6 @@
 
 namespace kestrelix::report_tool {
 
-/// From the password file, the variable or, for a local file, the default. Fails with UsageError.
-std::string password(const Options& options);
-
 /// One report on the road of the window: connect, load the lists, select, render. A step that has shown its
 /// box ends with Stopped.
 class ReportRun {

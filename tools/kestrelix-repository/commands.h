@@ -4,19 +4,24 @@
 #include <span>
 #include <string>
 
+#include "console/command_line.h"
+#include "platform/embedded/writing/repository_writer.h"
+
 namespace kestrelix {
 
-/// Exit codes of every command.
-inline constexpr int kExitDone = 0;
-inline constexpr int kExitFailed = 1;
-inline constexpr int kExitWrongUsage = 2;
+/// The repository that a command makes.
+struct NewFile {
+  std::string name;
+  bool force = false;
 
-/// Whether the file is there already, which is told then.
-bool refuseToReplace(const std::string& file);
+  void addForceOption(console::CommandLine& line);
+  /// Fails if the file is there and isn't to be replaced.
+  embedded::Existing existing() const;
+};
 
-int demoCommand(std::span<const std::string> arguments);
-int copyCommand(std::span<const std::string> arguments);
-int importCommand(std::span<const std::string> arguments);
-int queryCommand(std::span<const std::string> arguments);
+int demoCommand(std::span<const std::string> words);
+int copyCommand(std::span<const std::string> words);
+int importCommand(std::span<const std::string> words);
+int queryCommand(std::span<const std::string> words);
 
 }  // namespace kestrelix

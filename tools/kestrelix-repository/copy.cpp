@@ -1,12 +1,11 @@
 // kestrelix-repository copy: a local repository from a server.
 #include <algorithm>
-#include <charconv>
-#include <cstdlib>
 #include <iostream>
-#include <map>
 #include <optional>
 
 #include "commands.h"
+#include "console/password.h"
+#include "console/run.h"
 #include "interrupt.h"
 #include "platform/ascii.h"
 #include "platform/embedded/writing/repository_writer.h"
@@ -17,23 +16,9 @@
 namespace kestrelix {
 namespace {
 
-constexpr const char* kHelp =
-    R"(usage: kestrelix-repository copy --tns NAME --user U FILE [--dbid D] [--instance N] [--from ID] [--to ID]
-                                 [--password-stdin] [--force]
-
-Brings the stats$ tables of a server into the local repository FILE, through ODBC as kestrelix itself would.
-What the server lacks is skipped and said.
-
-  --tns NAME        an ODBC data source, or a net service name for Oracle's driver
-  --user U          the user to log on as; the password is the variable KESTRELIX_PASSWORD
-  --password-stdin  the password is the first line of the standard input
-  --dbid D          only the database with this DBID
-  --instance N      only this instance
-  --from ID         only snapshots from this one on
-  --to ID           only snapshots up to this one
-  --force           replace FILE if it is there, once the new one is whole
-
-The account of FILE is PERFSTAT, password perfstat.
+constexpr const char* kAbout =
+    R"(Brings the stats$ tables of a server into the local repository FILE, through ODBC as kestrelix itself would.
+What the server lacks is skipped and said. The account of FILE is PERFSTAT, password perfstat.
 )";
 
 class CopyError : public std::runtime_error {
@@ -44,67 +29,30 @@ class CopyError : public std::runtime_error {
 struct CopyOptions {
   std::string tns;
   std::string user;
-  std::string file;
-  bool passwordFromInput = false;
-  bool force = false;
-  /// By the column that each narrows, with its comparison: "snap_id >= ".
-  std::vector<std::pair<std::string, std::string>> filters;
+  console::PasswordSource password;
+  NewFile file;
+  std::optional<std::int64_t> dbid;
+  std::optional<std::int64_t> instance;
+  std::optional<std::int64_t> from;
+  std::optional<std::int64_t> to;
 };
 
-bool isWhole(const std::string& text) {
-  std::int64_t value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  return error == std::errc() && end == text.data() + text.size();
-}
-
-/// Nothing for wrong usage, which has been told then.
-std::optional<CopyOptions> parse(std::span<const std::string> arguments) {
-  const std::map<std::string, std::string> filters{{"--dbid", "dbid = "},
-                                                   {"--instance", "instance_number = "},
-                                                   {"--from", "snap_id >= "},
-                                                   {"--to", "snap_id <= "}};
-  CopyOptions options;
-  const auto wrong = [](const std::string& why) {
-    std::cerr << why << "\n\n" << kHelp;
-    return std::nullopt;
-  };
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& word = arguments[i];
-    if (word == "--force") {
-      options.force = true;
-    } else if (word == "--password-stdin") {
-      options.passwordFromInput = true;
-    } else if (word.starts_with("--")) {
-      const auto filter = filters.find(word);
-      if (word != "--tns" && word != "--user" && filter == filters.end())
-        return wrong("unknown option: " + word);
-      if (++i == arguments.size()) return wrong(word + " needs a value");
-      if (word == "--tns") options.tns = arguments[i];
-      if (word == "--user") options.user = arguments[i];
-      if (filter != filters.end()) {
-        if (!isWhole(arguments[i])) return wrong(word + " takes a whole number");
-        options.filters.emplace_back(filter->second, arguments[i]);
-      }
-    } else if (options.file.empty()) {
-      options.file = word;
-    } else {
-      return wrong("one file is enough: " + word);
-    }
-  }
-  if (options.tns.empty() || options.user.empty() || options.file.empty())
-    return wrong("--tns, --user and a file are needed");
-  return options;
-}
-
-std::string password(const CopyOptions& options) {
-  std::string text;
-  if (options.passwordFromInput) {
-    std::getline(std::cin, text);
-    if (text.ends_with('\r')) text.pop_back();
-  } else if (const char* variable = std::getenv("KESTRELIX_PASSWORD")) {
-    text = variable;
-  }
-  return text;
+/// False when the help was asked for, which is printed then.
+bool read(std::span<const std::string> words, CopyOptions& options) {
+  console::CommandLine line("kestrelix-repository copy", kAbout);
+  line.word("FILE", options.file.name)
+      .text("--tns", "NAME", options.tns, "an ODBC data source, or a net service name for Oracle's driver")
+      .text("--user", "U", options.user, "the user to log on as");
+  console::addPasswordOptions(line, options.password, "");
+  line.whole<std::int64_t>("--dbid", "D", options.dbid, "only the database with this DBID")
+      .whole<std::int64_t>("--instance", "N", options.instance, "only this instance")
+      .whole<std::int64_t>("--from", "ID", options.from, "only snapshots from this one on")
+      .whole<std::int64_t>("--to", "ID", options.to, "only snapshots up to this one");
+  options.file.addForceOption(line);
+  if (!line.read(words, std::cout)) return false;
+  if (options.tns.empty()) throw console::UsageError("--tns is needed");
+  if (options.user.empty()) throw console::UsageError("--user is needed");
+  return true;
 }
 
 /// Whether the server says that the table is not there, or not for this user: the states of syntax and access
@@ -138,12 +86,16 @@ std::string statementFor(const std::string& table, const std::vector<std::string
   for (std::size_t i = 0; i < columns.size(); ++i) text += (i == 0 ? "" : ", ") + columns[i];
   text += " from " + table;
   const char* joint = " where ";
-  for (const auto& [comparison, value] : options.filters) {
-    const std::string column = comparison.substr(0, comparison.find(' '));
-    if (std::find(columns.begin(), columns.end(), column) == columns.end()) continue;
-    text += joint + comparison + value;
+  const auto narrow = [&](const char* column, const char* comparison,
+                          const std::optional<std::int64_t>& value) {
+    if (!value || std::find(columns.begin(), columns.end(), column) == columns.end()) return;
+    text += joint + std::string(column) + comparison + std::to_string(*value);
     joint = " and ";
-  }
+  };
+  narrow("dbid", " = ", options.dbid);
+  narrow("instance_number", " = ", options.instance);
+  narrow("snap_id", " >= ", options.from);
+  narrow("snap_id", " <= ", options.to);
   return text;
 }
 
@@ -180,19 +132,14 @@ std::int64_t copyTable(odbc::OdbcDatabase& database, embedded::RepositoryWriter&
 
 }  // namespace
 
-int copyCommand(std::span<const std::string> arguments) {
-  if (!arguments.empty() && (arguments[0] == "--help" || arguments[0] == "-h")) {
-    std::cout << kHelp;
-    return kExitDone;
-  }
-  const auto options = parse(arguments);
-  if (!options) return kExitWrongUsage;
-  if (!options->force && refuseToReplace(options->file)) return kExitFailed;
-  const auto database =
-      odbc::openOdbc(asciiUpper(options->tns), asciiUpper(options->user) + "/" + password(*options));
+int copyCommand(std::span<const std::string> words) {
+  CopyOptions options;
+  if (!read(words, options)) return console::kExitDone;
+  const embedded::Existing existing = options.file.existing();
+  const auto database = odbc::openOdbc(
+      asciiUpper(options.tns), asciiUpper(options.user) + "/" + console::readPassword(options.password, ""));
   watchInterrupts();
-  embedded::RepositoryWriter writer(options->file, {}, "kestrelix-repository copy",
-                                    options->force ? embedded::Existing::Replace : embedded::Existing::Keep);
+  embedded::RepositoryWriter writer(options.file.name, {}, "kestrelix-repository copy", existing);
   const auto& tables = statspack::everyRelease().tables();
   std::int64_t rows = 0;
   std::int64_t copied = 0;
@@ -203,14 +150,14 @@ int copyCommand(std::span<const std::string> arguments) {
       bar.show(static_cast<std::int64_t>(i), static_cast<std::int64_t>(tables.size()));
       const auto columns = columnsOf(*database, tables[i].name);
       if (!columns) continue;
-      rows += copyTable(*database, writer, tables[i], *columns, *options);
+      rows += copyTable(*database, writer, tables[i], *columns, options);
       ++copied;
     }
   }
-  if (copied == 0) throw CopyError(options->tns + " has none of the tables; nothing was made");
+  if (copied == 0) throw CopyError(options.tns + " has none of the tables; nothing was made");
   writer.finish(checkInterrupts);
-  std::cout << options->file << ": " << copied << " tables, " << rows << " rows\n";
-  return kExitDone;
+  std::cout << options.file.name << ": " << copied << " tables, " << rows << " rows\n";
+  return console::kExitDone;
 }
 
 }  // namespace kestrelix

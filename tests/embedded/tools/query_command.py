@@ -58,7 +58,9 @@ def main():
         for words in ([], [repository], [repository, "a", "b"], [repository, "a", "--what"],
                       [repository, "select 1 from dual", "--bind"], [repository, "select 1 from dual", "--bind", "x"]):
             run = query(*words)
-            check("wrong usage ends with 2", run.returncode == 2 and b"usage:" in run.stderr, (words, run))
+            check("wrong usage is one line and ends with 2", run.returncode == 2 and run.stdout == b"" and
+                  run.stderr.count(b"\n") == 1 and run.stderr.startswith(b"kestrelix-repository: ") and
+                  run.stderr.endswith(b"; --help tells the usage\n"), (words, run))
         run = query("--help")
         check("--help ends with 0", run.returncode == 0 and b"--bind" in run.stdout, run)
     return 1 if failures else 0
