@@ -77,7 +77,7 @@ TEST_F(MakingRepositories, wrongUsageIsOneLine) {
 TEST_F(MakingRepositories, everyCommandOfTheHelpIsThere) {
   const std::string help = run("--help").output;
   for (const char* command : {"demo", "import", "copy", "query"}) {
-    EXPECT_THAT(help, testing::HasSubstr("\n  " + std::string(command) + "\t"));
+    EXPECT_THAT(help, testing::HasSubstr("\n  " + std::string(command) + " "));
     const Outcome outcome = run(std::string(command) + " --help");
     EXPECT_EQ(outcome.status, 0) << command;
     EXPECT_EQ(outcome.errors, "") << command;

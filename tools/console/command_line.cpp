@@ -4,6 +4,8 @@
 #include <ostream>
 #include <set>
 
+#include "console/help_list.h"
+
 namespace kestrelix::console {
 namespace {
 
@@ -16,10 +18,6 @@ std::string joined(const std::vector<std::string>& texts, const std::string& joi
   for (std::size_t i = 0; i < texts.size(); ++i)
     text += (i == 0 ? "" : i + 1 == texts.size() ? last : joint) + texts[i];
   return text;
-}
-
-std::string typed(const Option& option) {
-  return option.name + (option.value.empty() ? "" : " ") + option.value;
 }
 
 }  // namespace
@@ -97,20 +95,10 @@ std::string CommandLine::help() const {
   std::string text = "usage: " + usage_;
   for (const Word& word : words_) text += word.needed ? " " + word.what : " [" + word.what + "]";
   text += std::string(options_.empty() ? "" : " [options]") + "\n\n" + about_;
-  if (!options_.empty()) text += "\n";
-  std::size_t width = 0;
-  for (const Option& option : options_) width = std::max(width, typed(option).size() + 4);
-  for (const Option& option : options_) {
-    std::string begin = "  " + typed(option);
-    for (std::size_t from = 0; from <= option.help.size();) {
-      const std::size_t end = std::min(option.help.find('\n', from), option.help.size());
-      begin.resize(width, ' ');
-      text += begin + option.help.substr(from, end - from) + "\n";
-      begin.clear();
-      from = end + 1;
-    }
-  }
-  return text;
+  std::vector<HelpEntry> entries;
+  for (const Option& option : options_)
+    entries.push_back({option.name + (option.value.empty() ? "" : " ") + option.value, option.help});
+  return text + (entries.empty() ? "" : "\n") + helpList(entries);
 }
 
 }  // namespace kestrelix::console

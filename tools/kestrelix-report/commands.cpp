@@ -1,10 +1,10 @@
 #include "commands.h"
 
 #include <iostream>
-#include <map>
 
 #include "chart.h"
 #include "check.h"
+#include "console/help_list.h"
 #include "report_run.h"
 #include "sections/EveryStatement.h"
 
@@ -79,18 +79,55 @@ void statements(const Options& options, StderrBoxes&) {
   print(std::cout, table, options.csv);
 }
 
-using Command = void (*)(const Options&, StderrBoxes&);
-const std::map<std::string, Command> kCommands{
-    {"instances", instances},   {"pairs", pairs}, {"sections", sections},
-    {"section", section},       {"sql", sql},     {"plan", plan},
-    {"statements", statements}, {"chart", chart}, {"check", check}};
+struct Command {
+  const char* name;
+  const char* options;
+  const char* help;
+  void (*run)(const Options&, StderrBoxes&);
+};
+
+constexpr Command kCommands[] = {
+    {"instances", "", "the instances of the repository, with their index I", instances},
+    {"pairs", " --instance I", "the snapshot pairs of an instance, with their index P", pairs},
+    {"sections", " --instance I", "the names of the Sections that the instance has", sections},
+    {"section", " NAME --instance I --pair P [--row R] [--from P1] [--to P2]",
+     "the All view of a Section for a pair; with --row the\n"
+     "series that row R of that view leads to, over all pairs\n"
+     "or over those from P1 to P2",
+     section},
+    {"chart", " NAME --instance I --pair P --row R --column C [--page N|start|end|max]",
+     "a page of 20 pairs of the chart of column C of that\n"
+     "series, \"NO\" being column 0: title, axis maximum, and\n"
+     "labels and values, as CSV",
+     chart},
+    {"sql", " NAME --instance I --pair P --row R [--shaped]",
+     "the stored text of the SQL in row R of an SQL ranking,\n"
+     "by its pieces or, shaped, by the statement's own lines",
+     sql},
+    {"plan", " NAME --instance I --pair P --row R", "the execution plans that it used in the pair", plan},
+    {"check", " --tns NAME",
+     "tries the name, the driver, the login and each table in\n"
+     "turn and says what is missing",
+     check},
+    {"statements", " [--version V]",
+     "every statement that the program can send, for all\n"
+     "versions or for 9, 10 or 11; needs no repository",
+     statements},
+};
 
 }  // namespace
 
+std::string commandHelp() {
+  std::vector<console::HelpEntry> entries;
+  for (const Command& command : kCommands)
+    entries.push_back({std::string(command.name) + command.options, command.help});
+  return console::helpList(entries);
+}
+
 void runCommand(const Options& options, StderrBoxes& boxes) {
-  const auto found = kCommands.find(options.command);
-  if (found == kCommands.end()) throw UsageError("there is no command " + options.command);
-  found->second(options, boxes);
+  for (const Command& command : kCommands)
+    if (options.command == command.name) return command.run(options, boxes);
+  throw UsageError("there is no command " + options.command);
 }
 
 }  // namespace kestrelix::report_tool

@@ -6,6 +6,9 @@
 
 namespace kestrelix::report_tool {
 
+/// The commands as the help tells them.
+std::string commandHelp();
+
 /// Runs the command that the options name. Fails with UsageError for a command that there isn't.
 void runCommand(const Options& options, StderrBoxes& boxes);
 

@@ -2,36 +2,14 @@
 
 #include <iostream>
 
+#include "commands.h"
 #include "platform/ascii.h"
 
 namespace kestrelix::report_tool {
 namespace {
 
-constexpr const char* kAbout =
-    R"(The report without a window.
-
-  instances               the instances of the repository, with their index I
-  pairs --instance I      the snapshot pairs of an instance, with their index P
-  sections --instance I   the names of the Sections that the instance has
-  section NAME --instance I --pair P [--row R] [--from P1] [--to P2]
-                          the All view of a Section for a pair; with --row the
-                          series that row R of that view leads to, over all pairs
-                          or over those from P1 to P2
-  chart NAME --instance I --pair P --row R --column C [--page N|start|end|max]
-                          a page of 20 pairs of the chart of column C of that
-                          series, "NO" being column 0: title, axis maximum, and
-                          labels and values, as CSV
-  sql NAME --instance I --pair P --row R [--shaped]
-                          the stored text of the SQL in row R of an SQL ranking,
-                          by its pieces or, shaped, by the statement's own lines
-  plan NAME --instance I --pair P --row R
-                          the execution plans that it used in the pair
-  check --tns NAME        tries the name, the driver, the login and each table in turn
-                          and says what is missing
-  statements [--version V]
-                          every statement that the program can send, for all
-                          versions or for 9, 10 or 11; needs no repository
-
+constexpr const char* kExitStatus =
+    R"(
 Boxes go to standard error. Exit status: 0, 1 if there was a critical box, 2 for
 wrong usage.
 )";
@@ -41,7 +19,8 @@ wrong usage.
 std::optional<Options> readOptions(std::span<const std::string> words) {
   Options options;
   std::string format;
-  console::CommandLine line("kestrelix-report", kAbout);
+  console::CommandLine line("kestrelix-report",
+                            "The report without a window.\n\n" + commandHelp() + kExitStatus);
   line.word("COMMAND", options.command)
       .optionalWord("NAME", options.name)
       .text("--repository", "FILE", options.repository, "a local repository file, or")

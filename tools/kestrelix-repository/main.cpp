@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "commands.h"
+#include "console/help_list.h"
 #include "console/run.h"
 #include "console/usage_error.h"
 
@@ -23,9 +24,10 @@ constexpr NamedCommand kCommands[] = {
 };
 
 void printHelp() {
-  std::cout << "usage: kestrelix-repository COMMAND ...\n\n";
-  for (const auto& command : kCommands) std::cout << "  " << command.name << "\t" << command.summary << "\n";
-  std::cout << "\nkestrelix-repository COMMAND --help tells more.\n";
+  std::vector<console::HelpEntry> commands;
+  for (const auto& command : kCommands) commands.push_back({command.name, command.summary});
+  std::cout << "usage: kestrelix-repository COMMAND ...\n\n"
+            << console::helpList(commands) << "\nkestrelix-repository COMMAND --help tells more.\n";
 }
 
 int runCommand(std::span<const std::string> words) {
