@@ -23,6 +23,13 @@ ROOMS = {
             "platform"},
 }
 
+# The programs without a window and what they share, beside src/. No room includes these.
+TOOLS = {
+    "console": {"platform"},
+    "kestrelix-report": {"console", *ROOMS} - {"platform/qt"},
+    "kestrelix-repository": {"console", "documents", "platform", "platform/embedded", "platform/odbc", "statspack"},
+}
+
 # Headers of libraries, and the only rooms that may see them.
 FOREIGN = [
     (re.compile(r"^Q[A-Z]|^Qt"), {"platform/qt", "app"}),
@@ -34,19 +41,20 @@ FOREIGN = [
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 
-def room_of(path):
-    """The room that a path below src/ lies in: the longest name that fits."""
-    fits = [room for room in ROOMS if path == room or path.startswith(room + "/")]
+def room_of(path, rooms):
+    """The room that a path below src/ or tools/ lies in: the longest name that fits."""
+    fits = [room for room in rooms if path == room or path.startswith(room + "/")]
     return max(fits, key=len) if fits else None
 
 
-def check(source_root):
+def check(folder, arrows):
     faults = []
-    for file in sorted(source_root.rglob("*")):
+    every_room = ROOMS.keys() | TOOLS.keys()
+    for file in sorted(folder.rglob("*")):
         if file.suffix not in (".h", ".cpp"):
             continue
-        relative = file.relative_to(source_root).as_posix()
-        room = room_of(relative)
+        relative = file.relative_to(folder).as_posix()
+        room = room_of(relative, arrows)
         if room is None:
             faults.append(f"{relative}: lies in no room")
             continue
@@ -55,8 +63,8 @@ def check(source_root):
             if not match:
                 continue
             quote, name = match.groups()
-            target = room_of(name) if quote == '"' else None
-            if target and target != room and target not in ROOMS[room]:
+            target = room_of(name, every_room) if quote == '"' else None
+            if target and target != room and target not in arrows[room]:
                 faults.append(f"{relative}:{number}: {room} must not include {name}")
             for pattern, allowed in FOREIGN:
                 if pattern.match(name) and room not in allowed:
@@ -65,11 +73,11 @@ def check(source_root):
 
 
 def main():
-    root = pathlib.Path(sys.argv[1]) / "src"
-    files = list(root.rglob("*.h"))
+    root = pathlib.Path(sys.argv[1])
+    files = [file for folder in ("src", "tools") for file in (root / folder).rglob("*.h")]
     if not files:
         sys.exit(f"no headers under {root}: nothing was checked")
-    faults = check(root)
+    faults = check(root / "src", ROOMS) + check(root / "tools", TOOLS)
     print("\n".join(faults) or f"the includes of {len(files)} headers and their sources keep to the arrows")
     sys.exit(1 if faults else 0)
 

@@ -7,15 +7,21 @@ import sys
 import tempfile
 
 PLANTED = [
-    ("arrows.py", "report/a.h", '#include "sections/b.h"\n'),
-    ("arrows.py", "report/a.h", "#include <QWidget>\n"),
-    ("arrows.py", "shell/a.h", "#include <sqlite3.h>\n"),
-    ("arrows.py", "platform/qt/a.h", "#include <chm_lib.h>\n"),
-    ("arrows.py", "platform/embedded/a.h", "#include <sqlext.h>\n"),
-    ("arrows.py", "documents/a.h", '#include "report/b.h"\n'),
-    ("arrows.py", "elsewhere/a.h", "int a;\n"),
-    ("locale_dependence.py", "report/a.h", "double a = std::stod(text);\n"),
-    ("locale_dependence.py", "report/a.h", 'snprintf(text, 9, "%5.1f", a);\n'),
+    ("arrows.py", "src/report/a.h", '#include "sections/b.h"\n'),
+    ("arrows.py", "src/report/a.h", "#include <QWidget>\n"),
+    ("arrows.py", "src/shell/a.h", "#include <sqlite3.h>\n"),
+    ("arrows.py", "src/platform/qt/a.h", "#include <chm_lib.h>\n"),
+    ("arrows.py", "src/platform/embedded/a.h", "#include <sqlext.h>\n"),
+    ("arrows.py", "src/documents/a.h", '#include "report/b.h"\n'),
+    ("arrows.py", "src/elsewhere/a.h", "int a;\n"),
+    ("arrows.py", "src/report/a.h", '#include "console/b.h"\n'),
+    ("arrows.py", "tools/console/a.h", '#include "report/b.h"\n'),
+    ("arrows.py", "tools/kestrelix-repository/a.h", '#include "shell/b.h"\n'),
+    ("arrows.py", "tools/kestrelix-report/a.h", '#include "kestrelix-repository/b.h"\n'),
+    ("arrows.py", "tools/kestrelix-report/a.h", "#include <sqlite3.h>\n"),
+    ("arrows.py", "tools/elsewhere/a.h", "int a;\n"),
+    ("locale_dependence.py", "src/report/a.h", "double a = std::stod(text);\n"),
+    ("locale_dependence.py", "src/report/a.h", 'snprintf(text, 9, "%5.1f", a);\n'),
 ]
 
 
@@ -23,7 +29,7 @@ def main():
     here = pathlib.Path(__file__).parent
     for lint, file, text in PLANTED:
         with tempfile.TemporaryDirectory() as folder:
-            path = pathlib.Path(folder) / "src" / file
+            path = pathlib.Path(folder) / file
             path.parent.mkdir(parents=True)
             path.write_text(text, encoding="utf-8")
             result = subprocess.run([sys.executable, here / lint, folder], capture_output=True, text=True)
