@@ -13,6 +13,7 @@ bool isOption(const std::string& word) {
   return word.starts_with('-') && word.find_first_of(" \t\r\n") == std::string::npos;
 }
 
+/// The last two stand with another joint between: "a, b or c".
 std::string joined(const std::vector<std::string>& texts, const std::string& joint, const std::string& last) {
   std::string text;
   for (std::size_t i = 0; i < texts.size(); ++i)
@@ -21,8 +22,6 @@ std::string joined(const std::vector<std::string>& texts, const std::string& joi
 }
 
 }  // namespace
-
-std::string listed(const std::vector<std::string>& choices) { return joined(choices, ", ", " or "); }
 
 CommandLine::CommandLine(std::string usage, std::string about)
     : usage_(std::move(usage)), about_(std::move(about)) {}
@@ -60,7 +59,7 @@ CommandLine& CommandLine::choice(const std::string& name, const std::vector<std:
                                  std::string& target, const std::string& help) {
   return add({name, joined(choices, "|", "|"), help, [=, &target](const std::string& given) {
                 if (std::find(choices.begin(), choices.end(), given) == choices.end())
-                  throw UsageError(name + " is " + listed(choices) + ", not '" + given + "'");
+                  throw UsageError(name + " is " + joined(choices, ", ", " or ") + ", not '" + given + "'");
                 target = given;
               }});
 }

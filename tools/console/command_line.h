@@ -67,9 +67,6 @@ class CommandLine {
   std::vector<Option> options_;
 };
 
-/// "a, b or c".
-std::string listed(const std::vector<std::string>& choices);
-
 template <std::integral Number, class Target>
 CommandLine& CommandLine::whole(const std::string& name, const std::string& value, Target& target,
                                 const std::string& help, Number least, Number most) {
