@@ -107,7 +107,7 @@ inline constexpr long kDynasetOptions = 28;
 /// Option of OpenDatabase: Oracle mode.
 inline constexpr long kDatabaseOptions = 1;
 
-/// An open connection.
+/// An open connection. All but cancel() is for one thread.
 class Database {
  public:
   virtual ~Database() = default;
@@ -115,6 +115,14 @@ class Database {
   /// Runs a query with the binds that stand in parameters(). Binds that the statement does not name are
   /// harmless. Only queries run: anything else fails.
   virtual std::unique_ptr<Dynaset> DbCreateDynaset(const std::string& sql, long options) = 0;
+
+  /// Ends the statement that runs now, from its sending to its last row: it fails with Cancelled, or still
+  /// gives its result if that was there. The connection stays usable. May be called from any thread at any
+  /// time of the connection's life. Where no statement runs it does nothing, and never to the next one; a
+  /// driver may also overlook it at a statement's very beginning. So who wants an action to end calls it
+  /// again and again until the action has. A driver that gets no answer can keep it waiting: not to be called
+  /// by a thread that must not wait.
+  virtual void cancel() = 0;
 
   Parameters& parameters() { return parameters_; }
   const Parameters& parameters() const { return parameters_; }

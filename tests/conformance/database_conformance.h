@@ -5,7 +5,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <thread>
+
 #include "conformance/back_end.h"
+#include "platform/cancelled.h"
 
 namespace kestrelix::conformance {
 
@@ -46,9 +52,82 @@ class DatabaseConformance : public testing::TestWithParam<std::shared_ptr<BackEn
     database_->parameters()(name).value(value);
   }
 
+  /// Four rows joined with themselves so often that no machine comes to the end of them.
+  static std::string endless() {
+    std::string text = "stats$sample s1";
+    for (int i = 2; i <= 24; ++i) text += ", stats$sample s" + std::to_string(i);
+    return text;
+  }
+
+  /// Runs the statement on a thread of its own and cancels it until it has ended.
+  void expectCancelled(const std::string& sql) {
+    using namespace std::chrono_literals;
+    auto state = std::async(std::launch::async, [&] {
+      try {
+        run(sql);
+      } catch (const Cancelled& error) {
+        EXPECT_EQ(error.statement(), sql);
+        return error.sqlState();
+      } catch (const DatabaseError& error) {
+        return std::string("no cancellation: ") + error.what();
+      }
+      return std::string("a result");
+    });
+    EXPECT_EQ(state.wait_for(50ms), std::future_status::timeout) << "the statement isn't endless";
+    const auto begun = std::chrono::steady_clock::now();
+    do database_->cancel();
+    while (state.wait_for(10ms) == std::future_status::timeout);
+    // Far less than a second, with room for a machine that has much else to do.
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, 5s);
+    EXPECT_EQ(state.get(), "HY008") << sql;
+  }
+
   std::shared_ptr<BackEnd> backEnd_;
   std::unique_ptr<Database> database_;
 };
+
+TEST_P(DatabaseConformance, statementThatRunsIsCancelledFromAnotherThread) {
+  const std::string counting = "select count(*) from " + endless();
+  expectCancelled(counting);
+  EXPECT_EQ(one("select name from stats$sample where snap_id = 1"), "first");
+  expectCancelled(counting);
+  EXPECT_EQ(one("select name from stats$sample where snap_id = 2"), "second");
+}
+
+TEST_P(DatabaseConformance, rowsWithoutEndAreCancelledFromAnotherThread) {
+  expectCancelled("select s1.snap_id, s2.name from " + endless());
+  EXPECT_EQ(one("select name from stats$sample where snap_id = 1"), "first");
+}
+
+TEST_P(DatabaseConformance, cancelWhereNoStatementRunsIsHarmless) {
+  const std::string sql = "select name from stats$sample where snap_id = 1";
+  database_->cancel();
+  EXPECT_EQ(one(sql), "first");
+  const auto rows = run("select snap_id from stats$sample order by snap_id");
+  database_->cancel();
+  rows->MoveNext();
+  EXPECT_EQ(rows->Fields("snap_id").value(), "2");
+  EXPECT_EQ(one(sql), "first");
+}
+
+TEST_P(DatabaseConformance, cancelAtAnyMomentLeavesTheNextStatementRight) {
+  std::atomic<bool> enough = false;
+  std::thread canceller([&] {
+    while (!enough) {
+      database_->cancel();
+      std::this_thread::yield();
+    }
+  });
+  for (int i = 0; i < 100; ++i) {
+    try {
+      EXPECT_EQ(one("select name from stats$sample where snap_id = 1"), "first");
+    } catch (const Cancelled&) {  // as good an end as any
+    }
+  }
+  enough = true;
+  canceller.join();
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(one("select name from stats$sample where snap_id = 1"), "first");
+}
 
 TEST_P(DatabaseConformance, unknownNameOfADatabaseIsRefused) {
   try {

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "platform/cancelled.h"
 #include "platform/embedded/local_database.h"
 #include "support/fixture_repository.h"
 
@@ -54,6 +55,16 @@ TEST_F(Streaming, anErrorComesBehindTheRowsBeforeIt) {
   ASSERT_EQ(all.size(), 2u);
   EXPECT_EQ(all[0], "1|1");
   EXPECT_THAT(all[1], HasSubstr("ORA-01476: divisor is equal to zero\n  at line 1, column 13\n"));
+}
+
+TEST_F(Streaming, aCancelBetweenTwoRowsEndsThem) {
+  int rows = 0;
+  const auto cancelAtTheThird = [&](const auto&, const auto) {
+    if (++rows == 3) database->cancel();
+  };
+  EXPECT_THROW(database->stream("select name from stats$sysstat", cancelAtTheThird), Cancelled);
+  EXPECT_EQ(rows, 3);
+  EXPECT_THAT(lines("select name from stats$sysstat where value = 3"), ElementsAre("small"));
 }
 
 // 1331000 times 9E12 is 1.1979E19, and 64 bits hold 9.22E18.

@@ -10,6 +10,7 @@
 #include "navigation/ModuleRangeCommon.h"
 #include "navigation/version_gate.h"
 #include "odbc/postgres_cluster.h"
+#include "platform/cancelled.h"
 #include "platform/odbc/odbc_session.h"
 #include "report/ModuleDispCommon.h"
 #include "sections/SectionList.h"
@@ -77,6 +78,18 @@ TEST_F(Server, aHundredThousandRowsComeInOrder) {
                    });
   EXPECT_EQ(rows, 100000);
   EXPECT_TRUE(inOrder);
+}
+
+TEST_F(Server, aCancelBetweenTwoRowsEndsTheRowsAtTheNextBlock) {
+  const auto database = open();
+  long rows = 0;
+  EXPECT_THROW(database->stream("select i from generate_series(1, 100000) as t(i)",
+                                [&](const auto&, const odbc::RowStream::Row&) {
+                                  if (++rows == 3) database->cancel();
+                                }),
+               Cancelled);
+  EXPECT_LE(rows, 256);
+  EXPECT_EQ(one(*database, "select 7 as x"), "7");
 }
 
 TEST_F(Server, numbersOfAllKindsArePlainText) {

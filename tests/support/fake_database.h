@@ -84,6 +84,8 @@ class FakeDatabase : public Database {
     }
     throw DatabaseError("42S02", 942, "nothing is laid down for this statement", sql);
   }
+  /// Answers come at once: there is never one to cancel.
+  void cancel() override {}
 
  private:
   FakeServer& server_;

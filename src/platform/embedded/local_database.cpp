@@ -9,11 +9,13 @@
 #include "oracle_sql/date.h"
 #include "oracle_sql/error.h"
 #include "oracle_sql/function_error.h"
+#include "platform/cancelled.h"
 #include "platform/embedded/account.h"
 #include "platform/embedded/repository_file.h"
 #include "platform/embedded/result_rows.h"
 #include "platform/embedded/statement_cache.h"
 #include "platform/embedded/storage.h"
+#include "platform/running_statement.h"
 
 namespace kestrelix::embedded {
 namespace {
@@ -76,6 +78,11 @@ std::optional<std::string> cellText(sqlite3_stmt* row, int column, sql::TypeKind
   }
 }
 
+/// Steps of SQLite's machine between two looks at whether the statement is to end: some microseconds.
+constexpr int kStepsUnasked = 1000;
+
+int isCancelled(void* running) { return static_cast<RunningStatement*>(running)->cancelled() ? 1 : 0; }
+
 struct ResetStatement {
   void operator()(sqlite3_stmt* statement) const { sqlite3_reset(statement); }
 };
@@ -87,7 +94,12 @@ class LocalDatabase::Engine {
   explicit Engine(const std::filesystem::path& path)
       : connection_(openRepositoryFile(path)),
         catalogue_(connection_.get()),
-        cache_(connection_.get(), catalogue_, evaluation_) {}
+        cache_(connection_.get(), catalogue_, evaluation_) {
+    // SQLite forgets an interrupt that comes just before a statement's first step.
+    sqlite3_progress_handler(connection_.get(), kStepsUnasked, isCancelled, &running_);
+  }
+
+  void cancel() { running_.cancel(); }
 
   sqlite3* connection() { return connection_.get(); }
 
@@ -103,6 +115,7 @@ class LocalDatabase::Engine {
     std::shared_ptr<const std::vector<std::string>> names;
     std::vector<std::optional<std::string>> cells;
     std::size_t rows = 0;
+    const RunningStatement::Run run(running_);
     const auto collect = [&](bool wideSums) {
       cells.clear();
       names = walk(text, binds, wideSums, [&](const Names&, Row& row) {
@@ -120,6 +133,7 @@ class LocalDatabase::Engine {
 
   std::vector<std::string> stream(const std::string& text, const Parameters& binds, const RowSink& sink) {
     std::size_t given = 0;
+    const RunningStatement::Run run(running_);
     const auto give = [&](const Names& names, Row& row) {
       ++given;
       sink(names, row);
@@ -152,6 +166,8 @@ class LocalDatabase::Engine {
     evaluation_.rownums.assign(static_cast<std::size_t>(statement.lowered.rownumCounters), 0);
     if (statement.asksClock) evaluation_.context.now = wallClock();
     bind(statement, binds);
+    const RunningStatement::Call call(
+        running_, [this] { sqlite3_interrupt(connection_.get()); }, text);
     // Whatever ends the walk, the statement is free to run again.
     const std::unique_ptr<sqlite3_stmt, ResetStatement> reset(handle);
 
@@ -167,8 +183,11 @@ class LocalDatabase::Engine {
 
   /// Whether there is a row; an error is told in Oracle's terms and with its place.
   bool next(sqlite3_stmt* handle, const std::string& text, bool wideSums) {
+    running_.check(text);
     try {
       return step(handle);
+    } catch (const Cancelled&) {
+      throw Cancelled(text);
     } catch (const DatabaseError& error) {
       if (evaluation_.failure) {
         const auto failure = *std::exchange(evaluation_.failure, std::nullopt);
@@ -201,6 +220,7 @@ class LocalDatabase::Engine {
     }
   }
 
+  RunningStatement running_;
   Evaluation evaluation_;
   ConnectionHandle connection_;
   FileCatalogue catalogue_;
@@ -213,6 +233,8 @@ LocalDatabase::~LocalDatabase() = default;
 std::unique_ptr<Dynaset> LocalDatabase::DbCreateDynaset(const std::string& sql, long /*options*/) {
   return run(sql);
 }
+
+void LocalDatabase::cancel() { engine_->cancel(); }
 
 std::unique_ptr<ResultRows> LocalDatabase::run(const std::string& sql) {
   return engine_->run(sql, parameters());

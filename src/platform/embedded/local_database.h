@@ -18,7 +18,7 @@ namespace kestrelix::embedded {
 using RowSink = std::function<void(const std::vector<std::string>& names,
                                    std::span<const std::optional<std::string>> row)>;
 
-/// An open repository file. One thread.
+/// An open repository file.
 class LocalDatabase final : public Database {
  public:
   /// Opens the file without asking for its account. Throws DatabaseError.
@@ -26,6 +26,7 @@ class LocalDatabase final : public Database {
   ~LocalDatabase() override;
 
   std::unique_ptr<Dynaset> DbCreateDynaset(const std::string& sql, long options) override;
+  void cancel() override;
 
   /// The same with fields by their place.
   std::unique_ptr<ResultRows> run(const std::string& sql);

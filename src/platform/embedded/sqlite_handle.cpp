@@ -1,13 +1,15 @@
 #include "platform/embedded/sqlite_handle.h"
 
-#include "platform/database.h"
+#include "platform/cancelled.h"
 
 namespace kestrelix::embedded {
 
 StatementHandle prepare(sqlite3* connection, const std::string& sql) {
   sqlite3_stmt* statement = nullptr;
-  if (sqlite3_prepare_v3(connection, sql.c_str(), static_cast<int>(sql.size()) + 1, SQLITE_PREPARE_PERSISTENT,
-                         &statement, nullptr) != SQLITE_OK)
+  const int result = sqlite3_prepare_v3(connection, sql.c_str(), static_cast<int>(sql.size()) + 1,
+                                        SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
+  if (result == SQLITE_INTERRUPT) throw Cancelled(sql);
+  if (result != SQLITE_OK)
     throw DatabaseError("HY000", 0, std::string("the local repository: ") + sqlite3_errmsg(connection), sql);
   return StatementHandle(statement);
 }
@@ -18,6 +20,9 @@ bool step(sqlite3_stmt* statement) {
       return true;
     case SQLITE_DONE:
       return false;
+    case SQLITE_INTERRUPT:
+      sqlite3_reset(statement);
+      throw Cancelled(sqlite3_sql(statement));
     default: {
       const std::string text = sqlite3_errmsg(sqlite3_db_handle(statement));
       sqlite3_reset(statement);

@@ -18,10 +18,12 @@ struct FinalizeStatement {
 };
 using StatementHandle = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
-/// Prepares one statement; throws DatabaseError with SQLite's own text when it does not stand.
+/// Prepares one statement; throws DatabaseError with SQLite's own text when it does not stand, and Cancelled
+/// when it was interrupted.
 StatementHandle prepare(sqlite3* connection, const std::string& sql);
 
-/// Moves to the next row and tells whether there is one; throws DatabaseError when the file cannot be read.
+/// Moves to the next row and tells whether there is one; throws DatabaseError when the file cannot be read,
+/// and Cancelled when it was interrupted.
 bool step(sqlite3_stmt* statement);
 
 /// Column `column` of the current row as text; NULL gives the empty text.

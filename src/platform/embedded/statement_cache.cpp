@@ -9,6 +9,7 @@
 #include "oracle_sql/parser.h"
 #include "oracle_sql/resolver.h"
 #include "oracle_sql/token.h"
+#include "platform/cancelled.h"
 #include "platform/embedded/functions.h"
 #include "platform/embedded/lowering/emitter.h"
 
@@ -134,6 +135,8 @@ std::unique_ptr<PreparedStatement> StatementCache::translate(const std::string& 
   }
   try {
     prepared->handle = prepare(connection_, prepared->lowered.text);
+  } catch (const Cancelled&) {
+    throw;
   } catch (const DatabaseError& error) {
     if (isSizeLimit(error.what()))
       throw sql::SqlError::unsupported(std::string("a statement of this size (") + error.what() + ")", {});

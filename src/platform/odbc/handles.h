@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include "platform/running_statement.h"
+
 namespace kestrelix::odbc {
 
 /// One handle of SQL_HANDLE_ENV, SQL_HANDLE_DBC or SQL_HANDLE_STMT.
@@ -22,6 +24,19 @@ class Handle {
 
   /// Fails with DatabaseError, of the handle's first diagnostic record, unless `result` is a success.
   void check(SQLRETURN result, const std::string& statement = {}) const;
+  /// Makes a call on this statement's handle that may wait for the server. The result has been checked; it
+  /// fails with Cancelled, whatever the driver tells, when the statement was cancelled by the call's end.
+  template <class OdbcCall>
+  SQLRETURN wait(RunningStatement& running, const std::string& statement, OdbcCall&& call) const {
+    const SQLRETURN result = [&] {
+      const RunningStatement::Call waiting(
+          running, [this] { SQLCancel(handle_); }, statement);
+      return call();
+    }();
+    running.check(statement);
+    check(result, statement);
+    return result;
+  }
 
  private:
   SQLSMALLINT type_;

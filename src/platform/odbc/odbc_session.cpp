@@ -121,8 +121,9 @@ class OdbcDatabase::Connection {
                                     nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT));
   }
 
-  std::unique_ptr<RowStream> run(const std::string& sql, const Parameters& parameters) {
-    Prepared& prepared = prepare(sql);
+  std::unique_ptr<RowStream> run(const std::string& sql, const Parameters& parameters,
+                                 RunningStatement& running) {
+    Prepared& prepared = prepare(sql, running);
     SQLFreeStmt(prepared.handle, SQL_CLOSE);
     SQLFreeStmt(prepared.handle, SQL_RESET_PARAMS);
     std::vector<BoundValue> values(prepared.binds.size());
@@ -133,8 +134,8 @@ class OdbcDatabase::Connection {
       bindValue(prepared.handle, static_cast<SQLUSMALLINT>(i + 1), *parameter, values[i]);
     }
     ++executions_;
-    prepared.handle.check(SQLExecute(prepared.handle), sql);
-    return std::make_unique<RowStream>(prepared.handle, sql);
+    prepared.handle.wait(running, sql, [&] { return SQLExecute(prepared.handle); });
+    return std::make_unique<RowStream>(prepared.handle, sql, running);
   }
 
   void count(const RowStream& rows) { executions_ += rows.fetches(); }
@@ -153,7 +154,7 @@ class OdbcDatabase::Connection {
     std::vector<std::string> binds;
   };
 
-  Prepared& prepare(const std::string& sql) {
+  Prepared& prepare(const std::string& sql, RunningStatement& running) {
     if (const auto known = prepared_.find(sql); known != prepared_.end()) return *known->second;
     const MarkedStatement marked = markBinds(sql);
     auto prepared = std::make_unique<Prepared>(handle_.get());
@@ -166,8 +167,9 @@ class OdbcDatabase::Connection {
                    0);
     auto text = toUtf16(marked.text);
     ++executions_;
-    prepared->handle.check(
-        SQLPrepareW(prepared->handle, text.data(), static_cast<SQLINTEGER>(text.size() - 1)), sql);
+    prepared->handle.wait(running, sql, [&] {
+      return SQLPrepareW(prepared->handle, text.data(), static_cast<SQLINTEGER>(text.size() - 1));
+    });
     return *prepared_.emplace(sql, std::move(prepared)).first->second;
   }
 
@@ -184,10 +186,13 @@ OdbcDatabase::OdbcDatabase(const std::string& connectionText) {
 OdbcDatabase::~OdbcDatabase() = default;
 
 std::unique_ptr<RowStream> OdbcDatabase::run(const std::string& sql) {
-  return connection_->run(sql, parameters());
+  return connection_->run(sql, parameters(), running_);
 }
 
+void OdbcDatabase::cancel() { running_.cancel(); }
+
 std::unique_ptr<Dynaset> OdbcDatabase::DbCreateDynaset(const std::string& sql, long /*options*/) {
+  const RunningStatement::Run running(running_);
   const auto rows = run(sql);
   auto fetched = std::make_unique<FetchedRows>(*rows);
   connection_->count(*rows);

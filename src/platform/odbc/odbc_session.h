@@ -17,10 +17,12 @@ class OdbcDatabase final : public Database {
   ~OdbcDatabase() override;
 
   std::unique_ptr<Dynaset> DbCreateDynaset(const std::string& sql, long options) override;
+  void cancel() override;
 
   /// Runs a query and hands each row to `take`, without keeping them: for results of any length.
   template <class Take>
   void stream(const std::string& sql, Take&& take) {
+    const RunningStatement::Run running(running_);
     const auto rows = run(sql);
     RowStream::Row row;
     while (rows->next(row)) take(rows->columns(), row);
@@ -34,6 +36,7 @@ class OdbcDatabase final : public Database {
   class Connection;
   std::unique_ptr<RowStream> run(const std::string& sql);
 
+  RunningStatement running_;
   std::unique_ptr<Connection> connection_;
 };
 

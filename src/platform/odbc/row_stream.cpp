@@ -34,8 +34,8 @@ std::string seconds(const std::string& time) {
 
 }  // namespace
 
-RowStream::RowStream(const Handle& statement, std::string text)
-    : statement_(statement), text_(std::move(text)) {
+RowStream::RowStream(const Handle& statement, std::string text, RunningStatement& running)
+    : statement_(statement), text_(std::move(text)), running_(running) {
   describe();
   bindBuffers();
 }
@@ -118,8 +118,7 @@ bool RowStream::next(Row& row) {
   if (position_ >= fetched_) {
     fetched_ = 0;
     ++fetches_;
-    const SQLRETURN result = SQLFetch(statement_);
-    statement_.check(result, text_);
+    const SQLRETURN result = statement_.wait(running_, text_, [&] { return SQLFetch(statement_); });
     if (result == SQL_NO_DATA) return false;
     if (inPieces_ || fetched_ == 0) fetched_ = 1;
     position_ = 0;
@@ -171,9 +170,10 @@ std::optional<std::string> RowStream::pieces(SQLUSMALLINT number, const Column& 
                                                               : 0;
   for (;;) {
     SQLLEN length = 0;
-    const SQLRETURN result = SQLGetData(statement_, number, column.cType, buffer.data(),
-                                        static_cast<SQLLEN>(buffer.size()), &length);
-    statement_.check(result, text_);
+    const SQLRETURN result = statement_.wait(running_, text_, [&] {
+      return SQLGetData(statement_, number, column.cType, buffer.data(), static_cast<SQLLEN>(buffer.size()),
+                        &length);
+    });
     if (length == SQL_NULL_DATA) return std::nullopt;
     if (result == SQL_NO_DATA) break;
     const bool more =

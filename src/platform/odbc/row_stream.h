@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/odbc/handles.h"
+#include "platform/running_statement.h"
 
 namespace kestrelix::odbc {
 
@@ -14,15 +15,17 @@ class RowStream {
  public:
   using Row = std::vector<std::optional<std::string>>;
 
-  /// The statement has been executed. It must outlive the stream, which closes its cursor.
-  explicit RowStream(const Handle& statement, std::string text);
+  /// The statement has been executed, as what `running` runs. It must outlive the stream, which closes its
+  /// cursor.
+  RowStream(const Handle& statement, std::string text, RunningStatement& running);
   ~RowStream();
   RowStream(const RowStream&) = delete;
   RowStream& operator=(const RowStream&) = delete;
 
   const std::vector<std::string>& columns() const { return names_; }
   /// The next row into `row`; false past the last. Texts are UTF-8, numbers plain decimal texts, dates
-  /// "YYYY-MM-DD HH:MM:SS", bytes upper-case hex. Fails with DatabaseError.
+  /// "YYYY-MM-DD HH:MM:SS", bytes upper-case hex. Fails with DatabaseError,
+  /// which is Cancelled from a cancel on.
   bool next(Row& row);
 
   /// Fetches that have gone to the server so far.
@@ -46,6 +49,7 @@ class RowStream {
 
   const Handle& statement_;
   std::string text_;
+  RunningStatement& running_;
   std::vector<std::string> names_;
   std::vector<Column> columns_;
   bool inPieces_ = false;             ///< a column has no bound on its length: rows come one by one
