@@ -1,7 +1,5 @@
 #include "navigation/clsDbInstance.h"
 
-#include "platform/guarded.h"
-
 namespace kestrelix {
 
 const std::string& clsDbInstance::statement() {
@@ -11,14 +9,14 @@ const std::string& clsDbInstance::statement() {
   return text;
 }
 
-void clsDbInstance::Initialize(Database& database, MessageBoxes& boxes) {
+void clsDbInstance::Initialize(Database& database, Failures& failures) {
   database_ = &database;
-  boxes_ = &boxes;
+  failures_ = &failures;
   rows_.clear();
 }
 
 bool clsDbInstance::getDB_INSTANCE() {
-  return guarded(*boxes_, "clsDbInstance", "getDB_INSTANCE", [this] {
+  return guarded(*failures_, "clsDbInstance", "getDB_INSTANCE", [this] {
     const auto dynaset = database_->DbCreateDynaset(statement(), kDynasetOptions);
     for (; !dynaset->Eof(); dynaset->MoveNext())
       rows_.push_back({dynaset->Fields("DBID").value(), dynaset->Fields("DB_NAME").value(),

@@ -4,15 +4,16 @@
 #include <vector>
 
 #include "platform/database.h"
-#include "platform/message_box.h"
+#include "platform/failure.h"
 
 namespace kestrelix {
 
 /// The instances whose statistics the repository holds, from stats$database_instance, by DBID and number.
 class clsDbInstance {
  public:
-  void Initialize(Database& database, MessageBoxes& boxes);
-  /// Fills the store. On a failure shows its box and gives false.
+  /// Both are used while the store is filled, not later.
+  void Initialize(Database& database, Failures& failures);
+  /// Fills the store. False after a failure.
   bool getDB_INSTANCE();
   /// What getDB_INSTANCE sends.
   static const std::string& statement();
@@ -34,7 +35,7 @@ class clsDbInstance {
   const Row& row(int i) const { return rows_.at(static_cast<std::size_t>(i)); }
 
   Database* database_ = nullptr;
-  MessageBoxes* boxes_ = nullptr;
+  Failures* failures_ = nullptr;
   std::vector<Row> rows_;
 };
 

@@ -1,7 +1,5 @@
 #include "navigation/clsSnapId.h"
 
-#include "platform/guarded.h"
-
 namespace kestrelix {
 namespace {
 
@@ -22,16 +20,16 @@ const std::string& clsSnapId::statement(bool useRange) {
   return useRange ? range : whole;
 }
 
-void clsSnapId::Initialize(Database& database, MessageBoxes& boxes) {
+void clsSnapId::Initialize(Database& database, Failures& failures) {
   database_ = &database;
-  boxes_ = &boxes;
+  failures_ = &failures;
   snapshots_.clear();
   pairs_.clear();
 }
 
 bool clsSnapId::setBAIND_VALUE(const std::string& dbid, const std::string& instanceNumber,
                                const std::string& startId, const std::string& endId) {
-  return guarded(*boxes_, kClass, "setBAIND_VALUE", [&] {
+  return guarded(*failures_, kClass, "setBAIND_VALUE", [&] {
     Parameters& binds = database_->parameters();
     for (const char* name : {"B1", "B2", "B3", "B4"}) binds.Add(name, 0, 1);
     binds("B1").serverType(ServerType::Number);
@@ -47,13 +45,13 @@ bool clsSnapId::setBAIND_VALUE(const std::string& dbid, const std::string& insta
 }
 
 bool clsSnapId::unsetBAIND_VALUE() {
-  return guarded(*boxes_, kClass, "unsetBAIND_VALUE", [this] {
+  return guarded(*failures_, kClass, "unsetBAIND_VALUE", [this] {
     for (const char* name : {"B1", "B2", "B3", "B4"}) database_->parameters().Remove(name);
   });
 }
 
 bool clsSnapId::getSNAP_ID(bool useRange) {
-  return guarded(*boxes_, kClass, "getSNAP_ID", [&] {
+  return guarded(*failures_, kClass, "getSNAP_ID", [&] {
     const auto dynaset = database_->DbCreateDynaset(statement(useRange), kDynasetOptions);
     for (; !dynaset->Eof(); dynaset->MoveNext())
       snapshots_.push_back({dynaset->Fields("DBID").value(), dynaset->Fields("INSTANCE_NUMBER").value(),
@@ -65,12 +63,23 @@ bool clsSnapId::getSNAP_ID(bool useRange) {
 
 bool clsSnapId::getSTART_END_SNAP_ID(bool useRange) {
   if (!getSNAP_ID(useRange)) {
-    boxes_->show(BoxIcon::Critical, failureText(kClass, "getSTART_END_SNAP_ID"));
+    failures_->push_back({failureText(kClass, "getSTART_END_SNAP_ID")});
     return false;
   }
   for (std::size_t i = 0; i + 1 < snapshots_.size(); ++i)
     pairs_.push_back({classify(snapshots_[i], snapshots_[i + 1]), snapshots_[i], snapshots_[i + 1]});
   return true;
+}
+
+std::optional<clsSnapId> clsSnapId::span(int first, int last) const {
+  for (int i = first; i <= last; ++i)
+    if (restarted(i)) return std::nullopt;
+  clsSnapId whole;
+  const Snapshot& start = pair(first).start;
+  const Snapshot& end = pair(last).end;
+  whole.snapshots_ = {start, end};
+  whole.pairs_ = {{classify(start, end), start, end}};
+  return whole;
 }
 
 /// A restart outweighs a change of level. It shows in the end snapshot's start-up time alone, strictly later

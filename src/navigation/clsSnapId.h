@@ -1,10 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/database.h"
-#include "platform/message_box.h"
+#include "platform/failure.h"
 
 namespace kestrelix {
 
@@ -29,7 +30,8 @@ inline constexpr const char* kStatusRestart = "DB RESTART";
 /// the next one's start. Pairs count from 0, as the entries of the pair list do.
 class clsSnapId {
  public:
-  void Initialize(Database& database, MessageBoxes& boxes);
+  /// Both are used while the pairs are read, not later.
+  void Initialize(Database& database, Failures& failures);
 
   /// Ids are empty when no range applies.
   bool setBAIND_VALUE(const std::string& dbid, const std::string& instanceNumber, const std::string& startId,
@@ -61,6 +63,11 @@ class clsSnapId {
   }
   bool restarted(int i) const { return REPORT_STATUS(i) == kStatusRestart; }
 
+  /// The span from the start of pair `first` to the end of pair `last` as the one pair of a list of its own.
+  /// Nothing where the instance started anew within it, since counters can't be told from each other then.
+  /// Fails with std::out_of_range for a pair off the list.
+  std::optional<clsSnapId> span(int first, int last) const;
+
  private:
   /// Times are texts of the form YYYY-MM-DD HH24:MI:SS, which sort in time order.
   struct Snapshot {
@@ -75,7 +82,7 @@ class clsSnapId {
   static std::string classify(const Snapshot& start, const Snapshot& end);
 
   Database* database_ = nullptr;
-  MessageBoxes* boxes_ = nullptr;
+  Failures* failures_ = nullptr;
   std::vector<Snapshot> snapshots_;
   std::vector<Pair> pairs_;
 };

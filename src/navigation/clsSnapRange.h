@@ -10,20 +10,16 @@ namespace kestrelix {
 /// the list starts from.
 class clsSnapRange {
  public:
-  explicit clsSnapRange(MessageBoxes& boxes) : boxes_(boxes) {}
-
-  /// Takes the whole of the loaded list. Fails with std::out_of_range when the list is empty.
-  void Initialize(const clsSnapId& snapshots);
-  /// Take the start (end) snapshot of a pair. An index off the list shows the member's box and gives false.
-  bool gSetStartId(int index);
-  bool gSetEndId(int index);
+  /// Takes the whole of the list. Fails with std::out_of_range when it is empty.
+  void Initialize(const clsSnapId& pairs);
+  /// Take the start (end) snapshot of a pair. False, after the member's failure, for an index off the list.
+  bool gSetStartId(const clsSnapId& pairs, int index, Failures& failures);
+  bool gSetEndId(const clsSnapId& pairs, int index, Failures& failures);
 
   const std::string& GET_START_ID() const { return startId_; }
   const std::string& GET_END_ID() const { return endId_; }
 
  private:
-  MessageBoxes& boxes_;
-  const clsSnapId* snapshots_ = nullptr;
   std::string startId_;
   std::string endId_;
 };

@@ -7,11 +7,9 @@ std::string majorVersion(std::string_view version) {
   return point == std::string_view::npos ? std::string() : std::string(version.substr(0, point));
 }
 
-bool passVersionGate(MessageBoxes& boxes, std::string_view major) {
-  if (major == "9" || major == "10" || major == "11") return true;
-  boxes.show(BoxIcon::Critical,
-             "未対応のＤＢが選択されました。[対応データベース：Oracle9,Oracle10,Oracle11]");
-  return false;
+Failures versionGate(std::string_view major) {
+  if (major == "9" || major == "10" || major == "11") return {};
+  return {{"未対応のＤＢが選択されました。[対応データベース：Oracle9,Oracle10,Oracle11]"}};
 }
 
 }  // namespace kestrelix

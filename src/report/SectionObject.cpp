@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <numeric>
 
-#include "platform/guarded.h"
-
 namespace kestrelix {
 
 SectionObject::SectionObject(std::string className, std::vector<std::string> fieldNames,
@@ -14,11 +12,11 @@ SectionObject::SectionObject(std::string className, std::vector<std::string> fie
       acrossRestarts_(fieldNames_.size(), false),
       binds_(std::move(binds)) {}
 
-void SectionObject::Initialize(Database& database, const clsSnapId& snapshots, MessageBoxes& boxes,
+void SectionObject::Initialize(Database& database, const clsSnapId& snapshots, Failures& failures,
                                std::string version) {
   database_ = &database;
   snapshots_ = &snapshots;
-  boxes_ = &boxes;
+  failures_ = &failures;
   version_ = std::move(version);
   rows_.clear();
   for (const Statement& statement : statements_)
@@ -27,7 +25,7 @@ void SectionObject::Initialize(Database& database, const clsSnapId& snapshots, M
 }
 
 bool SectionObject::setBAIND_VALUE(const PairKeys& pair, const std::vector<std::string>& arguments) {
-  const bool added = guarded(*boxes_, className_, "setBAIND_VALUE", [&] {
+  const bool added = guarded(*failures_, className_, "setBAIND_VALUE", [&] {
     Parameters& parameters = database_->parameters();
     const std::pair<const char*, const std::string&> keys[] = {
         {"B1", pair.dbid}, {"B2", pair.instanceNumber}, {"B3", pair.startSnapId}, {"B4", pair.endSnapId}};
@@ -59,25 +57,24 @@ bool SectionObject::setBAIND_VALUE(const PairKeys& pair, const std::vector<std::
 bool SectionObject::fetchBinds(std::span<const Bind> binds) {
   const Bind& first = binds.front();
   std::vector<std::optional<std::string>> values;
-  const bool done = guarded(*boxes_, className_, first.member, [&] {
+  const bool done = guarded(*failures_, className_, first.member, [&] {
     const std::string& text = first.text.empty() ? find(first.member)->text : first.text;
     const auto dynaset = database_->DbCreateDynaset(text, kDynasetOptions);
     for (const Bind& bind : binds)
       values.push_back(dynaset->Fields(bind.column.empty() ? bind.name : bind.column).value());
   });
   if (!done && !first.goesOn) return false;
-  if (!done && first.failureBoxesTwice)
-    boxes_->show(BoxIcon::Critical, failureText(className_, "setBAIND_VALUE"));
+  if (!done && first.failureBoxesTwice) failures_->push_back({failureText(className_, "setBAIND_VALUE")});
   if (!done) values.assign(binds.size(), first.ifFailed);
   // A text that is no number fails here, as the binding's own failure.
-  return guarded(*boxes_, className_, "setBAIND_VALUE", [&] {
+  return guarded(*failures_, className_, "setBAIND_VALUE", [&] {
     for (std::size_t i = 0; i < binds.size(); ++i)
       if (values[i]) database_->parameters()(binds[i].name).value(*values[i]);
   });
 }
 
 bool SectionObject::unsetBAIND_VALUE() {
-  return guarded(*boxes_, className_, "unsetBAIND_VALUE", [this] {
+  return guarded(*failures_, className_, "unsetBAIND_VALUE", [this] {
     for (const char* name : {"B1", "B2", "B3", "B4"}) database_->parameters().Remove(name);
     for (const Bind& bind : binds_) database_->parameters().Remove(bind.name);
   });
@@ -98,8 +95,8 @@ bool SectionObject::get(std::string_view member, int pairIndex) {
     fetch(*statement, pairIndex);
     return true;
   } catch (const std::exception& error) {
-    boxes_->show(BoxIcon::Critical, statement->box.empty() ? failureText(className_, member) : statement->box,
-                 error.what());
+    failures_->push_back(
+        {statement->box.empty() ? failureText(className_, member) : statement->box, error.what()});
     return false;
   }
 }
@@ -107,10 +104,7 @@ bool SectionObject::get(std::string_view member, int pairIndex) {
 void SectionObject::fetch(const Statement& statement, int pairIndex) {
   const bool blank = snapshots_->restarted(pairIndex) && !statement.evenOnRestart;
   if (statement.fetch != Fetch::Metric && (blank || statement.fetch == Fetch::FirstRow)) appendRecord();
-  if (blank) {
-    for (const std::size_t field : statement.fields) rows_.back()[field].clear();
-    return;
-  }
+  if (blank) return;
   const auto dynaset = database_->DbCreateDynaset(statement.text, kDynasetOptions);
   switch (statement.fetch) {
     case Fetch::AllRows:
@@ -123,10 +117,7 @@ void SectionObject::fetch(const Statement& statement, int pairIndex) {
       if (dynaset->RecordCount() > 0) copy(statement, *dynaset, rows_.back());
       break;
     case Fetch::Metric:
-      if (statement.mayBeEmpty && dynaset->RecordCount() == 0)
-        for (const std::size_t field : statement.fields) rows_.back()[field].clear();
-      else
-        copy(statement, *dynaset, rows_.back());
+      if (!statement.mayBeEmpty || dynaset->RecordCount() > 0) copy(statement, *dynaset, rows_.back());
       break;
     case Fetch::Binds:
       break;

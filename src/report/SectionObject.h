@@ -9,7 +9,7 @@
 
 #include "navigation/clsSnapId.h"
 #include "platform/database.h"
-#include "platform/message_box.h"
+#include "platform/failure.h"
 #include "report/fields.h"
 #include "report/statement.h"
 
@@ -24,15 +24,15 @@ class SectionObject {
   SectionObject& operator=(const SectionObject&) = delete;
 
   /// The version matters only to objects that have statements for one version alone.
-  void Initialize(Database& database, const clsSnapId& snapshots, MessageBoxes& boxes, std::string version);
+  void Initialize(Database& database, const clsSnapId& snapshots, Failures& failures, std::string version);
 
   /// Binds a pair and, in order, the arguments; those left out are empty. Then runs the queries behind the
-  /// other binds. False after a box; what has been added stays on the database then.
+  /// other binds. False after a failure; what has been added stays on the database then.
   bool setBAIND_VALUE(const PairKeys& pair, const std::vector<std::string>& arguments = {});
   bool unsetBAIND_VALUE();
 
   /// Runs a member by its name, "getLATCH_ACTIVITY_ALL". A member without a statement for the version does
-  /// nothing and succeeds. False after a box.
+  /// nothing and succeeds. False after a failure.
   bool get(std::string_view member, int pairIndex);
 
   long rownum() const { return static_cast<long>(rows_.size()); }
@@ -61,8 +61,8 @@ class SectionObject {
 
   /// Metric objects append the pair's record here.
   virtual void bound() {}
-  /// Runs the one query behind some binds and gives them their values. False after a box that ends the
-  /// binding.
+  /// Runs the one query behind some binds and gives them their values. False after a failure that ends
+  /// the binding.
   bool fetchBinds(std::span<const Bind> binds);
   void fetch(const Statement& statement, int pairIndex);
   void copy(const Statement& statement, const Dynaset& dynaset, Record& record) const;
@@ -74,7 +74,7 @@ class SectionObject {
   std::vector<Statement> statements_;
   Database* database_ = nullptr;
   const clsSnapId* snapshots_ = nullptr;
-  MessageBoxes* boxes_ = nullptr;
+  Failures* failures_ = nullptr;
   std::string version_;
   std::vector<Record> rows_;
 };

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/controls.h"
-#include "platform/decimal.h"
 #include "platform/message_box.h"
+#include "report/chart_series.h"
 
 namespace kestrelix {
 
@@ -31,23 +31,15 @@ class clsGraphCommon {
   bool GraphClear();
   bool CtrlButton();
   bool GraphDisp();
-  bool CheckColumn();
-  void FindMaxValue();
-  static int CeilDiv(int a, int b);
   template <class Body>
   bool drawn(const char* member, Body&& turn);
 
   MessageBoxes& boxes_;
-  Grid* grid_ = nullptr;
   Chart* chart_ = nullptr;
   Toolbar* toolbar_ = nullptr;
-  int pageCount_ = 1;
+  ChartSeries series_;
   int currentPage_ = 1;
-  int startRow_ = 1;
-  Decimal maxValue_;
-  int maxRow_ = 1;
-  int maxPage_ = 1;
-  int maxStartRow_ = 1;
+  int startPoint_ = 1;
   Decimal axisMaximum_;
   Decimal axisMinimum_;
 };

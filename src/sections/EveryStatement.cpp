@@ -56,16 +56,18 @@ std::vector<SentStatement> everyStatement() {
     Versions listed;
   };
   std::vector<Class> classes;
-  for (const SectionEntry& entry : sectionList()) {
-    auto object = entry.make();
-    const auto same = std::find_if(classes.begin(), classes.end(), [&](const Class& known) {
-      return known.object->className() == object->className();
-    });
-    if (same == classes.end())
-      classes.push_back({std::move(object), entry.versions});
-    else
-      same->listed |= entry.versions;
-  }
+  for (const Section& entry : sectionList())
+    for (const ReleaseViews& views : entry.views) {
+      auto object = views.make();
+      const Versions listed = entry.versions & views.versions;
+      const auto same = std::find_if(classes.begin(), classes.end(), [&](const Class& known) {
+        return known.object->className() == object->className();
+      });
+      if (same == classes.end())
+        classes.push_back({std::move(object), listed});
+      else
+        same->listed |= listed;
+    }
   // The panels behind the SQL rankings are no Sections of their own.
   classes.push_back({make<clsSQLText>(), kAllVersions});
   classes.push_back({make<clsSQLPlan>(), kAllVersions});

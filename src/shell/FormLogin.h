@@ -7,6 +7,7 @@
 #include "shell/ModuleLoginCommon.h"
 #include "shell/clsWheelMouse.h"
 #include "shell/services.h"
+#include "shell/workspace.h"
 
 namespace kestrelix {
 

@@ -1,10 +1,10 @@
 #include "shell/FormMain.h"
 
-#include "navigation/ModuleLoadCommon.h"
-#include "navigation/ModuleRangeCommon.h"
 #include "navigation/version_gate.h"
-#include "report/ModuleDispCommon.h"
 #include "shell/ModuleCommon.h"
+#include "shell/ModuleDispCommon.h"
+#include "shell/ModuleLoadCommon.h"
+#include "shell/ModuleRangeCommon.h"
 #include "shell/scroll.h"
 
 namespace kestrelix {
@@ -92,7 +92,7 @@ void FormMain::Load(clsWheelMouse::Handle hWnd, const FormLogin& login) {
   m_CWheel = std::make_unique<clsWheelMouse>();
   m_CWheel->MouseWheel.connect([this](int direction) { m_CWheel_MouseWheel(direction); });
   m_CWheel->Initialize(hWnd);
-  workspace_.gSnapRange = std::make_unique<clsSnapRange>(workspace_.boxes);
+  workspace_.repository.gSnapRange = {};
 
   controls_.FrameGraph.Visible(false);
   controls_.MSChartCommon.Visible(false);
@@ -128,9 +128,11 @@ void FormMain::ComboDbInstance_Click() {
   gFrameRangeDataInit(workspace_);
   if (unloaded_) return;
   const int instance = controls_.ComboDbInstance.ListIndex();
-  mVersion = majorVersion(workspace_.gDbInstance->VERSION(instance));
-  if (!passVersionGate(workspace_.boxes, mVersion)) return;
-  mRac = workspace_.gDbInstance->PARALLEL(instance);
+  mVersion = majorVersion(workspace_.repository.gDbInstance->VERSION(instance));
+  const Failures refused = versionGate(mVersion);
+  showFailures(workspace_.boxes, refused);
+  if (!refused.empty()) return;
+  mRac = workspace_.repository.gDbInstance->PARALLEL(instance);
   gDispSectionList(workspace_, services_.sections, mVersion, mRac);
 }
 
@@ -140,7 +142,7 @@ void FormMain::ListSnapId_Click() {
       {"GRAPH_START", "GRAPH_LEFT", "GRAPH_DISP", "GRAPH_MAX", "LIST", "GRAPH_RIGHT", "GRAPH_END"}, false);
   controls_.MSFlexGridMain.BackColor(kWindowColour);
   mReportMode = "All";
-  gDispSectionAll(workspace_, services_.sections, mVersion);
+  gDispSectionAll(workspace_, *services_.reader, services_.sections, mVersion);
   disableUnconnected();
 }
 
@@ -155,7 +157,7 @@ void FormMain::MSFlexGridMain_DblClick() {
   if (mReportMode == "Col") return displayGraph();
   if (mReportMode != "All") return;
   mReportMode = "Col";
-  gDispSectionCol(workspace_, services_.sections, mVersion);
+  gDispSectionCol(workspace_, *services_.reader, services_.sections, mVersion);
   controls_.ToolbarTop.Enabled(
       {"GRID", "SQL", "PLAN", "GRAPH_START", "GRAPH_LEFT", "GRAPH_MAX", "LIST", "GRAPH_RIGHT", "GRAPH_END"},
       false);

@@ -1,8 +1,6 @@
 #include "shell/ModuleCommon.h"
 
-#include <stdexcept>
-
-#include "platform/guarded.h"
+#include "platform/failure.h"
 
 namespace kestrelix {
 namespace {
@@ -14,18 +12,13 @@ constexpr long long kDivisorHundredths = 1448;  // 14.48 twips
 
 bool OPEN_Conect(Workspace& workspace, const ShellServices& services, const std::string& user,
                  const std::string& password, const std::string& tns) {
-  return guarded(workspace.boxes, kModule, "OPEN_Conect", [&] {
-    workspace.gOraDatabase.reset();
-    workspace.gOraSession = services.makeSession();
-    if (!workspace.gOraSession) throw std::runtime_error("the client library gave no session");
-    workspace.gOraDatabase =
-        workspace.gOraSession->OpenDatabase(tns, user + "/" + password, kDatabaseOptions);
-  });
+  const Failures failures = workspace.repository.open(services.makeSession, tns, user + "/" + password);
+  showFailures(workspace.boxes, failures);
+  return failures.empty();
 }
 
 bool CLOSE_Connect(Workspace& workspace) {
-  workspace.gOraDatabase.reset();
-  workspace.gOraSession.reset();
+  workspace.repository.close();
   return true;
 }
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "navigation/workspace.h"
 #include "shell/services.h"
+#include "shell/workspace.h"
 
 namespace kestrelix {
 

@@ -1,6 +1,6 @@
 #include "shell/ModuleLoginCommon.h"
 
-#include "platform/guarded.h"
+#include "platform/failure.h"
 #include "shell/clsLoginCommon.h"
 
 namespace kestrelix {

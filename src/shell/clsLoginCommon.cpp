@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <system_error>
 
-#include "platform/guarded.h"
+#include "platform/failure.h"
 
 namespace kestrelix {
 namespace {

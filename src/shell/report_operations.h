@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "navigation/workspace.h"
+#include "shell/workspace.h"
 
 namespace kestrelix {
 
@@ -28,6 +28,11 @@ struct ReportOperations {
   std::function<void(bool& shaped, Grid& sqlGrid)> toggleShaping;
   GraphOperations graph;
 };
+
+/// Fill MSFlexGridSql, a row a piece of the statement's text, and MSFlexGridPlan, a row a step of a plan. The
+/// caller shows the grid and hides the others.
+void gDispSqlText(Workspace& workspace, const std::string& version);
+void gDispSQLPlan(Workspace& workspace, const std::string& version);
 
 /// All of them, on that workspace, which must outlive them.
 ReportOperations reportOperations(Workspace& workspace);

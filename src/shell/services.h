@@ -1,13 +1,11 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
-#include <memory>
 
+#include "navigation/repository.h"
 #include "platform/clipboard.h"
-#include "platform/database.h"
 #include "platform/help.h"
-#include "report/SectionEntry.h"
+#include "report/reading.h"
 
 namespace kestrelix {
 
@@ -18,11 +16,13 @@ struct ShellServices {
   /// The folder of the program that runs: the help file and the local repositories lie in it.
   std::filesystem::path programFolder;
   /// Makes the client library's session; may throw.
-  std::function<std::unique_ptr<Session>()> makeSession;
+  Repository::MakeSession makeSession;
   /// The catalogue of Sections.
   SectionList sections;
   /// Where the stored logins lie; empty: in the program's folder.
-  std::filesystem::path loginFolder;
+  std::filesystem::path loginFolder = {};
+  /// Who reads the views.
+  SectionReader* reader = &directReader();
 };
 
 }  // namespace kestrelix

@@ -17,13 +17,6 @@ int rowsOf(const std::string& grid) {
   return static_cast<int>(std::count(grid.begin(), grid.end(), '\n')) - 1;
 }
 
-std::vector<std::string> sectionsOf(testing_support::ReportFixture& report) {
-  std::vector<std::string> names;
-  const ListBox& list = report.workspace().controls.ListSection;
-  for (int i = 0; i < list.ListCount(); ++i) names.push_back(list.List(i));
-  return names;
-}
-
 TEST_F(DemoTest, everySectionHasRowsInABusyPairAndGivesNoBox) {
   testing_support::ReportFixture report(path());
   // Rare events: a warehouse meets them in many pairs, not in all.
@@ -31,7 +24,7 @@ TEST_F(DemoTest, everySectionHasRowsInABusyPairAndGivesNoBox) {
   const std::vector<std::size_t> sections = {46, 86, 86, 94, 94, 76};
   for (int instance = 0; instance < 6; ++instance) {
     report.open(instance);
-    const auto names = sectionsOf(report);
+    const auto names = report.sections();
     EXPECT_EQ(names.size(), sections[static_cast<std::size_t>(instance)]);
     for (const std::string& name : names) {
       const int pair = name == "Memory Resize Operations" ? kMovePair : kBusyPair;
@@ -49,7 +42,7 @@ TEST_F(DemoTest, everySeriesHasARowForEachPairAndGivesNoBox) {
   testing_support::ReportFixture report(path());
   for (const int instance : {0, 1, 3}) {
     report.open(instance);
-    for (const std::string& name : sectionsOf(report)) {
+    for (const std::string& name : report.sections()) {
       if (rowsOf(report.all(name, name == "Memory Resize Operations" ? kMovePair : kBusyPair)) == 0) continue;
       const std::size_t before = report.boxes().size();
       const std::string series = report.col(1);

@@ -11,10 +11,7 @@ namespace {
 
 /// Shows the All view of every Section of the open instance and the series of its first row.
 void showEverything(testing_support::ReportFixture& report) {
-  std::vector<std::string> names;
-  const ListBox& list = report.workspace().controls.ListSection;
-  for (int i = 0; i < list.ListCount(); ++i) names.push_back(list.List(i));
-  for (const std::string& name : names) {
+  for (const std::string& name : report.sections()) {
     report.all(name, 0);
     if (report.grid().Rows() > 1) report.col(1);
   }

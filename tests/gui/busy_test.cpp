@@ -35,18 +35,23 @@ class Busy : public GuiTest {
     static std::function<void(int)> hook;
     return hook;
   }
-  static void slowCol(Workspace& workspace, const std::string&, const ColRequest&) {
-    for (int pair = 1; pair <= kPairs; ++pair) {
-      workspace.progress.step(pair, kPairs);
-      atPair()(pair);
+  class SlowReader : public testing_support::RecordingReader {
+   public:
+    ReportTable col(const ReportSource& source, const Section& section, const ColRequest& request) override {
+      if (section.text != "Slow") return RecordingReader::col(source, section, request);
+      for (int pair = 1; pair <= kPairs; ++pair) {
+        source.progress.step(pair, kPairs);
+        atPair()(pair);
+      }
+      return testing_support::tableOf("Slow Col", 3);
     }
-    testing_support::fillGrid(workspace, "Slow Col", 3);
-  }
+  };
+  SectionReader& reads() override { return slow; }
   static SectionList slowCatalogue() {
-    static const std::vector<SectionEntry> sections{
-        {"Snapshot", 0, kAllVersions, false, false, nullptr, testing_support::renderAll,
-         byRow(testing_support::renderCol)},
-        {"Slow", 200, kAllVersions, false, false, nullptr, testing_support::renderAll, byKeys({1}, slowCol)}};
+    using testing_support::someViews;
+    static const std::vector<Section> sections{
+        {.text = "Snapshot", .code = 0, .versions = kAllVersions, .col = byRow(), .views = someViews()},
+        {.text = "Slow", .code = 200, .versions = kAllVersions, .col = byCells({1}), .views = someViews()}};
     return sections;
   }
   static QWidget* bar() { return find("PairBar"); }
@@ -63,6 +68,7 @@ class Busy : public GuiTest {
   }
 
   QtProgress::Time now{};
+  SlowReader slow;
 };
 
 TEST_F(Busy, thePointerWaitsWhileAnActionRunsAndNotAfterIt) {

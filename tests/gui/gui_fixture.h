@@ -14,19 +14,11 @@
 
 namespace kestrelix::testing_support {
 
-/// A Section of forty rows, whose second column holds line ends.
-inline void renderLong(Workspace& workspace, const std::string&) {
-  fillGrid(workspace, "Long", 40);
-  Grid& grid = workspace.controls.MSFlexGridMain;
-  for (int r = 1; r <= 40; ++r) grid.TextMatrix(r, 0, std::to_string(r));
-  grid.TextMatrix(1, 2, "select *\r\nfrom\tdual");
-  for (int r = 1; r <= 40; ++r) grid.TextMatrix(r, 3, std::to_string(r * 10));
-}
-
 inline SectionList guiCatalogue() {
-  static const std::vector<SectionEntry> sections = [] {
-    std::vector<SectionEntry> all(smallCatalogue().begin(), smallCatalogue().end());
-    all.push_back({"Long", 200, kAllVersions, false, false, nullptr, renderLong, byKeys({1}, renderCol)});
+  static const std::vector<Section> sections = [] {
+    std::vector<Section> all(smallCatalogue().begin(), smallCatalogue().end());
+    all.push_back(
+        {.text = "Long", .code = 200, .versions = kAllVersions, .col = byCells({1}), .views = someViews()});
     return all;
   }();
   return sections;
@@ -46,11 +38,16 @@ class GuiTest : public ShellTest {
 
   void start(const std::string& stored = "DEMO,PERFSTAT,perfstat\r\n") {
     folder.writeLogins(stored);
-    desktop = std::make_unique<Desktop>(DesktopParts{
-        boxes,
-        {qtClipboard, services.help, services.programFolder, services.makeSession, services.sections},
-        operations,
-        progressClock});
+    desktop = std::make_unique<Desktop>(DesktopParts{boxes,
+                                                     {qtClipboard,
+                                                      services.help,
+                                                      services.programFolder,
+                                                      services.makeSession,
+                                                      services.sections,
+                                                      {},
+                                                      &reads()},
+                                                     operations,
+                                                     progressClock});
     desktop->start();
     settle();
   }
@@ -58,6 +55,8 @@ class GuiTest : public ShellTest {
     start();
     doubleClickCell("MSFlexGridLogin", 0, 0);
   }
+  /// Who reads the views: the recording reader, unless a test has one of its own.
+  virtual SectionReader& reads() { return reader; }
   static void settle() {
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();

@@ -19,10 +19,10 @@ class HelpTest : public GuiTest {
  protected:
   void startWithHelp() {
     folder.writeLogins("DEMO,PERFSTAT,perfstat\r\n");
-    desktop = std::make_unique<Desktop>(
-        DesktopParts{boxes,
-                     {qtClipboard, viewer, services.programFolder, services.makeSession, services.sections},
-                     [this](Workspace&) { return recorded.operations(); }});
+    desktop = std::make_unique<Desktop>(DesktopParts{
+        boxes,
+        {qtClipboard, viewer, services.programFolder, services.makeSession, services.sections, {}, &reads()},
+        [this](Workspace&) { return recorded.operations(); }});
     desktop->start();
     settle();
     doubleClickCell("MSFlexGridLogin", 0, 0);

@@ -67,6 +67,7 @@ class WholePath : public GuiTest {
     doubleClickCell("MSFlexGridLogin", 0, 0);
   }
 
+  SectionReader& reads() override { return directReader(); }
   static void section(const QString& name) {
     const QAbstractItemModel& list = *view("ListSection")->model();
     for (int row = 0; row < list.rowCount(); ++row)

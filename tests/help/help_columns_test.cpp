@@ -107,19 +107,15 @@ TEST_P(HelpOfInstance, everyHeadingAndMetricOfBothViewsIsExplained) {
   const std::set<std::string> common = namesIn(paragraphAt(pages, "reading.html", "common"));
   ReportFixture report(demo());
   report.open(GetParam());
-  const ListBox& list = report.workspace().controls.ListSection;
-  const int pair = static_cast<int>(report.workspace().gSnapId->rownum()) - 1;
-  for (const SectionEntry& section : sectionList()) {
-    bool listed = false;
-    for (int i = 0; i < list.ListCount(); ++i) listed = listed || list.List(i) == section.text;
-    if (!listed) continue;
-    const std::string name(section.text);
-    std::set<std::string> names = explained(pages, section.code);
+  const int pair = static_cast<int>(report.repository().gSnapId->rownum()) - 1;
+  for (const std::string& name : report.sections()) {
+    std::set<std::string> names = explained(pages, section(name).code);
     names.insert(common.begin(), common.end());
     report.all(name, pair);
     Grid& grid = report.grid();
     expectHeadings(names, grid, name + " All");
-    const bool metrics = dynamic_cast<MetricSectionObject*>(section.make().get()) != nullptr;
+    const ReleaseViews* const views = section(name).viewsOf(report.version());
+    const bool metrics = std::holds_alternative<AnyMetricView>(views->view);
     for (int r = 1; metrics && r < grid.Rows(); ++r)
       EXPECT_TRUE(names.contains(grid.TextMatrix(r, 1))) << name << ": " << grid.TextMatrix(r, 1);
     if (grid.Rows() == 1) continue;

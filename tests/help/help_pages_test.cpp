@@ -34,7 +34,7 @@ std::string deadEnd(const std::map<std::string, std::string>& pages, const std::
 
 TEST(HelpPages, everySectionHasItsParagraph) {
   const auto pages = helpPages();
-  for (const SectionEntry& section : sectionList()) {
+  for (const Section& section : sectionList()) {
     const std::string paragraph = sectionParagraph(pages, section.code);
     EXPECT_EQ(paragraph.find("<h2><a name=\"section-" + std::to_string(section.code) + "\"></a>" +
                              std::string(section.text) + "</h2>"),
@@ -46,7 +46,7 @@ TEST(HelpPages, everySectionHasItsParagraph) {
 
 TEST(HelpPages, noParagraphIsOfASectionThatIsNotThere) {
   std::set<std::string> codes;
-  for (const SectionEntry& section : sectionList()) codes.insert(std::to_string(section.code));
+  for (const Section& section : sectionList()) codes.insert(std::to_string(section.code));
   std::set<std::string> explained;
   for (const auto& [name, page] : helpPages())
     for (const std::string& code : allMatches(page, "<a name=\"section-([^\"]*)\">")) {
@@ -111,7 +111,7 @@ TEST(HelpPages, contentsLeadToEveryPageAndSection) {
     titles[topic.address] = topic.title;
   }
   for (const auto& [name, page] : pages) EXPECT_TRUE(titles.contains(name)) << name;
-  for (const SectionEntry& section : sectionList()) {
+  for (const Section& section : sectionList()) {
     const auto entry = std::find_if(titles.begin(), titles.end(), [&](const auto& title) {
       return splitAddress(title.first).second == "section-" + std::to_string(section.code);
     });

@@ -6,7 +6,6 @@
 #include "odbc/postgres_cluster.h"
 #include "platform/odbc/odbc_session.h"
 #include "report/SectionObject.h"
-#include "support/recording_boxes.h"
 
 namespace kestrelix {
 namespace {
@@ -40,17 +39,17 @@ class RoundTrips : public testing::Test {
         "instance_number numeric, snap_time timestamp(0), startup_time timestamp(0), snap_level numeric);"
         "insert into stats$snapshot select i, 7, 1, timestamp '2026-01-05 00:00:00' + i * interval '1 hour', "
         "timestamp '2026-01-01 00:00:00', 7 from generate_series(1, 8) as t(i)"));
-    pairs.Initialize(*database, boxes);
+    pairs.Initialize(*database, failures);
     ASSERT_TRUE(pairs.setBAIND_VALUE("7", "1", "", ""));
     ASSERT_TRUE(pairs.getSTART_END_SNAP_ID(false));
     ASSERT_TRUE(pairs.unsetBAIND_VALUE());
-    section.Initialize(*database, pairs, boxes, "10");
+    section.Initialize(*database, pairs, failures, "10");
   }
 
   PostgresCluster* server = nullptr;
   std::unique_ptr<DelayingProxy> proxy;
   std::unique_ptr<odbc::OdbcDatabase> database;
-  testing_support::RecordingBoxes boxes;
+  Failures failures;
   clsSnapId pairs;
   FiveHundredRows section;
 };

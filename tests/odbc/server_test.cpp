@@ -6,14 +6,14 @@
 #include <cstdio>
 #include <memory>
 
-#include "navigation/ModuleLoadCommon.h"
-#include "navigation/ModuleRangeCommon.h"
 #include "navigation/version_gate.h"
 #include "odbc/postgres_cluster.h"
 #include "platform/cancelled.h"
 #include "platform/odbc/odbc_session.h"
-#include "report/ModuleDispCommon.h"
 #include "sections/SectionList.h"
+#include "shell/ModuleDispCommon.h"
+#include "shell/ModuleLoadCommon.h"
+#include "shell/ModuleRangeCommon.h"
 #include "support/recording_boxes.h"
 
 namespace kestrelix {
@@ -150,7 +150,7 @@ class Program : public Server {
     script.erase(script.find("statistic# numeric, "), std::string("statistic# numeric, ").size());
     ASSERT_TRUE(server->run(script));
     for (const char* key : {"GRID", "SQL", "PLAN"}) workspace.controls.ToolbarTop.Add(key, key, "");
-    workspace.gOraDatabase = open();
+    workspace.repository.gOraDatabase = open();
     ASSERT_TRUE(gDispDbInstance_Load(workspace));
   }
   std::string pair(int i) { return workspace.controls.ListSnapId.List(i); }
@@ -160,9 +160,9 @@ class Program : public Server {
 };
 
 TEST_F(Program, listsInstancesAndPairsWithTheirStatus) {
-  EXPECT_EQ(workspace.gDbInstance->rownum(), 2);
-  EXPECT_EQ(workspace.gDbInstance->HOST_NAME(0), "host'1");
-  EXPECT_EQ(workspace.gDbInstance->HOST_NAME(1), "古い");
+  EXPECT_EQ(workspace.repository.gDbInstance->rownum(), 2);
+  EXPECT_EQ(workspace.repository.gDbInstance->HOST_NAME(0), "host'1");
+  EXPECT_EQ(workspace.repository.gDbInstance->HOST_NAME(1), "古い");
   ASSERT_TRUE(gDispSnapId_Load(workspace, "7", "1", false));
   EXPECT_EQ(pair(0), " 2026-01-05 10:00:00    2026-01-05 11:00:00         1         2   OK             ");
   EXPECT_EQ(pair(1), " 2026-01-05 11:00:00    2026-01-05 12:00:00         2         3   SNAP_LEVEL NG  ");
@@ -170,19 +170,17 @@ TEST_F(Program, listsInstancesAndPairsWithTheirStatus) {
 }
 
 TEST_F(Program, theVersionGateRefusesAnOldInstance) {
-  EXPECT_FALSE(passVersionGate(boxes, majorVersion(workspace.gDbInstance->VERSION(1))));
-  EXPECT_THAT(boxes.shown, testing::SizeIs(1));
+  EXPECT_THAT(versionGate(majorVersion(workspace.repository.gDbInstance->VERSION(1))), testing::SizeIs(1));
 }
 
 TEST_F(Program, theRangeNarrowsThePairs) {
   workspace.controls.ComboDbInstance.ListIndex(0);
   workspace.controls.ListSection.AddItem("ListSection");
-  workspace.gSnapRange = std::make_unique<clsSnapRange>(boxes);
   ASSERT_TRUE(gFrameRangeDataInit(workspace));
   workspace.controls.ListSnapId.ListIndex(1);
   ASSERT_TRUE(gFrameRangeSetStartId(workspace));
-  EXPECT_EQ(workspace.gSnapId->rownum(), 2);
-  EXPECT_EQ(workspace.gSnapRange->GET_START_ID(), "2");
+  EXPECT_EQ(workspace.repository.gSnapId->rownum(), 2);
+  EXPECT_EQ(workspace.repository.gSnapRange.GET_START_ID(), "2");
   EXPECT_TRUE(boxes.shown.empty());
 }
 
@@ -190,7 +188,7 @@ TEST_F(Program, aSectionThatTheServerRefusesGivesItsBoxAndTheNextOneWorks) {
   ASSERT_TRUE(gDispSnapId_Load(workspace, "7", "1", false));
   gDispSectionList(workspace, sectionList(), "10", "NO");
   workspace.controls.ListSnapId.ListIndex(0);
-  for (int round = 0; round < 2; ++round) gDispSectionAll(workspace, sectionList(), "10");
+  for (int round = 0; round < 2; ++round) gDispSectionAll(workspace, directReader(), sectionList(), "10");
   EXPECT_THAT(boxes.shown, ElementsAre("[Critical] (clsSnapshot){getSTART_SNAPSHOT} Error",
                                        "[Critical] (clsSnapshot){getSTART_SNAPSHOT} Error"));
   EXPECT_TRUE(gDispSnapId_Load(workspace, "7", "1", false));
@@ -202,9 +200,9 @@ TEST_F(Program, aServerThatStopsGivesTheMembersBoxAndTheWindowStays) {
   workspace.controls.ListSnapId.ListIndex(0);
   server->stop();
   workspace.controls.MSFlexGridMain.Row(1);
-  gDispSectionCol(workspace, sectionList(), "10");
+  gDispSectionCol(workspace, directReader(), sectionList(), "10");
   EXPECT_THAT(boxes.shown, ElementsAre("[Critical] (clsSnapshot){getSTART_SNAPSHOT} Error"));
-  gDispSectionAll(workspace, sectionList(), "10");
+  gDispSectionAll(workspace, directReader(), sectionList(), "10");
   EXPECT_THAT(boxes.shown, testing::SizeIs(2));
   server->start();
 }

@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/recording_boxes.h"
 #include "support/snapshots.h"
 
 namespace kestrelix {
@@ -47,7 +46,7 @@ class SectionObjects : public testing::Test {
     testing_support::laySnapshots(server, {{"1", "2026-01-05 10:00:00"},
                                            {"2", "2026-01-05 11:00:00"},
                                            {"3", "2026-01-05 12:00:00", "7", "2026-01-05 11:30:00"}});
-    pairs.Initialize(database, boxes);
+    pairs.Initialize(database, failures);
     pairs.getSTART_END_SNAP_ID(false);
     lay("from top", {"TOP_NUM"}, {{"5"}});
     server.asked.clear();
@@ -65,6 +64,11 @@ class SectionObjects : public testing::Test {
     return object.setBAIND_VALUE(pairs.keys(pair), {"key"}) && object.get(member, pair) &&
            object.unsetBAIND_VALUE();
   }
+  std::vector<std::string> boxes() const {
+    std::vector<std::string> texts;
+    for (const Failure& failure : failures) texts.push_back(failure.box);
+    return texts;
+  }
   std::vector<std::string> statements() const {
     std::vector<std::string> texts;
     for (const auto& asked : server.asked) texts.push_back(asked.statement);
@@ -72,11 +76,11 @@ class SectionObjects : public testing::Test {
   }
   template <class Object>
   void initialize(Object& object, const char* version = "10") {
-    object.Initialize(database, pairs, boxes, version);
+    object.Initialize(database, pairs, failures, version);
   }
 
   FakeServer server;
-  testing_support::RecordingBoxes boxes;
+  Failures failures;
   testing_support::FakeDatabase database{server};
   clsSnapId pairs;
   Events events;
@@ -155,20 +159,20 @@ TEST_F(SectionObjects, bindingTwiceWithoutTakingOffFailsInTheBinding) {
   initialize(events);
   EXPECT_TRUE(events.setBAIND_VALUE(pairs.keys(0)));
   EXPECT_FALSE(events.setBAIND_VALUE(pairs.keys(0)));
-  EXPECT_THAT(boxes.shown, ElementsAre("[Critical] (clsEvents){setBAIND_VALUE} Error"));
+  EXPECT_THAT(boxes(), ElementsAre("(clsEvents){setBAIND_VALUE} Error"));
 }
 
 TEST_F(SectionObjects, takingOffWhatIsNotBoundFailsInItsMember) {
   initialize(events);
   EXPECT_FALSE(events.unsetBAIND_VALUE());
-  EXPECT_THAT(boxes.shown, ElementsAre("[Critical] (clsEvents){unsetBAIND_VALUE} Error"));
+  EXPECT_THAT(boxes(), ElementsAre("(clsEvents){unsetBAIND_VALUE} Error"));
 }
 
 TEST_F(SectionObjects, aFigureThatCannotBeFetchedEndsTheBindingWithItsOwnBoxAlone) {
   server.answer("from top").fails = true;
   initialize(events);
   EXPECT_FALSE(events.setBAIND_VALUE(pairs.keys(0)));
-  EXPECT_THAT(boxes.shown, ElementsAre("[Critical] (clsEvents){getTOP_NUM} Error"));
+  EXPECT_THAT(boxes(), ElementsAre("(clsEvents){getTOP_NUM} Error"));
   EXPECT_EQ(database.parameters().count(), 6u) << "what was added stays";
 }
 
@@ -176,14 +180,14 @@ TEST_F(SectionObjects, aFetchedFigureThatIsNoNumberFailsInTheBinding) {
   lay("from top", {"TOP_NUM"}, {{"five"}});
   initialize(events);
   EXPECT_FALSE(events.setBAIND_VALUE(pairs.keys(0)));
-  EXPECT_THAT(boxes.shown, ElementsAre("[Critical] (clsEvents){setBAIND_VALUE} Error"));
+  EXPECT_THAT(boxes(), ElementsAre("(clsEvents){setBAIND_VALUE} Error"));
 }
 
 TEST_F(SectionObjects, aNullInAFetchedFieldFailsInTheGetter) {
   lay("select all", {"EVENT", "WAITS"}, {{"latch free", std::nullopt}});
   initialize(events);
   EXPECT_FALSE(fetch(events, "getEVENTS_ALL", 0));
-  EXPECT_THAT(boxes.shown, ElementsAre("[Critical] (clsEvents){getEVENTS_ALL} Error"));
+  EXPECT_THAT(boxes(), ElementsAre("(clsEvents){getEVENTS_ALL} Error"));
 }
 
 TEST_F(SectionObjects, bindingAMetricObjectAppendsTheRecordThatItsGettersFill) {
@@ -205,7 +209,7 @@ TEST_F(SectionObjects, getAllStopsAtTheFirstThatFails) {
   initialize(metrics);
   ASSERT_TRUE(metrics.setBAIND_VALUE(pairs.keys(0)));
   EXPECT_FALSE(metrics.getALL(0));
-  EXPECT_THAT(boxes.shown, ElementsAre("[Critical] (clsMetrics){getSECOND} Error")) << "no row, no field";
+  EXPECT_THAT(boxes(), ElementsAre("(clsMetrics){getSECOND} Error")) << "no row, no field";
   EXPECT_EQ(metrics.FIRST(0, 0), "1");
   EXPECT_EQ(metrics.THIRD(0, 0), "");
 }
@@ -226,7 +230,7 @@ TEST_F(SectionObjects, getAllOfAnUnknownVersionDoesNothingAndSucceeds) {
     EXPECT_TRUE(metrics.unsetBAIND_VALUE());
   }
   EXPECT_THAT(statements(), IsEmpty());
-  EXPECT_THAT(boxes.shown, IsEmpty());
+  EXPECT_THAT(boxes(), IsEmpty());
 }
 
 TEST_F(SectionObjects, metricsAcrossARestartSendNothingAndAreEmpty) {

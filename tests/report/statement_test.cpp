@@ -20,7 +20,9 @@ TEST(Fold, blanksInsideQuotesStay) {
 
 TEST(Fold, aDoubledQuoteDoesNotEndTheText) { EXPECT_EQ(fold("'it''s  so'  x"), "'it''s  so' x "); }
 
-TEST(Fold, hintsKeepTheirPlace) { EXPECT_EQ(fold("select\n/*+ first_rows */\n a"), "select /*+ first_rows */ a "); }
+TEST(Fold, hintsKeepTheirPlace) {
+  EXPECT_EQ(fold("select\n/*+ first_rows */\n a"), "select /*+ first_rows */ a ");
+}
 
 TEST(Fold, nothingStaysNothing) { EXPECT_EQ(fold("  \n "), ""); }
 

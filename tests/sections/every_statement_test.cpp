@@ -6,13 +6,12 @@
 
 #include <algorithm>
 
-#include "navigation/ModuleLoadCommon.h"
+#include "navigation/repository.h"
 #include "oracle_sql/error.h"
 #include "oracle_sql/parser.h"
 #include "oracle_sql/resolver.h"
 #include "platform/ascii.h"
 #include "statspack/release_catalogue.h"
-#include "support/recording_boxes.h"
 #include "support/snapshots.h"
 
 namespace kestrelix {
@@ -50,16 +49,14 @@ TEST(EveryStatement, resolvesAgainstEachReleaseThatListsItsSection) {
 
 TEST(EveryStatement, holdsWhatTheListsOfInstancesAndPairsSend) {
   testing_support::FakeServer server;
-  testing_support::RecordingBoxes boxes;
-  Workspace workspace(boxes);
-  workspace.gOraDatabase = std::make_unique<testing_support::FakeDatabase>(server);
-  workspace.gSnapRange = std::make_unique<clsSnapRange>(boxes);
+  Repository repository;
+  repository.gOraDatabase = std::make_unique<testing_support::FakeDatabase>(server);
   testing_support::layInstance(server, "1001", "10.2.0.4.0", "1");
   for (const char* statement : {testing_support::kSnapshots, testing_support::kRangeOfSnapshots})
     testing_support::laySnapshots(server, {{"1", "2026-01-05 10:00:00"}, {"2", "2026-01-05 11:00:00"}},
                                   statement);
-  ASSERT_TRUE(gDispDbInstance_Load(workspace));
-  for (const bool useRange : {false, true}) ASSERT_TRUE(gDispSnapId_Load(workspace, "1001", "1", useRange));
+  ASSERT_TRUE(repository.loadInstances().empty());
+  for (const bool useRange : {false, true}) ASSERT_TRUE(repository.loadPairs("1001", "1", useRange).empty());
   ASSERT_EQ(server.asked.size(), 3u);
   const auto statements = everyStatement();
   for (const auto& asked : server.asked)

@@ -5,7 +5,6 @@
 
 #include <cctype>
 
-#include "report/GridRendering.h"
 #include "sections/cluster_support.h"
 
 namespace kestrelix::testing_support {
@@ -19,7 +18,7 @@ std::string box(const std::string& className, const std::string& member) {
 
 /// Puts a view of that many rows into the grid, and tells it.
 std::string formerView(ReportFixture& report, int rows) {
-  gridSetUp(report.grid(), 6, rows);
+  layGrid(report.grid(), 6, rows);
   report.grid().Visible(true);
   for (int r = 1; r <= rows; ++r) report.grid().TextMatrix(r, 1, "former " + std::to_string(r));
   return printed(report.grid());

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "report/GridRendering.h"
 #include "sections/instance_support.h"
 
 namespace kestrelix::testing_support {
@@ -38,7 +37,7 @@ class FailedFetch : public testing::TestWithParam<Failing> {
 
 TEST_P(FailedFetch, leavesTheFormerViewAndShowsTheBoxOfItsGetter) {
   OpenReport report(repository_);
-  gridSetUp(report.grid(), 5, 1);
+  layGrid(report.grid(), 5, 1);
   report.grid().Visible(true);
   report.grid().TextMatrix(1, 1, "B");
   const std::string former = printed(report.grid());
@@ -118,7 +117,7 @@ class FailedFetchByNumber : public FailedFetch {};
 
 TEST_P(FailedFetchByNumber, showsTheBoxOfItsGetterOrOfTheBinding) {
   OpenReport report(repository_);
-  gridSetUp(report.grid(), 5, 1);
+  layGrid(report.grid(), 5, 1);
   report.all(GetParam().section, 0);
   EXPECT_THAT(report.boxes(), ElementsAre(box(GetParam().all)));
   report.grid().TextMatrix(1, 1, "64");
@@ -154,7 +153,7 @@ TEST(FailedFetchOfProcesses, showsTheBoxOfTheGetterOfEitherView) {
   InstanceRepository repository("10");
   repository.without("stats$process_memory_rollup");
   OpenReport report(repository);
-  gridSetUp(report.grid(), 5, 1);
+  layGrid(report.grid(), 5, 1);
   report.all("Top Process Memory (by component)", 0);
   for (const char* edge : {"B", "E"}) {
     report.grid().TextMatrix(1, 1, edge);
@@ -183,7 +182,7 @@ TEST(FailedFetchOfLevels, aMissingValueShowsTheBoxOfTheGetter) {
       .sysstat("user rollbacks", "1", "2")
       .sysstat("logons current", "", "5");
   OpenReport report(repository);
-  gridSetUp(report.grid(), 5, 1);
+  layGrid(report.grid(), 5, 1);
   report.all("Instance Activity Stats[2]", 0);
   report.grid().TextMatrix(1, 1, "logons current");
   report.col(1);

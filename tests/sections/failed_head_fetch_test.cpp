@@ -5,11 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "navigation/ModuleLoadCommon.h"
-#include "report/GridRendering.h"
-#include "report/ModuleDispCommon.h"
-#include "sections/SectionList.h"
-#include "support/recording_boxes.h"
 #include "support/report_fixture.h"
 #include "support/snapshots.h"
 
@@ -56,51 +51,39 @@ std::string series(const std::string& member) {
 class FailedFetchOfHead : public testing::TestWithParam<Failing> {
  protected:
   void SetUp() override {
-    for (const char* key : {"GRID", "SQL", "PLAN"}) workspace.controls.ToolbarTop.Add(key, key, "");
     laySnapshots(server, {{"41", "2026-01-05 10:00:00", "7", "2026-01-01 00:00:00"},
                           {"42", "2026-01-05 11:00:00", "7", "2026-01-01 00:00:00"}});
-    workspace.gOraDatabase = std::make_unique<FakeDatabase>(server);
-    ASSERT_TRUE(gDispSnapId_Load(workspace, "1001", "1", false));
+    report.repository.gOraDatabase = std::make_unique<FakeDatabase>(server);
+    report.loadPairs("1001", "1");
     server.answers.clear();
     for (const char* total : {"TWT", "TCPU", "TRAN", "TIMSTAT"}) {
       Answer& answer = server.answer("AS " + std::string(total) + " from");
       answer.columns = {total};
       answer.rows = {{"1"}};
     }
-    workspace.controls.ListSnapId.ListIndex(0);
-  }
-
-  void select(const std::string& section, const std::string& version) {
-    gDispSectionList(workspace, sectionList(), version, "YES");
-    ListBox& list = workspace.controls.ListSection;
-    for (int i = 0; i < list.ListCount(); ++i)
-      if (list.List(i) == section) list.ListIndex(i);
-    ASSERT_EQ(list.Text(), section);
   }
 
   FakeServer server;
-  RecordingBoxes boxes;
-  Workspace workspace{boxes};
+  GridReport report;
 };
 
 TEST_P(FailedFetchOfHead, showsTheBoxOfEachGetterAndLeavesTheFormerView) {
-  Grid& grid = workspace.controls.MSFlexGridMain;
+  Grid& grid = report.grid;
   const int rows = static_cast<int>(GetParam().cols.size());
   for (const std::string& version : GetParam().versions) {
-    select(GetParam().section, version);
-    gridSetUp(grid, 2, rows);
+    layGrid(grid, 2, rows);
     for (int r = 1; r <= rows; ++r) grid.TextMatrix(r, 1, std::to_string(r));
     grid.Visible(true);
     const std::string former = printed(grid);
-    boxes.shown.clear();
-    gDispSectionAll(workspace, sectionList(), version);
+    report.boxes.shown.clear();
+    report.all(GetParam().section, version, "YES", 0);
     Texts expected{"[Critical] " + GetParam().all + " Error"};
     for (int r = 1; r <= rows; ++r) {
       grid.Row(r);
-      gDispSectionCol(workspace, sectionList(), version);
+      report.col(version);
       expected.push_back("[Critical] " + GetParam().cols[static_cast<std::size_t>(r - 1)] + " Error");
     }
-    EXPECT_EQ(boxes.shown, expected) << version;
+    EXPECT_EQ(report.boxes.shown, expected) << version;
     EXPECT_EQ(printed(grid), former) << version;
     EXPECT_TRUE(grid.Visible()) << version;
   }

@@ -144,13 +144,11 @@ struct Shown {
 std::vector<Shown> viewsOf(const std::filesystem::path& file) {
   ReportFixture report(file.string());
   report.open(0);
-  const clsSnapId& pairs = *report.workspace().gSnapId;
+  const clsSnapId& pairs = *report.repository().gSnapId;
   int pair = static_cast<int>(pairs.rownum()) - 2;
   while (pair > 0 && pairs.REPORT_STATUS(pair) != kStatusOk) --pair;
-  const ListBox& list = report.workspace().controls.ListSection;
   std::vector<Shown> views;
-  for (int i = 0; i < list.ListCount(); ++i) {
-    const std::string section = list.List(i);
+  for (const std::string& section : report.sections()) {
     const std::size_t boxes = report.boxes().size();
     std::string text = report.all(section, pair);
     const bool hasRows = report.grid().Rows() > 1;

@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "report/GridRendering.h"
 #include "sections/cluster/clsGlobalCacheEfficiency.h"
 #include "sections/cluster_support.h"
 
@@ -85,7 +84,7 @@ TEST(GlobalCacheLoadProfile, theSeriesOfARowFailsInTheRowsOwnRateAndTheTrafficHa
   globalCacheStatistics(repository.sysstat("user commits", "5", "5").sysstat("user rollbacks", "0", "0"));
   ReportFixture report(repository.write());
   report.open(0);
-  gridSetUp(report.grid(), 4, 6);
+  layGrid(report.grid(), 4, 6);
   report.all("Global Cache Load Profile", 0);
   for (int row = 1; row <= 5; ++row) report.col(row);
   EXPECT_THAT(report.boxes(), ElementsAre("[Critical] (clsGlobalCacheLoadProfile){getGCBR_TRAN} Error",

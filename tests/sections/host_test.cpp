@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "sections/head_support.h"
-#include "sections/summary/ModuleDispHostCPU.h"
+#include "sections/renderers.h"
 
 namespace kestrelix::testing_support {
 namespace {
@@ -74,7 +74,7 @@ TEST(HostCpu, waitReportedFromTheEndOnIsABox) {
   repository.host("IOWAIT_TIME", {"-", "5"});
   ReportFixture report(repository.write());
   report.open(0);
-  gDispHostCPU_Col(report.workspace(), "10", {6, {}});
+  report.show(gDispHostCPU_Col(report.source(), {6, {}}));
   EXPECT_THAT(report.boxes(), ElementsAre("[Critical] (clsHostCPU){getWIO} Error"));
 }
 
@@ -99,10 +99,7 @@ TEST(HostCpu, hostThatStoodStillIsABoxUnlessTheWaitIsBlankAnyway) {
   repository.host("BUSY_TIME", {"5", "5"}).host("IDLE_TIME", {"6", "6"}).host("USER_TIME", {"1", "1"});
   ReportFixture report(repository.write());
   report.open(0);
-  const auto series = [&](int row) {
-    report.workspace().gOraDatabase->parameters().clear();
-    gDispHostCPU_Col(report.workspace(), "10", {row, {}});
-  };
+  const auto series = [&](int row) { report.show(gDispHostCPU_Col(report.source(), {row, {}})); };
   series(3);
   series(5);
   EXPECT_THAT(report.boxes(), ElementsAre("[Critical] (clsHostCPU){getUSER} Error",

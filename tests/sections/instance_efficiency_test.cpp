@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "sections/head_support.h"
-#include "sections/summary/ModuleDispInstanceEfficiency.h"
+#include "sections/renderers.h"
 
 namespace kestrelix::testing_support {
 namespace {
@@ -246,7 +246,7 @@ TEST(InstanceEfficiency, firstOfSeveralFreeMemoriesCounts) {
                    {"2", "shared pool", "free memory", "250"}});
   ReportFixture report(repository.write());
   report.open(0);
-  gDispInstanceEfficiency_Col(report.workspace(), "10", {11, {}});
+  report.show(gDispInstanceEfficiency_Col(report.source(), {11, {}}));
   EXPECT_EQ(printed(report.grid()),
             "NO|NAME|END TIME|START|END|STATUS\n1|Memory Usage %:|2026-01-05 11:00:00|50|75|OK\n");
 }
@@ -267,7 +267,7 @@ TEST(InstanceEfficiency, rowsLeadToTheirSeries) {
                                      "|2026-01-05 11:00:00|" + blanks + "|DB RESTART\n");
     }
     const std::string before = printed(report.grid());
-    gDispInstanceEfficiency_Col(report.workspace(), version, {14, {}});
+    report.show(gDispInstanceEfficiency_Col(report.source(), {14, {}}));
     EXPECT_EQ(printed(report.grid()), before);
     EXPECT_THAT(report.boxes(), IsEmpty());
   }
@@ -278,14 +278,14 @@ TEST(InstanceEfficiency, rowFourLeadsToTheFigureOfItsVersion) {
   common(sorts);
   ReportFixture ten(sorts.write());
   ten.open(0);
-  gDispInstanceEfficiency_Col(ten.workspace(), "10", {4, {}});
+  ten.show(gDispInstanceEfficiency_Col(ten.source(), {4, {}}));
   EXPECT_EQ(printed(ten.grid()),
             "NO|NAME|END TIME|OTHER VALUE|STATUS\n1|In-memory Sort %:|2026-01-05 11:00:00|99|OK\n");
   HeadRepository areas("11", {"10:00:00", "11:00:00"});
   workAreas(areas);
   ReportFixture eleven(areas.write());
   eleven.open(0);
-  gDispInstanceEfficiency_Col(eleven.workspace(), "11", {4, {}});
+  eleven.show(gDispInstanceEfficiency_Col(eleven.source(), {4, {}}));
   EXPECT_EQ(printed(eleven.grid()),
             "NO|NAME|END TIME|OTHER VALUE|STATUS\n1|Optimal W/A Exec %:|2026-01-05 11:00:00|90.91|OK\n");
 }

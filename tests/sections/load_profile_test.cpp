@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "report/clsGraphCommon.h"
+#include "report/chart_series.h"
 #include "sections/head_support.h"
-#include "sections/summary/ModuleDispLoadProfile.h"
+#include "sections/renderers.h"
 
 namespace kestrelix::testing_support {
 namespace {
@@ -193,13 +193,8 @@ TEST(LoadProfile, snapshotsOfTheSameTimeLeaveThePerSecondColumnsBlankAndOutOfThe
   EXPECT_EQ(report.grid().TextMatrix(1, 3), "1200");
   EXPECT_EQ(report.grid().TextMatrix(14, 4), "16.67");
   report.col(1);
-  clsGraphCommon graph(report.workspace().boxes);
-  MainControls& controls = report.workspace().controls;
-  report.grid().Col(3);
-  EXPECT_FALSE(graph.Initialize(report.grid(), controls.MSChartCommon, controls.ToolbarTop));
-  EXPECT_THAT(report.boxes(), ElementsAre("[Exclamation] 選択されている項目は不正です"));
-  report.grid().Col(4);
-  EXPECT_TRUE(graph.Initialize(report.grid(), controls.MSChartCommon, controls.ToolbarTop));
+  EXPECT_FALSE(ChartSeries::of(report.grid(), 3));
+  EXPECT_TRUE(ChartSeries::of(report.grid(), 4));
 }
 
 TEST(LoadProfile, pairWithoutTransactionsLeavesThePerTransactionColumnsBlank) {
@@ -244,7 +239,7 @@ TEST(LoadProfile, lossIsANegativeRate) {
   ReportFixture report(repository.write());
   report.open(0);
   const std::string before = printed(report.grid());
-  gDispLoadProfile_Col(report.workspace(), "10", {1, {}});
+  report.show(gDispLoadProfile_Col(report.source(), {1, {}}));
   EXPECT_THAT(report.boxes(), ElementsAre("[Critical] (clsLoadProfile){getREDO_SIZE} Error"))
       << "one pair that fails ends the series";
   EXPECT_EQ(printed(report.grid()), before);
@@ -253,7 +248,7 @@ TEST(LoadProfile, lossIsANegativeRate) {
   whole.transactions().sysstat("redo size", {"7200", "0", "0", "0"});
   ReportFixture second(whole.write());
   second.open(0);
-  gDispLoadProfile_Col(second.workspace(), "10", {1, {}});
+  second.show(gDispLoadProfile_Col(second.source(), {1, {}}));
   EXPECT_EQ(columnsOf(printed(second.grid()), 3, 4), "PER SECOND|PER TRANSACTION\n-2|-120\n|\n0|0\n");
 }
 
@@ -284,7 +279,7 @@ TEST(LoadProfile, rowBehindTheLastLeadsNowhere) {
     ReportFixture report(repository.write());
     report.open(0);
     const std::string before = printed(report.grid());
-    for (const int none : {0, row, row + 1}) gDispLoadProfile_Col(report.workspace(), version, {none, {}});
+    for (const int none : {0, row, row + 1}) report.show(gDispLoadProfile_Col(report.source(), {none, {}}));
     EXPECT_EQ(printed(report.grid()), before);
     EXPECT_THAT(report.boxes(), IsEmpty());
   }

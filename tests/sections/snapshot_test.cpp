@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "sections/head_support.h"
-#include "sections/summary/ModuleDispSnapshot.h"
+#include "sections/renderers.h"
 
 namespace kestrelix::testing_support {
 namespace {
@@ -106,7 +106,7 @@ TEST(Snapshot, noOtherRowLeadsAnywhere) {
   ReportFixture report(repository.write());
   report.open(0);
   const std::string before = printed(report.grid());
-  gDispSnapshot_Col(report.workspace(), "10", {4, {}});
+  report.show(gDispSnapshot_Col(report.source(), {4, {}}));
   EXPECT_EQ(printed(report.grid()), before);
   EXPECT_THAT(report.boxes(), IsEmpty());
 }
@@ -132,7 +132,7 @@ TEST(Snapshot, seriesOfElapsedTimesNeedsNoStatistic) {
   HeadRepository repository("10");
   ReportFixture report(repository.write());
   report.open(0);
-  gDispSnapshot_Col(report.workspace(), "10", {3, {}});
+  report.show(gDispSnapshot_Col(report.source(), {3, {}}));
   EXPECT_EQ(report.grid().TextMatrix(1, 3), "60");
   EXPECT_THAT(report.boxes(), IsEmpty());
 }

@@ -2,8 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "sections/sql/ModuleDispSQLPanels.h"
 #include "sections/sql/ModuleDispSQLShaping.h"
+#include "sections/sql/sqlPanels.h"
 #include "support/report_fixture.h"
 #include "support/sql_repository.h"
 
@@ -55,28 +55,38 @@ class SqlPanels : public testing::Test {
   void open(int pair = 0) {
     report = std::make_unique<ReportFixture>(repository->write());
     report->open(0);
+    pair_ = pair;
     report->all("SQL ordered by Gets TOTAL", pair);
     if (report->grid().Rows() > 1) report->grid().Row(1);
   }
   std::string text() {
-    gDispSqlText(report->workspace(), version_);
-    return printed(report->workspace().controls.MSFlexGridSql);
+    show(sqlGrid, readSqlText(report->source(), pair_, hash()));
+    return printed(sqlGrid);
   }
   std::string plan() {
-    gDispSQLPlan(report->workspace(), version_);
-    return printed(report->workspace().controls.MSFlexGridPlan);
+    show(planGrid, readSqlPlan(report->source(), pair_, hash()));
+    return printed(planGrid);
   }
   /// One column of the plan grid.
   std::vector<std::string> planCells(int column) {
     plan();
     std::vector<std::string> cells;
-    const Grid& grid = report->workspace().controls.MSFlexGridPlan;
-    for (int r = 1; r < grid.Rows(); ++r) cells.push_back(grid.TextMatrix(r, column));
+    for (int r = 1; r < planGrid.Rows(); ++r) cells.push_back(planGrid.TextMatrix(r, column));
     return cells;
+  }
+
+  /// The hash in the ranking's current row.
+  std::string hash() const { return report->grid().TextMatrix(report->grid().Row(), 1); }
+  void show(Grid& grid, const ReportTable& table) {
+    showFailures(report->messageBoxes(), table.failures);
+    if (table.read) showTable(grid, table);
   }
 
   std::unique_ptr<SqlRepository> repository;
   std::unique_ptr<ReportFixture> report;
+  Grid sqlGrid{"MSFlexGridSql"};
+  Grid planGrid{"MSFlexGridPlan"};
+  int pair_ = 0;
   std::string version_;
 };
 
@@ -88,10 +98,10 @@ TEST_F(SqlPanels, withoutTheTableOfTextsTheBoxOfTheGetterShowsAndTheGridStays) {
   with("11");
   repository->fixture.without("stats$sqltext").without("stats$sql_plan");
   open();
-  report->workspace().controls.MSFlexGridSql.TextMatrix(1, 1, "kept");
+  sqlGrid.TextMatrix(1, 1, "kept");
   text();
   plan();
-  EXPECT_EQ(report->workspace().controls.MSFlexGridSql.TextMatrix(1, 1), "kept");
+  EXPECT_EQ(sqlGrid.TextMatrix(1, 1), "kept");
   EXPECT_THAT(report->boxes(), ElementsAre("[Critical] (clsSQLText){getSQL_TEXT} Error",
                                            "[Critical] (clsSQLPlan){getSQL_PLAN} Error"));
 }
@@ -235,13 +245,12 @@ TEST_F(SqlPanels, theTextOfTheRepositoryIsShapedAndComesBack) {
   piece("1", "c\r\nfrom   t");
   open();
   const std::string pieces = text();
-  Grid& grid = report->workspace().controls.MSFlexGridSql;
-  clsSQLShaping shaping(report->workspace().boxes);
+  clsSQLShaping shaping;
   bool shaped = false;
-  gDispSqlShapingToggle(shaped, shaping, grid);
-  EXPECT_EQ(printed(grid), kTextHeadings + std::string("1|101|1|3|select 'a b', c\n2||||from t\n"));
-  gDispSqlShapingToggle(shaped, shaping, grid);
-  EXPECT_EQ(printed(grid), pieces);
+  gDispSqlShapingToggle(shaped, shaping, sqlGrid);
+  EXPECT_EQ(printed(sqlGrid), kTextHeadings + std::string("1|101|1|3|select 'a b', c\n2||||from t\n"));
+  gDispSqlShapingToggle(shaped, shaping, sqlGrid);
+  EXPECT_EQ(printed(sqlGrid), pieces);
 }
 
 TEST_F(SqlPanels, aFormerFailureDoesNotBlockTheNextPanel) {

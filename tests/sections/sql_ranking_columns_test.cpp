@@ -3,11 +3,8 @@
 
 #include <map>
 
-#include "navigation/ModuleLoadCommon.h"
-#include "report/ModuleDispCommon.h"
-#include "sections/SectionList.h"
 #include "sections/sql/sqlRankings.h"
-#include "support/recording_boxes.h"
+#include "support/grid_report.h"
 #include "support/snapshots.h"
 
 namespace kestrelix {
@@ -18,24 +15,17 @@ using namespace testing_support;
 class SqlRankingColumns : public testing::Test {
  protected:
   void SetUp() override {
-    for (const char* key : {"GRID", "SQL", "PLAN"}) workspace.controls.ToolbarTop.Add(key, key, "");
     laySnapshots(server, {{"41", "2026-01-05 10:00:00", "7", "2026-01-01 00:00:00"},
                           {"42", "2026-01-05 11:00:00", "7", "2026-01-01 00:00:00"},
                           {"43", "2026-01-05 12:00:00", "7", "2026-01-05 11:30:00"}});
     server.answer("stats$sql_summary");  // no rows
-    workspace.gOraDatabase = std::make_unique<FakeDatabase>(server);
-    ASSERT_TRUE(gDispSnapId_Load(workspace, "1001", "1", false));
+    report.repository.gOraDatabase = std::make_unique<FakeDatabase>(server);
+    report.loadPairs("1001", "1");
   }
 
   void all(const std::string& section, const std::string& version, int pair = 0) {
-    gDispSectionList(workspace, sectionList(), version, "YES");
-    ListBox& list = workspace.controls.ListSection;
-    for (int i = 0; i < list.ListCount(); ++i)
-      if (list.List(i) == section) list.ListIndex(i);
-    ASSERT_EQ(list.Text(), section);
-    workspace.controls.ListSnapId.ListIndex(pair);
     server.asked.clear();
-    gDispSectionAll(workspace, sectionList(), version);
+    report.all(section, version, "YES", pair);
   }
   /// The Col view of a row with that hash in the key cell.
   void col(const std::string& version, const std::string& hash) {
@@ -43,9 +33,9 @@ class SqlRankingColumns : public testing::Test {
     grid().TextMatrix(1, 1, hash);
     grid().Row(1);
     server.asked.clear();
-    gDispSectionCol(workspace, sectionList(), version);
+    report.col(version);
   }
-  Grid& grid() { return workspace.controls.MSFlexGridMain; }
+  Grid& grid() { return report.grid; }
   std::string headings() {
     std::string line;
     for (int c = 0; c < grid().Cols(); ++c) line += (c == 0 ? "" : "|") + grid().TextArray(c);
@@ -53,8 +43,7 @@ class SqlRankingColumns : public testing::Test {
   }
 
   FakeServer server;
-  RecordingBoxes boxes;
-  Workspace workspace{boxes};
+  GridReport report;
 };
 
 TEST_F(SqlRankingColumns, theCountsOfColumnsByVersionAndView) {
@@ -84,7 +73,7 @@ TEST_F(SqlRankingColumns, theCountsOfColumnsByVersionAndView) {
       col(version, "815");
       EXPECT_EQ(grid().Cols(), expected.second) << counts.section << " " << version;
     }
-  EXPECT_TRUE(boxes.shown.empty());
+  EXPECT_TRUE(report.boxes.shown.empty());
 }
 
 TEST_F(SqlRankingColumns, theHeadingsOfVersion11) {
@@ -237,7 +226,7 @@ TEST_F(SqlRankingColumns, theListAsksForOnePercentAnd65RowsAndTheColViewForTheHa
   all("SQL ordered by CPU TOTAL", "11");
   ASSERT_EQ(server.asked.size(), 1u);
   EXPECT_EQ(sent(), "B1=1001 B2=1 B3=41 B4=42 B5=0 PAR=1 TOP_NUM=65 ");
-  EXPECT_EQ(workspace.gOraDatabase->parameters().count(), 0u);
+  EXPECT_EQ(report.repository.gOraDatabase->parameters().count(), 0u);
   col("11", "815");
   ASSERT_EQ(server.asked.size(), 1u);  // the second pair goes across a restart
   EXPECT_EQ(sent(), "B1=1001 B2=1 B3=41 B4=42 B5=815 PAR=0 TOP_NUM=0 ");
@@ -259,9 +248,9 @@ TEST_F(SqlRankingColumns, totalAndExecSendTheirOwnStatement) {
   }
 }
 
-TEST_F(SqlRankingColumns, theButtonsOfTextAndPlanAreOn) {
-  all("SQL ordered by Parse Calls", "9");
-  for (const char* key : {"GRID", "SQL", "PLAN"}) EXPECT_TRUE(workspace.controls.ToolbarTop.Enabled(key));
+TEST(SqlRankings, theButtonsOfTextAndPlanAreOnForThemAlone) {
+  for (const Section& each : sectionList())
+    EXPECT_EQ(each.sqlButtons, each.text.starts_with("SQL ordered by")) << each.text;
 }
 
 TEST(SqlRankings, thereAre26StatementsForOracle11And10And14ForOracle9) {
@@ -273,11 +262,11 @@ TEST(SqlRankings, thereAre26StatementsForOracle11And10And14ForOracle9) {
 
 TEST(SqlRankings, aMemberThatVersion9LacksDoesNothingAndSucceeds) {
   FakeServer server;  // fails for any statement
-  RecordingBoxes boxes;
+  Failures failures;
   FakeDatabase database(server);
   clsSnapId pairs;
   clsSQLorderedby object;
-  object.Initialize(database, pairs, boxes, "9");
+  object.Initialize(database, pairs, failures, "9");
   EXPECT_TRUE(object.get("getSQL_ORDERED_BY_CPU_TOTAL", 0));
   EXPECT_EQ(object.rownum(), 0);
   EXPECT_TRUE(server.asked.empty());

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "sections/sql/ModuleDispSQLorderedby.h"
+#include "sections/renderers.h"
 #include "sections/sql_ranking_support.h"
 
 namespace kestrelix {
@@ -170,7 +170,7 @@ TEST_F(SqlRanking11, withoutTheTotalsRowAtOneEndTheListIsEmptyAndTheSeriesBlank)
   EXPECT_THAT(all("Reads TOTAL", {"OLD_HASH_VALUE"}), IsEmpty());
   EXPECT_THAT(all("Gets TOTAL", {"OLD_HASH_VALUE"}), ElementsAre("201"));
   report->grid().Row(1);
-  gDispSQLorderedbyReads_Col(report->workspace(), "11", {1, {"201"}});
+  report->show(gDispSQLorderedbyReads_Col(report->source(), {1, {"201"}}));
   EXPECT_THAT(cellsOf(report->grid(), {"NO", "OLD_HASH_VALUE", "DISK_READS", "STATUS"}),
               ElementsAre("1|||OK"));
   EXPECT_THAT(report->boxes(), IsEmpty()) << testing::PrintToString(report->errors());
@@ -253,7 +253,7 @@ TEST_F(SqlRanking11, theSeriesIgnoresTheCutOffAndIsBlankWhereTheStatementIsMissi
   repository.snapshot(5, "2026-01-05 12:00:00").snapshot(7, "2026-01-05 13:00:00", "2026-01-05 12:30:00");
   repository.fixture.rows("stats$sys_time_model", {"snap_id", "stat_id", "value"}, {{"5", "2", "207000000"}});
   all("Elapsed TOTAL", {"OLD_HASH_VALUE"});
-  gDispSQLorderedbyElapsed_Col(report->workspace(), "11", {1, {"108"}});
+  report->show(gDispSQLorderedbyElapsed_Col(report->source(), {1, {"108"}}));
   EXPECT_THAT(
       cellsOf(report->grid(), {"NO", "OLD_HASH_VALUE", "END TIME", "ELAPSED_TIME(S)", "%TOTAL", "STATUS"}),
       ElementsAre("1|108|2026-01-05 11:00:00|1|1|OK", "2||2026-01-05 12:00:00|||OK",
@@ -271,7 +271,7 @@ TEST_F(SqlRanking11, aSeriesWithAnUnknownTotalShowsTheBoxOfItsMember) {
   repository.statistic("session logical reads", "500", "");
   repository.add({.snap = 3, .hash = 901, .executions = 1, .gets = 500});
   open();
-  gDispSQLorderedbyGets_Col(report->workspace(), "11", {1, {"901"}});
+  report->show(gDispSQLorderedbyGets_Col(report->source(), {1, {"901"}}));
   EXPECT_THAT(report->boxes(),
               ElementsAre("[Critical] (clsSQLorderedby){getSQL_ORDERED_BY_GETS_TIME} Error"));
 }

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "sections/sql/ModuleDispSQLorderedby.h"
+#include "sections/renderers.h"
 #include "sections/sql_ranking_support.h"
 
 namespace kestrelix {
@@ -179,11 +179,9 @@ TEST_F(SqlRanking10, aTotalOfZeroInASeriesShowsTheBoxOfEachMember) {
   repository.add({.snap = 3, .hash = 501, .executions = 5, .elapsed = 10, .cpu = 1, .gets = 1});
   open();
   // The boxes of the first two name another place.
-  gDispSQLorderedbyCPU_Col(report->workspace(), "10", {1, {"501"}});
-  report->workspace().gOraDatabase->parameters().clear();
-  gDispSQLorderedbyElapsed_Col(report->workspace(), "10", {1, {"501"}});
-  report->workspace().gOraDatabase->parameters().clear();
-  gDispSQLorderedbyGets_Col(report->workspace(), "10", {1, {"501"}});
+  report->show(gDispSQLorderedbyCPU_Col(report->source(), {1, {"501"}}));
+  report->show(gDispSQLorderedbyElapsed_Col(report->source(), {1, {"501"}}));
+  report->show(gDispSQLorderedbyGets_Col(report->source(), {1, {"501"}}));
   EXPECT_THAT(report->boxes(),
               ElementsAre("[Critical] (clsSnapId){unsetBAIND_VALUE} Error",
                           "[Critical] (clsSnapId){unsetBAIND_VALUE} Error",
@@ -199,7 +197,7 @@ TEST_F(SqlRanking10, aSeriesOfVersionCountsThatFailsNamesAnotherPlace) {
                                                {"executions", "1"},
                                                {"version_count", ""}});
   open();
-  gDispSQLorderedbyVersionCount_Col(report->workspace(), "10", {1, {"501"}});
+  report->show(gDispSQLorderedbyVersionCount_Col(report->source(), {1, {"501"}}));
   EXPECT_THAT(report->boxes(), ElementsAre("[Critical] (clsLoadProfile){getLOGONS} Error"));
 }
 
@@ -207,7 +205,7 @@ TEST_F(SqlRanking10, readsWithATotalOfZeroHaveNoRowsAndNoError) {
   repository.statistic("physical reads", "5", "5");
   repository.add({.snap = 3, .hash = 501, .executions = 5, .reads = 10});
   EXPECT_THAT(all("Reads TOTAL", {"OLD_HASH_VALUE"}), IsEmpty());
-  gDispSQLorderedbyReads_Col(report->workspace(), "10", {1, {"501"}});
+  report->show(gDispSQLorderedbyReads_Col(report->source(), {1, {"501"}}));
   EXPECT_THAT(cellsOf(report->grid(), {"NO", "OLD_HASH_VALUE", "DISK_READS", "STATUS"}),
               ElementsAre("1|||OK"));
   EXPECT_THAT(report->boxes(), IsEmpty()) << testing::PrintToString(report->errors());

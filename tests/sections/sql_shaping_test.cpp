@@ -2,13 +2,15 @@
 
 #include <initializer_list>
 
-#include "report/GridRendering.h"
 #include "sections/sql/ModuleDispSQLShaping.h"
+#include "support/grid_texts.h"
 #include "support/recording_boxes.h"
 
 namespace kestrelix {
 namespace {
 
+using testing_support::layGrid;
+using testing_support::layHeadings;
 using testing_support::RecordingBoxes;
 using Lines = std::vector<std::string>;
 
@@ -16,9 +18,8 @@ using Lines = std::vector<std::string>;
 class SqlShaping : public testing::Test {
  protected:
   void pieces(const Lines& texts) {
-    gridSetUp(grid, 5, static_cast<int>(texts.size()));
-    gridHeadings(grid, {"NO", "OLD_HASH_VALUE", "START_ID", "END_ID", "SQL_TEXT"});
-    gridNumbers(grid);
+    layGrid(grid, 5, static_cast<int>(texts.size()));
+    layHeadings(grid, {"NO", "OLD_HASH_VALUE", "START_ID", "END_ID", "SQL_TEXT"});
     if (texts.empty()) return;
     grid.TextMatrix(1, 1, "815");
     grid.TextMatrix(1, 2, "41");
@@ -36,10 +37,10 @@ class SqlShaping : public testing::Test {
     toggle();
     return texts();
   }
-  void toggle() { gDispSqlShapingToggle(shaped, shaping, grid); }
+  void toggle() { showFailures(boxes, gDispSqlShapingToggle(shaped, shaping, grid)); }
 
   RecordingBoxes boxes;
-  clsSQLShaping shaping{boxes};
+  clsSQLShaping shaping;
   bool shaped = false;
   Grid grid{"MSFlexGridSql"};
 };

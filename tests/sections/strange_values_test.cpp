@@ -116,9 +116,7 @@ TEST_P(StrangeValues, endInBoxesOrInAView) {
   int views = 0;
   for (const int instance : {0, 1, 3}) {  // releases 9, 10 and 11, the last two of a cluster
     report.open(instance);
-    const ListBox& list = report.workspace().controls.ListSection;
-    for (int i = 0; i < list.ListCount(); ++i) {
-      const std::string section = list.List(i);
+    for (const std::string& section : report.sections()) {
       report.all(section, 1);
       ++views;
       if (report.grid().Rows() < 2) continue;

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "report/clsGraphCommon.h"
+#include "report/chart_series.h"
 #include "sections/head_support.h"
 
 namespace kestrelix::testing_support {
@@ -78,13 +78,10 @@ TEST(TimeModel, chartRefusesTheShareOfDbTimeItself) {
             "DB time|2026-01-05 11:00:00|10| \n"
             "|2026-01-05 12:00:00||\n"
             "DB time|2026-01-05 13:00:00|4| \n");
-  MainControls& controls = report.workspace().controls;
-  clsGraphCommon graph(report.workspace().boxes);
-  report.grid().Col(4);
-  EXPECT_FALSE(graph.Initialize(report.grid(), controls.MSChartCommon, controls.ToolbarTop));
-  report.grid().Col(3);
-  EXPECT_TRUE(graph.Initialize(report.grid(), controls.MSChartCommon, controls.ToolbarTop));
-  EXPECT_EQ(controls.MSChartCommon.valueScale().Maximum, "10");
+  EXPECT_FALSE(ChartSeries::of(report.grid(), 4));
+  const auto seconds = ChartSeries::of(report.grid(), 3);
+  ASSERT_TRUE(seconds);
+  EXPECT_EQ(seconds->maximum().text(), "10");
 }
 
 TEST(TimeModel, noDbTimeIsADivisionByZero) {

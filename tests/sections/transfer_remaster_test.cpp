@@ -66,7 +66,9 @@ TEST(GlobalCacheTransferStats, theFormByClassAddsTheInstancesUp) {
   ReportFixture report(repository.write());
   report.open(0);
   report.all("Global Cache Transfer Stats", 0);
-  gDispGlobalCacheTransferStatsClass_All(report.workspace(), report.version());
+  Section byClass = section("Global Cache Transfer Stats");
+  byClass.views = globalCacheTransferStatsClassViews();
+  report.show(readAll(report.source(), byClass, 0));
   // Data block: cr 67 + 20 + 20 = 107, 67/107 = 62.6 %, 20/107 = 18.7 %.
   EXPECT_EQ(
       printed(report.grid()),
@@ -74,7 +76,7 @@ TEST(GlobalCacheTransferStats, theFormByClassAddsTheInstancesUp) {
       "BUSY|CU % CONGST\n"
       "1|data block|107|62.6|18.7|18.7|4|25|25|50\n"
       "2|others|4|100|0|0|4|0|100|0\n");
-  gDispGlobalCacheTransferStatsClass_Col(report.workspace(), report.version(), {1, {"data block"}});
+  report.show(readCol(report.source(), byClass, {1, {"data block"}}));
   EXPECT_EQ(report.grid().Cols(), 12);
   EXPECT_EQ(report.grid().TextMatrix(1, 3), "107");
   EXPECT_THAT(report.boxes(), IsEmpty());

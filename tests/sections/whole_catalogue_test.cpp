@@ -242,14 +242,7 @@ class Walk : public testing_support::ReportFixture {
  public:
   explicit Walk(const Listed& listed) : ReportFixture(demo()) { open(listed.instance); }
 
-  const clsSnapId& pairs() { return *workspace().gSnapId; }
-
-  std::vector<std::string> sections() {
-    std::vector<std::string> names;
-    const ListBox& list = workspace().controls.ListSection;
-    for (int i = 0; i < list.ListCount(); ++i) names.push_back(list.List(i));
-    return names;
-  }
+  const clsSnapId& pairs() { return *repository().gSnapId; }
 
   std::vector<int> pairsOf(const std::string& status) {
     std::vector<int> found;
@@ -299,7 +292,7 @@ TEST(WholeCatalogue, listsTheSectionsInTheOrderOfTheirShapes) {
   for (const Shape& shape : shapes())
     if (ordered.empty() || ordered.back() != shape.section) ordered.push_back(shape.section);
   std::vector<std::string_view> listed;
-  for (const SectionEntry& entry : sectionList()) listed.push_back(entry.text);
+  for (const Section& entry : sectionList()) listed.push_back(entry.text);
   EXPECT_EQ(listed, ordered);
 }
 

@@ -52,9 +52,10 @@ class ChartOfTheWindow : public ShellTest {
         statistic(id, name, "0");
     }
     services.sections = sectionList();
-    workspace.gOraSession = embedded::localSession(repository.write());
-    workspace.gOraDatabase =
-        workspace.gOraSession->OpenDatabase("FIXTURE", "PERFSTAT/perfstat", kDatabaseOptions);
+    services.reader = &directReader();
+    workspace.repository.gOraSession = embedded::localSession(repository.write());
+    workspace.repository.gOraDatabase =
+        workspace.repository.gOraSession->OpenDatabase("FIXTURE", "PERFSTAT/perfstat", kDatabaseOptions);
     main.Load(1, login);
     controls.ListSection.ListIndex(2);
     controls.ListSnapId.ListIndex(0);

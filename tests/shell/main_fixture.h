@@ -6,49 +6,29 @@
 
 namespace kestrelix::testing_support {
 
-/// What the catalogue's views were asked for, oldest first: "All Snapshot 10 pair 0".
-inline std::vector<std::string>& rendered() {
-  static std::vector<std::string> calls;
-  return calls;
-}
-
-inline void fillGrid(Workspace& workspace, const std::string& name, int rows) {
-  Grid& grid = workspace.controls.MSFlexGridMain;
-  grid.Visible(false);
-  grid.Clear();
-  grid.Cols(2);
-  grid.Rows(2);
-  grid.FixedCols(1);
-  grid.FixedRows(1);
-  grid.Cols(4);
-  grid.Rows(1 + rows);
-  for (int r = 0; r <= rows; ++r)
-    for (int c = 0; c < 4; ++c)
-      grid.TextMatrix(r, c, name + " " + std::to_string(r) + "," + std::to_string(c));
-  grid.Visible(true);
-}
-
-inline void renderAll(Workspace& workspace, const std::string& version) {
-  const std::string section = workspace.controls.ListSection.Text();
-  const int pair = workspace.controls.ListSnapId.ListIndex();
-  rendered().push_back("All " + section + " " + version + " pair " + std::to_string(pair));
-  fillGrid(workspace, section, section == "Empty" ? 0 : 3);
-}
-
-inline void renderCol(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  const std::string section = workspace.controls.ListSection.Text();
-  rendered().push_back("Col " + section + " " + version + " row " + std::to_string(request.row));
-  fillGrid(workspace, "Col", static_cast<int>(workspace.gSnapId->rownum()));
-}
+inline std::vector<ReleaseViews> someViews() { return {{kAllVersions, nullptr, AnyListView{}}}; }
 
 inline SectionList smallCatalogue() {
-  static const std::vector<SectionEntry> sections{
-      {"Snapshot", 0, kAllVersions, false, false, nullptr, renderAll, byRow(renderCol)},
-      {"SQL ordered by Gets TOTAL", 34, kAllVersions, false, true, nullptr, renderAll,
-       byKeys({1}, renderCol)},
-      {"RAC Statistics", 10, V10_11, true, false, nullptr, renderAll, anyRow(renderCol)},
-      {"Undo Segment Stats", 103, kAllVersions, false, false, nullptr, renderAll, refused()},
-      {"Empty", 104, kAllVersions, false, false, nullptr, renderAll, byKeys({1}, renderCol)}};
+  static const std::vector<Section> sections{
+      {.text = "Snapshot", .code = 0, .versions = kAllVersions, .col = byRow(), .views = someViews()},
+      {.text = "SQL ordered by Gets TOTAL",
+       .code = 34,
+       .versions = kAllVersions,
+       .sqlButtons = true,
+       .col = byCells({1}),
+       .views = someViews()},
+      {.text = "RAC Statistics",
+       .code = 10,
+       .versions = V10_11,
+       .needsRac = true,
+       .col = anyRow(),
+       .views = someViews()},
+      {.text = "Undo Segment Stats",
+       .code = 103,
+       .versions = kAllVersions,
+       .col = refused(),
+       .views = someViews()},
+      {.text = "Empty", .code = 104, .versions = kAllVersions, .col = byCells({1}), .views = someViews()}};
   return sections;
 }
 
@@ -96,8 +76,8 @@ class MainTest : public ShellTest {
                           {"2", "2026-01-05 11:00:00"},
                           {"3", "2026-01-05 12:00:00"},
                           {"4", "2026-01-05 13:00:00"}});
-    workspace.gOraSession = std::make_unique<FakeSession>(server);
-    workspace.gOraDatabase = std::make_unique<FakeDatabase>(server);
+    workspace.repository.gOraSession = std::make_unique<FakeSession>(server);
+    workspace.repository.gOraDatabase = std::make_unique<FakeDatabase>(server);
     login.controls.TextUSER.Text("perfstat");
     login.controls.TextTNS.Text("Demo");
     main.Unloaded.connect([this] { ++unloads; });

@@ -16,6 +16,7 @@
 #include "shell/FormLogin.h"
 #include "support/recording_boxes.h"
 #include "support/recording_progress.h"
+#include "support/recording_reader.h"
 #include "support/snapshots.h"
 
 namespace kestrelix::testing_support {
@@ -90,8 +91,10 @@ class ShellTest : public testing::Test {
   RecordingHelp help{server};
   RecordingProgress progress;
   Workspace workspace{boxes, &progress};
+  RecordingReader reader;
   ShellServices services{
-      clipboard, help, folder.path(), [this] { return std::make_unique<FakeSession>(server); }, {}};
+      clipboard, help, folder.path(), [this] { return std::make_unique<FakeSession>(server); },
+      {},        {},   &reader};
 };
 
 }  // namespace kestrelix::testing_support

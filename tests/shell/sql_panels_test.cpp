@@ -19,9 +19,10 @@ class SqlPanelsOfTheWindow : public ShellTest {
     repository.usualTotals();
     repository.addStatementWithPlan();
     services.sections = sectionList();
-    workspace.gOraSession = embedded::localSession(repository.write());
-    workspace.gOraDatabase =
-        workspace.gOraSession->OpenDatabase("FIXTURE", "PERFSTAT/perfstat", kDatabaseOptions);
+    services.reader = &directReader();
+    workspace.repository.gOraSession = embedded::localSession(repository.write());
+    workspace.repository.gOraDatabase =
+        workspace.repository.gOraSession->OpenDatabase("FIXTURE", "PERFSTAT/perfstat", kDatabaseOptions);
     main.Load(1, login);
     for (int i = 0; i < controls.ListSection.ListCount(); ++i)
       if (controls.ListSection.List(i) == "SQL ordered by Gets TOTAL") controls.ListSection.ListIndex(i);

@@ -1,30 +1,16 @@
 // A report on a small repository, without a window: pick an instance, a Section and a pair, read the grid.
 #pragma once
 
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "navigation/ModuleLoadCommon.h"
+#include "navigation/version_gate.h"
 #include "platform/embedded/local_session.h"
-#include "report/ModuleDispCommon.h"
-#include "sections/SectionList.h"
 #include "support/fixture_repository.h"
-#include "support/recording_boxes.h"
-#include "support/recording_progress.h"
+#include "support/grid_report.h"
 
 namespace kestrelix::testing_support {
-
-/// The cells as lines, one a row, with "|" between the cells.
-inline std::string printed(const Grid& grid) {
-  std::string text;
-  for (int r = 0; r < grid.Rows(); ++r) {
-    for (int c = 0; c < grid.Cols(); ++c) text += (c == 0 ? "" : "|") + grid.TextMatrix(r, c);
-    text += '\n';
-  }
-  return text;
-}
 
 /// Opens the fixture's file as PERFSTAT and loads its instances. Views are asked for as the window does it.
 ///
@@ -35,69 +21,59 @@ inline std::string printed(const Grid& grid) {
 ///   EXPECT_THAT(boxes(), IsEmpty());
 class ReportFixture {
  public:
-  explicit ReportFixture(const std::string& path) : workspace_(boxes_, &progress_) {
-    workspace_.gOraSession = embedded::localSession(path);
-    workspace_.gOraDatabase =
-        workspace_.gOraSession->OpenDatabase("FIXTURE", "PERFSTAT/perfstat", kDatabaseOptions);
-    addButtons();
-    if (!gDispDbInstance_Load(workspace_)) throw std::runtime_error("fixture: no instances");
+  explicit ReportFixture(const std::string& path) {
+    const auto session = [&] { return embedded::localSession(path); };
+    if (!repository().open(session, "FIXTURE", "PERFSTAT/perfstat").empty() ||
+        !repository().loadInstances().empty())
+      throw std::runtime_error("fixture: no instances");
   }
 
-  /// The pairs and Sections of an instance, by its row in the list.
+  /// The pairs of an instance, by its row in the list.
   void open(int instance) {
-    workspace_.controls.ComboDbInstance.ListIndex(instance);
-    const clsDbInstance& instances = *workspace_.gDbInstance;
-    version_ = instances.VERSION(instance).substr(0, instances.VERSION(instance).find('.'));
-    if (!gDispSnapId_Load(workspace_, instances.dbid(instance), instances.INSTANCE_NUMBER(instance), false))
-      throw std::runtime_error("fixture: no pairs");
-    gDispSectionList(workspace_, sectionList(), version_, instances.PARALLEL(instance));
+    const clsDbInstance& instances = *repository().gDbInstance;
+    version_ = majorVersion(instances.VERSION(instance));
+    parallel_ = instances.PARALLEL(instance);
+    report_.loadPairs(instances.dbid(instance), instances.INSTANCE_NUMBER(instance));
   }
 
   /// The grid after a click on the pair with the Section selected.
   std::string all(const std::string& section, int pair) {
-    select(section);
-    workspace_.controls.ListSnapId.ListIndex(pair);
-    gDispSectionAll(workspace_, sectionList(), version_);
+    report_.all(section, version_, parallel_, pair);
     return printed(grid());
   }
 
   /// The grid after a double click on that row of the All view that shows.
   std::string col(int row) {
     grid().Row(row);
-    gDispSectionCol(workspace_, sectionList(), version_);
+    report_.col(version_);
     return printed(grid());
   }
 
-  Workspace& workspace() { return workspace_; }
-  Grid& grid() { return workspace_.controls.MSFlexGridMain; }
+  /// What a renderer has read, in the grid.
+  void show(const ReportTable& table) { report_.show(table); }
+
+  /// The Sections that the instance has.
+  std::vector<std::string> sections() const {
+    std::vector<std::string> texts;
+    for (const Section& section : sectionList())
+      if (isListed(section, version_, parallel_)) texts.emplace_back(section.text);
+    return texts;
+  }
+  MessageBoxes& messageBoxes() { return report_.boxes; }
+  Repository& repository() { return report_.repository; }
+  ReportSource source() { return report_.source(version_); }
+  Grid& grid() { return report_.grid; }
   const std::string& version() const { return version_; }
   /// The boxes shown so far.
-  const std::vector<std::string>& boxes() const { return boxes_.shown; }
-  const std::vector<std::string>& errors() const { return boxes_.errors; }
+  const std::vector<std::string>& boxes() const { return report_.boxes.shown; }
+  const std::vector<std::string>& errors() const { return report_.boxes.errors; }
   /// What was told of how far the views had come.
-  const std::vector<std::string>& told() const { return progress_.calls; }
+  const std::vector<std::string>& told() const { return report_.progress.calls; }
 
  private:
-  void select(const std::string& section) {
-    ListBox& list = workspace_.controls.ListSection;
-    for (int i = 0; i < list.ListCount(); ++i) {
-      if (list.List(i) != section) continue;
-      list.ListIndex(i);
-      return;
-    }
-    throw std::runtime_error("fixture: " + section + " is not listed");
-  }
-
-  void addButtons() {
-    for (const char* key : {"GRID", "SQL", "PLAN", "GRAPH_START", "GRAPH_LEFT", "GRAPH_DISP", "GRAPH_MAX",
-                            "LIST", "GRAPH_RIGHT", "GRAPH_END", "START", "END", "COPY", "HELP"})
-      workspace_.controls.ToolbarTop.Add(key, key, "");
-  }
-
-  RecordingBoxes boxes_;
-  RecordingProgress progress_;
-  Workspace workspace_;
+  GridReport report_;
   std::string version_;
+  std::string parallel_;
 };
 
 }  // namespace kestrelix::testing_support

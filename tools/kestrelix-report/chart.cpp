@@ -3,37 +3,25 @@
 #include <charconv>
 #include <iostream>
 
-#include "report/clsGraphCommon.h"
+#include "report/chart_series.h"
 #include "report_run.h"
 
 namespace kestrelix::report_tool {
 namespace {
 
-void selectColumn(Grid& grid, int column) {
-  if (column >= grid.Cols())
-    throw UsageError("the series has no column " + std::to_string(column) + ", they go from 0 to " +
-                     std::to_string(grid.Cols() - 1));
-  grid.Col(column);
-}
-
-/// The page of that number, from 1, turned to from the first.
-bool turnTo(clsGraphCommon& graph, const std::string& page, int pages) {
+/// The page that --page names, from 1.
+int pageOf(const std::string& page, const ChartSeries& series) {
+  if (page.empty() || page == "start") return 1;
+  if (page == "end") return series.pages();
+  if (page == "max") return series.pageOfMaximum();
   int number = 0;
   const auto [end, error] = std::from_chars(page.data(), page.data() + page.size(), number);
   if (error != std::errc() || end != page.data() + page.size() || number < 1)
     throw UsageError("--page is a number from 1, start, end or max, not '" + page + "'");
-  if (number > pages)
-    throw UsageError("the chart has no page " + page + ", they go from 1 to " + std::to_string(pages));
-  bool shown = graph.StartPage();
-  for (int i = 1; shown && i < number; ++i) shown = graph.AtferPage();
-  return shown;
-}
-
-bool show(clsGraphCommon& graph, const std::string& page, int pages) {
-  if (page.empty() || page == "start") return graph.StartPage();
-  if (page == "end") return graph.EndPage();
-  if (page == "max") return graph.MaxValuePage();
-  return turnTo(graph, page, pages);
+  if (number > series.pages())
+    throw UsageError("the chart has no page " + page + ", they go from 1 to " +
+                     std::to_string(series.pages()));
+  return number;
 }
 
 }  // namespace
@@ -42,21 +30,25 @@ void chart(const Options& options, StderrBoxes& boxes) {
   if (!options.row) throw UsageError("--row is needed");
   if (!options.column) throw UsageError("--column is needed");
   ReportRun run(boxes, options);
-  run.showAll();
-  if (!boxes.any()) run.showCol();
-  if (boxes.any()) throw ReportRun::Stopped{};
-
-  MainControls& controls = run.workspace().controls;
-  selectColumn(controls.MSFlexGridMain, *options.column);
-  clsGraphCommon graph(boxes);
-  Chart& drawn = controls.MSChartCommon;
-  if (!graph.Initialize(controls.MSFlexGridMain, drawn, controls.ToolbarTop)) throw ReportRun::Stopped{};
-  const int pages = (controls.MSFlexGridMain.Rows() - 1 + drawn.RowCount() - 1) / drawn.RowCount();
-  if (!show(graph, options.page, pages)) throw ReportRun::Stopped{};
-
-  Table table{{"TITLE", drawn.TitleText()}, {"AXIS MAXIMUM", drawn.valueScale().Maximum}, {"LABEL", "VALUE"}};
-  for (int k = 1; k <= drawn.RowCount(); ++k) table.push_back({drawn.RowLabel(k), drawn.dataOf(k)});
-  print(std::cout, table, true);
+  const ReportTable table = run.col(run.all());
+  if (*options.column > static_cast<int>(table.columns.size()))
+    throw UsageError("the series has no column " + std::to_string(*options.column) + ", they go from 0 to " +
+                     std::to_string(table.columns.size()));
+  const auto series = ChartSeries::of(table, *options.column);
+  if (!series) {
+    boxes.show(BoxIcon::Exclamation, kNoChart, {});
+    throw ReportRun::Stopped{};
+  }
+  const int page = pageOf(options.page, *series);
+  Table lines{{"TITLE", series->title(page)},
+              {"AXIS MAXIMUM", ChartSeries::axisMaximum(series->maximum()).text()},
+              {"LABEL", "VALUE"}};
+  for (int k = 1; k <= ChartSeries::kPointsOfPage; ++k) {
+    const int point = (page - 1) * ChartSeries::kPointsOfPage + k;
+    const bool drawn = point <= series->points();
+    lines.push_back({drawn ? series->label(point) : "", drawn ? series->value(point) : "0"});
+  }
+  print(std::cout, lines, true);
 }
 
 }  // namespace kestrelix::report_tool

@@ -79,7 +79,9 @@ void check(const Options& options, StderrBoxes& boxes) {
     throw CheckFailed(std::string("table stats$database_instance: ") + error.what());
   }
   for (const std::string& major : majors) {
-    if (!passVersionGate(boxes, major)) continue;
+    const Failures refused = versionGate(major);
+    showFailures(boxes, refused);
+    if (!refused.empty()) continue;
     ++releases;
     for (const statspack::Table& table : statspack::release(major).tables()) {
       const std::string error = unreadable(*database, table.name);

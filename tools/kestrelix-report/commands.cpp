@@ -7,6 +7,8 @@
 #include "console/help_list.h"
 #include "report_run.h"
 #include "sections/EveryStatement.h"
+#include "sections/SectionList.h"
+#include "sections/sql/clsSQLShaping.h"
 
 namespace kestrelix::report_tool {
 namespace {
@@ -14,7 +16,7 @@ namespace {
 void instances(const Options& options, StderrBoxes& boxes) {
   ReportRun run(boxes, options);
   run.loadInstances();
-  const clsDbInstance& rows = *run.workspace().gDbInstance;
+  const clsDbInstance& rows = *run.repository().gDbInstance;
   Table table{
       {"INDEX", "DBID", "DB_NAME", "VERSION", "INSTANCE_NUMBER", "INSTANCE_NAME", "HOST_NAME", "RAC"}};
   for (int i = 0; i < rows.rownum(); ++i)
@@ -26,7 +28,7 @@ void instances(const Options& options, StderrBoxes& boxes) {
 void pairs(const Options& options, StderrBoxes& boxes) {
   ReportRun run(boxes, options);
   run.loadInstance();
-  const clsSnapId& rows = *run.workspace().gSnapId;
+  const clsSnapId& rows = *run.repository().gSnapId;
   Table table{{"INDEX", "START TIME", "END TIME", "START ID", "END ID", "STATUS"}};
   for (int i = 0; i < rows.rownum(); ++i)
     table.push_back({std::to_string(i + options.from.value_or(0)), rows.START_SNAP_TIME(i),
@@ -38,30 +40,36 @@ void pairs(const Options& options, StderrBoxes& boxes) {
 void sections(const Options& options, StderrBoxes& boxes) {
   ReportRun run(boxes, options);
   run.loadInstance();
-  const ListBox& list = run.workspace().controls.ListSection;
-  for (int i = 0; i < list.ListCount(); ++i) std::cout << list.List(i) << '\n';
+  for (const Section& section : sectionList())
+    if (run.isListed(section)) std::cout << section.text << '\n';
 }
 
-/// What a failed rendering leaves in the grid is no view of the Section: nothing is printed then.
 void section(const Options& options, StderrBoxes& boxes) {
   ReportRun run(boxes, options);
-  run.showAll();
-  if (!boxes.critical() && options.row) run.showCol();
-  if (!boxes.critical()) print(std::cout, cells(run.workspace().controls.MSFlexGridMain), options.csv);
+  const ReportTable all = run.all();
+  print(std::cout, cells(options.row ? run.col(all) : all), options.csv);
+}
+
+/// The statement's own lines, from the table of its pieces.
+ReportTable shaped(const ReportTable& pieces, StderrBoxes& boxes) {
+  if (pieces.rows.empty()) return pieces;
+  clsSQLShaping shaping;
+  Failures failures;
+  const bool done = shaping.Initialize(pieces, failures) && shaping.ExecShaping(failures);
+  showFailures(boxes, failures);
+  if (!done) throw ReportRun::Stopped{};
+  return shaping.lines();
 }
 
 void sql(const Options& options, StderrBoxes& boxes) {
   ReportRun run(boxes, options);
-  run.showAll();
-  if (!boxes.critical()) run.showSqlText();
-  if (!boxes.critical()) print(std::cout, cells(run.workspace().controls.MSFlexGridSql), options.csv);
+  const ReportTable pieces = run.sqlText(run.all());
+  print(std::cout, cells(options.shaped ? shaped(pieces, boxes) : pieces), options.csv);
 }
 
 void plan(const Options& options, StderrBoxes& boxes) {
   ReportRun run(boxes, options);
-  run.showAll();
-  if (!boxes.critical()) run.showSqlPlan();
-  if (!boxes.critical()) print(std::cout, cells(run.workspace().controls.MSFlexGridPlan), options.csv);
+  print(std::cout, cells(run.sqlPlan(run.all())), options.csv);
 }
 
 /// What the program can send, for whoever has to know what a tool runs on a server.

@@ -7,13 +7,14 @@
 
 namespace kestrelix::report_tool {
 
-Table cells(const Grid& grid) {
-  Table table;
-  for (int r = 0; r < grid.Rows(); ++r) {
-    table.emplace_back();
-    for (int c = 0; c < grid.Cols(); ++c) table.back().push_back(grid.TextMatrix(r, c));
+Table cells(const ReportTable& table) {
+  Table lines{{"NO"}};
+  for (const TableColumn& column : table.columns) lines.front().push_back(column.heading);
+  for (const auto& row : table.rows) {
+    lines.push_back({std::to_string(lines.size())});
+    lines.back().insert(lines.back().end(), row.begin(), row.end());
   }
-  return table;
+  return lines;
 }
 
 void print(std::ostream& out, const Table& table, bool csv) {

@@ -4,15 +4,15 @@
 #include <string>
 
 #include "documents/table.h"
-#include "platform/controls/grid.h"
 #include "platform/message_box.h"
+#include "report/report_table.h"
 
 namespace kestrelix::report_tool {
 
 using documents::Table;
 
-/// A grid's cells, heading row and column "NO" included.
-Table cells(const Grid& grid);
+/// The headings and the rows, with the running number as column "NO".
+Table cells(const ReportTable& table);
 
 /// As CSV, or as text in columns.
 void print(std::ostream& out, const Table& table, bool csv);

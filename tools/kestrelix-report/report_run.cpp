@@ -1,19 +1,16 @@
 #include "report_run.h"
 
 #include "app/back_ends.h"
-#include "navigation/ModuleLoadCommon.h"
-#include "navigation/ModuleRangeCommon.h"
 #include "navigation/version_gate.h"
 #include "platform/ascii.h"
-#include "platform/guarded.h"
-#include "report/ModuleDispCommon.h"
 #include "sections/SectionList.h"
-#include "sections/sql/ModuleDispSQLPanels.h"
-#include "sections/sql/ModuleDispSQLShaping.h"
+#include "sections/sql/sqlPanels.h"
 
 namespace kestrelix::report_tool {
 
 namespace {
+
+constexpr std::size_t kHashColumn = 0;  // of a ranking
 
 int needed(const std::optional<int>& value, const char* option) {
   if (!value) throw UsageError(std::string(option) + " is needed");
@@ -29,52 +26,51 @@ int within(int value, int count, const char* what) {
 
 }  // namespace
 
-ReportRun::ReportRun(MessageBoxes& boxes, const Options& options) : options_(options), workspace_(boxes) {
-  for (const char* key : {"GRID", "SQL", "PLAN", "GRAPH_START", "GRAPH_LEFT", "GRAPH_DISP", "GRAPH_MAX",
-                          "LIST", "GRAPH_RIGHT", "GRAPH_END", "START", "END", "COPY", "HELP"})
-    workspace_.controls.ToolbarTop.Add(key, key, "");
+void ReportRun::require(const Failures& failures) {
+  showFailures(boxes_, failures);
+  if (!failures.empty()) throw Stopped{};
+}
+
+/// The table, its failures told; without one there is nothing to go on with.
+ReportTable ReportRun::told(ReportTable table) {
+  showFailures(boxes_, table.failures);
+  if (!table.read) throw Stopped{};
+  return table;
 }
 
 void ReportRun::connect() {
   if (options_.repository.empty() == options_.tns.empty())
     throw UsageError("name the repository by one of --repository FILE and --tns NAME");
-  const std::string connect = connectText(options_);
-  const bool open = guarded(workspace_.boxes, "ModuleCommon", "OPEN_Conect", [&] {
-    if (options_.repository.empty())
-      workspace_.gOraSession = anySession(programFolder());
-    else
-      workspace_.gOraSession = embedded::localSession(options_.repository);
-    workspace_.gOraDatabase = workspace_.gOraSession->OpenDatabase(
-        options_.repository.empty() ? asciiUpper(options_.tns) : options_.repository, connect,
-        kDatabaseOptions);
-  });
-  if (open) return;
-  workspace_.boxes.show(BoxIcon::Critical, "データベースの接続に失敗しました");
-  throw Stopped{};
+  const bool local = !options_.repository.empty();
+  const auto makeSession = [&] {
+    return local ? embedded::localSession(options_.repository) : anySession(programFolder());
+  };
+  Failures failures = repository_.open(makeSession, local ? options_.repository : asciiUpper(options_.tns),
+                                       connectText(options_));
+  if (!failures.empty()) failures.push_back({"データベースの接続に失敗しました"});
+  require(failures);
 }
 
 void ReportRun::loadInstances() {
   connect();
-  if (!gDispDbInstance_Load(workspace_)) throw Stopped{};
+  require(repository_.loadInstances());
 }
 
 void ReportRun::loadInstance() {
   loadInstances();
-  const int instance = within(needed(options_.instance, "--instance"),
-                              static_cast<int>(workspace_.gDbInstance->rownum()), "instance");
-  workspace_.controls.ComboDbInstance.ListIndex(instance);
-  if (!gDispSnapId_Load(workspace_, workspace_.gDbInstance->dbid(instance),
-                        workspace_.gDbInstance->INSTANCE_NUMBER(instance), false))
-    throw Stopped{};
-  version_ = majorVersion(workspace_.gDbInstance->VERSION(instance));
-  if (!passVersionGate(workspace_.boxes, version_)) throw Stopped{};
-  gDispSectionList(workspace_, sectionList(), version_, workspace_.gDbInstance->PARALLEL(instance));
+  const clsDbInstance& instances = *repository_.gDbInstance;
+  const int instance =
+      within(needed(options_.instance, "--instance"), static_cast<int>(instances.rownum()), "instance");
+  require(repository_.loadPairs(instances.dbid(instance), instances.INSTANCE_NUMBER(instance), false));
+  version_ = majorVersion(instances.VERSION(instance));
+  require(versionGate(version_));
+  parallel_ = instances.PARALLEL(instance);
   narrow();
 }
 
-/// The ends are rows of the whole list, so the last one comes first: narrowing the front would renumber it.
 void ReportRun::narrow() {
-  const int count = static_cast<int>(workspace_.gSnapId->rownum());
+  const clsSnapId& pairs = *repository_.gSnapId;
+  const int count = static_cast<int>(pairs.rownum());
   if (options_.pair) within(*options_.pair, count, "pair");
   if (!options_.from && !options_.to) return;
   const int from = within(options_.from.value_or(0), count, "pair");
@@ -82,70 +78,67 @@ void ReportRun::narrow() {
   if (from > to) throw UsageError("--from lies behind --to");
   if (options_.pair && (*options_.pair < from || *options_.pair > to))
     throw UsageError("--pair lies outside of --from and --to");
-  workspace_.gSnapRange = std::make_unique<clsSnapRange>(workspace_.boxes);
-  workspace_.gSnapRange->Initialize(*workspace_.gSnapId);
-  workspace_.controls.ListSnapId.ListIndex(to);
-  if (!gFrameRangeSetEndId(workspace_)) throw Stopped{};
-  workspace_.controls.ListSnapId.ListIndex(from);
-  if (!gFrameRangeSetStartId(workspace_)) throw Stopped{};
+  Failures failures;
+  repository_.gSnapRange.gSetStartId(pairs, from, failures);
+  repository_.gSnapRange.gSetEndId(pairs, to, failures);
+  require(failures);
+  const PairKeys keys = pairs.keys(0);
+  require(repository_.loadPairs(keys.dbid, keys.instanceNumber, true));
+}
+
+bool ReportRun::isListed(const Section& section) const {
+  return kestrelix::isListed(section, version_, parallel_);
 }
 
 /// --pair counts in the whole list.
 int ReportRun::pairIndex() const { return needed(options_.pair, "--pair") - options_.from.value_or(0); }
 
-void ReportRun::selectSection() {
-  ListBox& list = workspace_.controls.ListSection;
-  for (int i = 0; i < list.ListCount(); ++i) {
-    if (list.List(i) != options_.name) continue;
-    list.ListIndex(i);
-    return;
-  }
-  throw UsageError("the instance has no Section '" + options_.name + "'");
+ReportSource ReportRun::source() {
+  return {*repository_.gOraDatabase, *repository_.gSnapId, version_, progress_};
 }
 
-void ReportRun::showAll() {
+ReportTable ReportRun::all() {
   if (options_.name.empty()) throw UsageError("name a Section");
   needed(options_.instance, "--instance");
   needed(options_.pair, "--pair");
   loadInstance();
-  selectSection();
-  workspace_.controls.ListSnapId.ListIndex(pairIndex());
-  gDispSectionAll(workspace_, sectionList(), version_);
+  section_ = findSection(sectionList(), options_.name);
+  if (section_ == nullptr || !isListed(*section_))
+    throw UsageError("the instance has no Section '" + options_.name + "'");
+  return told(readAll(source(), *section_, pairIndex()));
 }
 
-void ReportRun::selectRow() {
-  Grid& grid = workspace_.controls.MSFlexGridMain;
+int ReportRun::selectedRow(const ReportTable& all) const {
   const int row = needed(options_.row, "--row");
-  if (grid.Rows() < 2) throw UsageError("the view has no rows");
-  if (row < 1 || row >= grid.Rows())
+  if (all.rows.empty()) throw UsageError("the view has no rows");
+  if (row < 1 || row > static_cast<int>(all.rows.size()))
     throw UsageError("the view has no row " + std::to_string(row) + ", they go from 1 to " +
-                     std::to_string(grid.Rows() - 1));
-  grid.Row(row);
+                     std::to_string(all.rows.size()));
+  return row;
 }
 
-void ReportRun::showCol() {
-  selectRow();
-  gDispSectionCol(workspace_, sectionList(), version_);
+ReportTable ReportRun::col(const ReportTable& all) {
+  const int row = selectedRow(all);
+  if (section_->col.kind == ColKey::Kind::Refused) {
+    boxes_.show(BoxIcon::Exclamation, kNoSeries, {});
+    throw Stopped{};
+  }
+  return told(readCol(source(), *section_, colRequest(*section_, all, row)));
 }
 
-void ReportRun::selectSqlRow() {
-  if (!workspace_.controls.ToolbarTop.Enabled("SQL"))
-    throw UsageError("'" + options_.name + "' lists no SQL statements");
-  selectRow();
+std::string ReportRun::selectedHash(const ReportTable& all) const {
+  if (!section_->sqlButtons) throw UsageError("'" + options_.name + "' lists no SQL statements");
+  return all.rows.at(static_cast<std::size_t>(selectedRow(all) - 1)).at(kHashColumn);
 }
 
-void ReportRun::showSqlText() {
-  selectSqlRow();
-  gDispSqlText(workspace_, version_);
-  if (!options_.shaped) return;
-  clsSQLShaping shaping(workspace_.boxes);
-  bool shaped = false;
-  gDispSqlShapingToggle(shaped, shaping, workspace_.controls.MSFlexGridSql);
+ReportTable ReportRun::sqlText(const ReportTable& all) {
+  const std::string hash = selectedHash(all);
+  return told(readSqlText(source(), pairIndex(), hash));
 }
 
-void ReportRun::showSqlPlan() {
-  selectSqlRow();
-  gDispSQLPlan(workspace_, version_);
+ReportTable ReportRun::sqlPlan(const ReportTable& all) {
+  const std::string hash = selectedHash(all);
+  return told(readSqlPlan(source(), pairIndex(), hash));
 }
 
 }  // namespace kestrelix::report_tool

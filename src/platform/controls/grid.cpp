@@ -20,6 +20,7 @@ Grid::Grid(std::string name, int width)
     : Control(std::move(name)),
       cells_(2, std::vector<std::string>(2)),
       widths_(2, kDefaultColWidth),
+      alignments_(2, GridAlignment::Left),
       cols_(2),
       width_(width) {}
 
@@ -34,6 +35,7 @@ void Grid::Cols(int cols) {
   cols_ = cols;
   for (auto& row : cells_) row.resize(index(cols));
   widths_.resize(index(cols), kDefaultColWidth);
+  alignments_.resize(index(cols), GridAlignment::Left);
   shapeChanged();
 }
 
@@ -75,6 +77,12 @@ const std::string& Grid::TextMatrix(int row, int col) const { return cells_.at(i
 
 void Grid::TextMatrix(int row, int col, std::string text) {
   cells_.at(index(row)).at(index(col)) = std::move(text);
+  ++contents_;
+  if (Visible()) changed();
+}
+
+void Grid::ColAlignment(int col, GridAlignment alignment) {
+  alignments_.at(index(col)) = alignment;
   ++contents_;
   if (Visible()) changed();
 }

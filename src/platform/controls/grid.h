@@ -7,6 +7,8 @@
 
 namespace kestrelix {
 
+enum class GridAlignment { Left, Right };
+
 /// A grid of texts with fixed heading rows and columns, a current cell and a selection. Widths are in twips
 /// (1/1440 inch). Rows and columns count from 0, fixed ones included.
 class Grid : public Control {
@@ -34,6 +36,9 @@ class Grid : public Control {
   int ColWidth(int col) const { return widths_.at(static_cast<std::size_t>(col)); }
   void ColWidth(int col, int twips);
   int Width() const { return width_; }
+  /// Where the texts of a column stand; left unless told.
+  GridAlignment ColAlignment(int col) const { return alignments_.at(static_cast<std::size_t>(col)); }
+  void ColAlignment(int col, GridAlignment alignment);
 
   /// The current cell; setting it also makes it the selection.
   int Row() const { return row_; }
@@ -79,6 +84,7 @@ class Grid : public Control {
 
   std::vector<std::vector<std::string>> cells_;
   std::vector<int> widths_;
+  std::vector<GridAlignment> alignments_;
   int cols_ = 0;
   int fixedRows_ = 1;
   int fixedCols_ = 1;

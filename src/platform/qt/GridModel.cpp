@@ -2,13 +2,10 @@
 
 #include <algorithm>
 
-#include "platform/numeric_text.h"
 #include "platform/qt/mirror.h"
 
 namespace kestrelix {
 namespace {
-
-constexpr int kRowsThatTell = 100;
 
 /// A cell is one line: its line ends and tabs show as blanks.
 QString singleLine(const std::string& cell) {
@@ -31,8 +28,6 @@ void GridModel::reload() {
   cols_ = grid_.Cols();
   fixedRows_ = grid_.FixedRows();
   fixedCols_ = grid_.FixedCols();
-  numbers_.clear();
-  for (int c = 0; c < cols_; ++c) numbers_.push_back(holdsNumbers(c));
   endResetModel();
 }
 
@@ -48,21 +43,9 @@ QString GridModel::cell(int row, int col) const {
   return singleLine(grid_.TextMatrix(row, col));
 }
 
-/// Numbers stand right, so that sizes can be compared down a column; all else left.
 Qt::Alignment GridModel::alignment(int col) const {
-  const bool right = col < cols_ && numbers_[static_cast<std::size_t>(col)];
+  const bool right = col < grid_.Cols() && grid_.ColAlignment(col) == GridAlignment::Right;
   return Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft);
-}
-
-bool GridModel::holdsNumbers(int col) const {
-  bool any = false;
-  for (int r = fixedRows_; r < std::min(rows_, kRowsThatTell); ++r) {
-    const std::string_view trimmed = trimBlanks(grid_.TextMatrix(r, col));
-    if (trimmed.empty()) continue;
-    if (!isNumericText(trimmed)) return false;
-    any = true;
-  }
-  return any;
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <vector>
 
 #include "platform/controls/grid.h"
 
@@ -27,14 +26,12 @@ class GridModel final : public QAbstractTableModel {
  private:
   QString cell(int row, int col) const;
   Qt::Alignment alignment(int col) const;
-  bool holdsNumbers(int col) const;
 
   const Grid& grid_;
   int rows_ = 0;  // the shape of the last reload: the grid can have another by now
   int cols_ = 0;
   int fixedRows_ = 0;
   int fixedCols_ = 0;
-  std::vector<bool> numbers_;  // by column of the grid
 };
 
 }  // namespace kestrelix

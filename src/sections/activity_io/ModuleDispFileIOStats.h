@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/activity_io/clsFileIOStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispFileIOStats_All(Workspace& workspace, const std::string& version);
-void gDispFileIOStats_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> fileIOStatsViews();
 
 }  // namespace kestrelix

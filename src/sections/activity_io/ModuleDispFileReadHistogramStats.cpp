@@ -1,33 +1,26 @@
 #include "sections/activity_io/ModuleDispFileReadHistogramStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/activity_io/clsFileReadHistogramStats.h"
 
 namespace kestrelix {
 namespace {
 
-using F = clsFileReadHistogramStats;
+using F = clsFileReadHistogramStats::Field;
 
-const ListView kView{{{"TABLESPACE", &F::TABLESPACE},
-                      {"FILENAME", &F::FILENAME},
-                      {"0 - 2 MS", &F::TO2},
-                      {"2 - 4 MS", &F::TO4},
-                      {"4 - 8 MS", &F::TO8},
-                      {"8 - 16 MS", &F::TO16},
-                      {"16 - 32 MS", &F::TO32},
-                      {"32+ MS", &F::OVER32}},
-                     2};
+const ListView<clsFileReadHistogramStats> kView{.all = "getFILE_READ_HISTOGRAM_STATS_ALL",
+                                                .col = "getFILE_READ_HISTOGRAM_STATS_COL",
+                                                .columns = {{"TABLESPACE", F::TABLESPACE, Kind::Key},
+                                                            {"FILENAME", F::FILENAME, Kind::Key},
+                                                            {"0 - 2 MS", F::TO2, Kind::Count},
+                                                            {"2 - 4 MS", F::TO4, Kind::Count},
+                                                            {"4 - 8 MS", F::TO8, Kind::Count},
+                                                            {"8 - 16 MS", F::TO16, Kind::Count},
+                                                            {"16 - 32 MS", F::TO32, Kind::Count},
+                                                            {"32+ MS", F::OVER32, Kind::Count}},
+                                                .keys = 2};
 
 }  // namespace
 
-void gDispFileReadHistogramStats_All(Workspace& workspace, const std::string& version) {
-  clsFileReadHistogramStats object;
-  renderListAll(workspace, object, "getFILE_READ_HISTOGRAM_STATS_ALL", kView, version);
-}
-
-void gDispFileReadHistogramStats_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request) {
-  clsFileReadHistogramStats object;
-  renderListCol(workspace, object, "getFILE_READ_HISTOGRAM_STATS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> fileReadHistogramStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

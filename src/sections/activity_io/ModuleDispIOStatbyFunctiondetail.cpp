@@ -1,33 +1,28 @@
 #include "sections/activity_io/ModuleDispIOStatbyFunctiondetail.h"
 
-#include "report/GridRendering.h"
+#include "sections/activity_io/clsIOStatbyFunctiondetail.h"
 
 namespace kestrelix {
 namespace {
 
-using I = clsIOStatbyFunctiondetail;
+using F = clsIOStatbyFunctiondetail::Field;
 
-const ListView kView{{{"FUNCTION", &I::FUNC},
-                      {"[READ]SMALL READ REQS", &I::S_RR},
-                      {"[READ]LARGE READ REQS", &I::L_RR},
-                      {"[READ]SMALL DATA READ", &I::S_RM},
-                      {"[READ]LARGE DATA READ", &I::L_RM},
-                      {"[WRITE]SMALL WRITE REQS", &I::S_WR},
-                      {"[WRITE]LARGE WRITE REQS", &I::L_WR},
-                      {"[WRITE]SMALL DATA WRITN", &I::S_WM},
-                      {"[WRITE]LARGE DATA WRITN", &I::L_WM}}};
+/// Sizes and numbers of requests are shortened: their texts end in the letter of the multiple.
+const ListView<clsIOStatbyFunctiondetail> kView{
+    .all = "getIO_STAT_BY_FUNCTION_DETAIL_ALL",
+    .col = "getIO_STAT_BY_FUNCTION_DETAIL_COL",
+    .columns = {{"FUNCTION", F::FUNC, Kind::Key},
+                {"[READ]SMALL READ REQS", F::S_RR, Kind::Count},
+                {"[READ]LARGE READ REQS", F::L_RR, Kind::Count},
+                {"[READ]SMALL DATA READ", F::S_RM, Kind::Count, unit::bytes},
+                {"[READ]LARGE DATA READ", F::L_RM, Kind::Count, unit::bytes},
+                {"[WRITE]SMALL WRITE REQS", F::S_WR, Kind::Count},
+                {"[WRITE]LARGE WRITE REQS", F::L_WR, Kind::Count},
+                {"[WRITE]SMALL DATA WRITN", F::S_WM, Kind::Count, unit::bytes},
+                {"[WRITE]LARGE DATA WRITN", F::L_WM, Kind::Count, unit::bytes}}};
 
 }  // namespace
 
-void gDispIOStatbyFunctiondetail_All(Workspace& workspace, const std::string& version) {
-  clsIOStatbyFunctiondetail object;
-  renderListAll(workspace, object, "getIO_STAT_BY_FUNCTION_DETAIL_ALL", kView, version);
-}
-
-void gDispIOStatbyFunctiondetail_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request) {
-  clsIOStatbyFunctiondetail object;
-  renderListCol(workspace, object, "getIO_STAT_BY_FUNCTION_DETAIL_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> ioStatbyFunctiondetailViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

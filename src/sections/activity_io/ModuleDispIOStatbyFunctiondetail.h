@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/activity_io/clsIOStatbyFunctiondetail.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispIOStatbyFunctiondetail_All(Workspace& workspace, const std::string& version);
-void gDispIOStatbyFunctiondetail_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request);
+std::vector<ReleaseViews> ioStatbyFunctiondetailViews();
 
 }  // namespace kestrelix

@@ -1,33 +1,28 @@
 #include "sections/activity_io/ModuleDispIOStatbyFunctionsummary.h"
 
-#include "report/GridRendering.h"
+#include "sections/activity_io/clsIOStatbyFunctionsummary.h"
 
 namespace kestrelix {
 namespace {
 
-using I = clsIOStatbyFunctionsummary;
+using F = clsIOStatbyFunctionsummary::Field;
 
-const ListView kView{{{"FUNCTION", &I::FUNC},
-                      {"[READ]DATA VOLUME", &I::DATA_READ},
-                      {"[READ]REQUESTS/SEC", &I::RRPS},
-                      {"[READ]DATA VOL/SEC", &I::MBRPS},
-                      {"[WRITE]DATA VOLUME", &I::DATA_WRIT},
-                      {"[WRITE]REQUESTS/SEC", &I::WRPS},
-                      {"[WRITE]DATA VOL/SEC", &I::MBWPS},
-                      {"[WAIT]COUNT", &I::WAITS},
-                      {"[WAIT]AVG TM(MS)", &I::ATPW}}};
+/// Sizes and numbers of requests are shortened: their texts end in the letter of the multiple.
+const ListView<clsIOStatbyFunctionsummary> kView{
+    .all = "getIO_STAT_BY_FUNCTION_SUMMARY_ALL",
+    .col = "getIO_STAT_BY_FUNCTION_SUMMARY_COL",
+    .columns = {{"FUNCTION", F::FUNC, Kind::Key},
+                {"[READ]DATA VOLUME", F::DATA_READ, Kind::Count, unit::bytes},
+                {"[READ]REQUESTS/SEC", F::RRPS, Kind::Rate},
+                {"[READ]DATA VOL/SEC", F::MBRPS, Kind::Rate, unit::bytes},
+                {"[WRITE]DATA VOLUME", F::DATA_WRIT, Kind::Count, unit::bytes},
+                {"[WRITE]REQUESTS/SEC", F::WRPS, Kind::Rate},
+                {"[WRITE]DATA VOL/SEC", F::MBWPS, Kind::Rate, unit::bytes},
+                {"[WAIT]COUNT", F::WAITS, Kind::Count},
+                {"[WAIT]AVG TM(MS)", F::ATPW, Kind::Average, unit::milliseconds}}};
 
 }  // namespace
 
-void gDispIOStatbyFunctionsummary_All(Workspace& workspace, const std::string& version) {
-  clsIOStatbyFunctionsummary object;
-  renderListAll(workspace, object, "getIO_STAT_BY_FUNCTION_SUMMARY_ALL", kView, version);
-}
-
-void gDispIOStatbyFunctionsummary_Col(Workspace& workspace, const std::string& version,
-                                      const ColRequest& request) {
-  clsIOStatbyFunctionsummary object;
-  renderListCol(workspace, object, "getIO_STAT_BY_FUNCTION_SUMMARY_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> ioStatbyFunctionsummaryViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

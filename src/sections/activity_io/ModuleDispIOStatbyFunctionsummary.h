@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/activity_io/clsIOStatbyFunctionsummary.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispIOStatbyFunctionsummary_All(Workspace& workspace, const std::string& version);
-void gDispIOStatbyFunctionsummary_Col(Workspace& workspace, const std::string& version,
-                                      const ColRequest& request);
+std::vector<ReleaseViews> ioStatbyFunctionsummaryViews();
 
 }  // namespace kestrelix

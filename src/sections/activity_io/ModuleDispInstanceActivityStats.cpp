@@ -1,53 +1,36 @@
 #include "sections/activity_io/ModuleDispInstanceActivityStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/activity_io/clsInstanceActivityStats.h"
 
 namespace kestrelix {
 namespace {
 
-using I = clsInstanceActivityStats;
+using F = clsInstanceActivityStats::Field;
 
-const ListView kView1{{{"STATISTIC", &I::STATISTIC},
-                       {"TOTAL", &I::TOTAL},
-                       {"PER SECOND", &I::PER_SECOND},
-                       {"PER TRANS", &I::PER_TRANS}}};
-const ListView kView2{
-    {{"STATISTIC", &I::STATISTIC}, {"START VALUE", &I::START_VALUE}, {"END VALUE", &I::END_VALUE}}};
-const ListView kView3{{{"STATISTIC", &I::STATISTIC}, {"TOTAL", &I::TOTAL}, {"PER HOUR", &I::PER_HOUR}}};
+const ListView<clsInstanceActivityStats> kCumulative{.all = "getMAIN1_ALL",
+                                                     .col = "getMAIN1_COL",
+                                                     .columns = {{"STATISTIC", F::STATISTIC, Kind::Key},
+                                                                 {"TOTAL", F::TOTAL, Kind::Count},
+                                                                 {"PER SECOND", F::PER_SECOND, Kind::Rate},
+                                                                 {"PER TRANS", F::PER_TRANS, Kind::Ratio}}};
+
+const ListView<clsInstanceActivityStats> kLevels{.all = "getMAIN2_ALL",
+                                                 .col = "getMAIN2_COL",
+                                                 .columns = {{"STATISTIC", F::STATISTIC, Kind::Key},
+                                                             {"START VALUE", F::START_VALUE, Kind::Level},
+                                                             {"END VALUE", F::END_VALUE, Kind::Level}}};
+
+const ListView<clsInstanceActivityStats> kLogSwitches{.all = "getMAIN3_ALL",
+                                                      .col = "getMAIN3_COL",
+                                                      .columns = {{"STATISTIC", F::STATISTIC, Kind::Key},
+                                                                  {"TOTAL", F::TOTAL, Kind::Count},
+                                                                  // No rate, which would be one a second.
+                                                                  {"PER HOUR", F::PER_HOUR, Kind::Ratio}}};
 
 }  // namespace
 
-void gDispInstanceActivityStats1_All(Workspace& workspace, const std::string& version) {
-  clsInstanceActivityStats object;
-  renderListAll(workspace, object, "getMAIN1_ALL", kView1, version);
-}
-
-void gDispInstanceActivityStats1_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request) {
-  clsInstanceActivityStats object;
-  renderListCol(workspace, object, "getMAIN1_COL", kView1, version, request.keys);
-}
-
-void gDispInstanceActivityStats2_All(Workspace& workspace, const std::string& version) {
-  clsInstanceActivityStats object;
-  renderListAll(workspace, object, "getMAIN2_ALL", kView2, version);
-}
-
-void gDispInstanceActivityStats2_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request) {
-  clsInstanceActivityStats object;
-  renderListCol(workspace, object, "getMAIN2_COL", kView2, version, request.keys);
-}
-
-void gDispInstanceActivityStats3_All(Workspace& workspace, const std::string& version) {
-  clsInstanceActivityStats object;
-  renderListAll(workspace, object, "getMAIN3_ALL", kView3, version);
-}
-
-void gDispInstanceActivityStats3_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request) {
-  clsInstanceActivityStats object;
-  renderListCol(workspace, object, "getMAIN3_COL", kView3, version, request.keys);
-}
+std::vector<ReleaseViews> instanceActivityStats1Views() { return {viewsOf(kAllVersions, kCumulative)}; }
+std::vector<ReleaseViews> instanceActivityStats2Views() { return {viewsOf(kAllVersions, kLevels)}; }
+std::vector<ReleaseViews> instanceActivityStats3Views() { return {viewsOf(kAllVersions, kLogSwitches)}; }
 
 }  // namespace kestrelix

@@ -1,24 +1,19 @@
 #include "sections/activity_io/ModuleDispOSStatistics.h"
 
-#include "report/GridRendering.h"
+#include "sections/activity_io/clsOSStatistics.h"
 
 namespace kestrelix {
 namespace {
 
-using O = clsOSStatistics;
+using F = clsOSStatistics::Field;
 
-const ListView kView{{{"STATISTIC", &O::STATISTIC}, {"TOTAL", &O::TOTAL}}};
+const ListView<clsOSStatistics> kView{
+    .all = "getOS_STATISTICS_ALL",
+    .col = "getOS_STATISTICS_COL",
+    .columns = {{"STATISTIC", F::STATISTIC, Kind::Key}, {"TOTAL", F::TOTAL, Kind::Count}}};
 
 }  // namespace
 
-void gDispOSStatistics_All(Workspace& workspace, const std::string& version) {
-  clsOSStatistics object;
-  renderListAll(workspace, object, "getOS_STATISTICS_ALL", kView, version);
-}
-
-void gDispOSStatistics_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsOSStatistics object;
-  renderListCol(workspace, object, "getOS_STATISTICS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> osStatisticsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/activity_io/clsOSStatistics.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispOSStatistics_All(Workspace& workspace, const std::string& version);
-void gDispOSStatistics_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> osStatisticsViews();
 
 }  // namespace kestrelix

@@ -1,31 +1,25 @@
 #include "sections/activity_io/ModuleDispOSStatisticsdetail.h"
 
-#include "report/GridRendering.h"
+#include "sections/activity_io/clsOSStatisticsdetail.h"
 
 namespace kestrelix {
 namespace {
 
-using O = clsOSStatisticsdetail;
+using F = clsOSStatisticsdetail::Field;
 
-const ListView kView{{{"SNAP ID", &O::SNAP_ID},
-                      {"SNAPSHOT DAY TIME", &O::SNAP_TIME},
-                      {"LOAD", &O::LOAD},
-                      {"%BUSY", &O::PCT_BUSY},
-                      {"%USER", &O::PCT_USER},
-                      {"%SYSTEM", &O::PCT_SYS},
-                      {"%WIO", &O::PCT_IOWT},
-                      {"%WCPU", &O::PCT_CPUWT}}};
+const ListView<clsOSStatisticsdetail> kView{.all = "getOS_STATISTICS_DETAIL_ALL",
+                                            .col = "getOS_STATISTICS_DETAIL_COL",
+                                            .columns = {{"SNAP ID", F::SNAP_ID, Kind::Key, unit::number},
+                                                        {"SNAPSHOT DAY TIME", F::SNAP_TIME, Kind::Time},
+                                                        {"LOAD", F::LOAD, Kind::Level},
+                                                        {"%BUSY", F::PCT_BUSY, Kind::Share, unit::percent},
+                                                        {"%USER", F::PCT_USER, Kind::Share, unit::percent},
+                                                        {"%SYSTEM", F::PCT_SYS, Kind::Share, unit::percent},
+                                                        {"%WIO", F::PCT_IOWT, Kind::Share, unit::percent},
+                                                        {"%WCPU", F::PCT_CPUWT, Kind::Share, unit::percent}}};
 
 }  // namespace
 
-void gDispOSStatisticsdetail_All(Workspace& workspace, const std::string& version) {
-  clsOSStatisticsdetail object;
-  renderListAll(workspace, object, "getOS_STATISTICS_DETAIL_ALL", kView, version);
-}
-
-void gDispOSStatisticsdetail_Col(Workspace& workspace, const std::string& version, const ColRequest&) {
-  clsOSStatisticsdetail object;
-  renderListCol(workspace, object, "getOS_STATISTICS_DETAIL_COL", kView, version, {});
-}
+std::vector<ReleaseViews> osStatisticsdetailViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

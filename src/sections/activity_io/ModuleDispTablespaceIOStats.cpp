@@ -1,32 +1,27 @@
 #include "sections/activity_io/ModuleDispTablespaceIOStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/activity_io/clsTablespaceIOStats.h"
 
 namespace kestrelix {
 namespace {
 
-using T = clsTablespaceIOStats;
+using F = clsTablespaceIOStats::Field;
 
-const ListView kView{{{"TABLESPACE", &T::TABLESPACE},
-                      {"READS", &T::PHY_READNUM},
-                      {"AV READS/S", &T::PHY_READNUM_PAR_SEC},
-                      {"AV RD(MS)", &T::READTIME_PER_PHY_READNUM},
-                      {"Av BLKS/RD", &T::PHY_READBLK_PER_PHY_READNUM},
-                      {"WRITES", &T::PHY_WRITENUM},
-                      {"AV WRITES/S", &T::PHY_WRITENUM_PAR_SEC},
-                      {"BUFFER WAITS", &T::WAIT_NUM},
-                      {"AV BUF WT(MS)", &T::DBFILE_WAIT_TIME_PER_WAIT_NUM}}};
+const ListView<clsTablespaceIOStats> kView{
+    .all = "getTABLESPACE_IO_STATS_ALL",
+    .col = "getTABLESPACE_IO_STATS_COL",
+    .columns = {{"TABLESPACE", F::TABLESPACE, Kind::Key},
+                {"READS", F::PHY_READNUM, Kind::Count},
+                {"AV READS/S", F::PHY_READNUM_PAR_SEC, Kind::Rate},
+                {"AV RD(MS)", F::READTIME_PER_PHY_READNUM, Kind::Average, unit::milliseconds},
+                {"Av BLKS/RD", F::PHY_READBLK_PER_PHY_READNUM, Kind::Average, unit::blocks},
+                {"WRITES", F::PHY_WRITENUM, Kind::Count},
+                {"AV WRITES/S", F::PHY_WRITENUM_PAR_SEC, Kind::Rate},
+                {"BUFFER WAITS", F::WAIT_NUM, Kind::Count},
+                {"AV BUF WT(MS)", F::DBFILE_WAIT_TIME_PER_WAIT_NUM, Kind::Average, unit::milliseconds}}};
 
 }  // namespace
 
-void gDispTablespaceIOStats_All(Workspace& workspace, const std::string& version) {
-  clsTablespaceIOStats object;
-  renderListAll(workspace, object, "getTABLESPACE_IO_STATS_ALL", kView, version);
-}
-
-void gDispTablespaceIOStats_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsTablespaceIOStats object;
-  renderListCol(workspace, object, "getTABLESPACE_IO_STATS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> tablespaceIOStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/activity_io/clsTablespaceIOStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispTablespaceIOStats_All(Workspace& workspace, const std::string& version);
-void gDispTablespaceIOStats_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> tablespaceIOStatsViews();
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/cluster/clsDynamicRemasteringStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispDynamicRemasteringStats_All(Workspace& workspace, const std::string& version);
-void gDispDynamicRemasteringStats_Col(Workspace& workspace, const std::string& version,
-                                      const ColRequest& request);
+std::vector<ReleaseViews> dynamicRemasteringStatsViews();
 
 }  // namespace kestrelix

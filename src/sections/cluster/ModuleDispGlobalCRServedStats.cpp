@@ -1,70 +1,72 @@
 #include "sections/cluster/ModuleDispGlobalCRServedStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/cluster/clsGlobalCRServedStats.h"
 
 namespace kestrelix {
 namespace {
 
-using C = clsGlobalCRServedStats;
+using F = clsGlobalCRServedStats::Field;
 
-const MetricView kView{
+const MetricView<clsGlobalCRServedStats> kView{
     .headings = {"TOTAL"},
-    .rows =
-        {{.label = "CR Block Requests", .member = "getCR_REQUESTS", .cells = {{"TOTAL", &C::CR_REQUESTS}}},
-         {.label = "CURRENT Block Requests",
-          .member = "getCURRENT_REQUESTS",
-          .cells = {{"TOTAL", &C::CURRENT_REQUESTS}}},
-         {.label = "Data Block Requests",
-          .member = "getDATA_REQUESTS",
-          .cells = {{"TOTAL", &C::DATA_REQUESTS}}},
-         {.label = "Undo Block Requests",
-          .member = "getUNDO_REQUESTS",
-          .cells = {{"TOTAL", &C::UNDO_REQUESTS}}},
-         {.label = "TX Block Requests", .member = "getTX_REQUESTS", .cells = {{"TOTAL", &C::TX_REQUESTS}}},
-         {.label = "Current Results",
-          .member = "getCURRENT_RESULTS",
-          .cells = {{"TOTAL", &C::CURRENT_RESULTS}}},
-         {.label = "Private results",
-          .member = "getPRIVATE_RESULTS",
-          .cells = {{"TOTAL", &C::PRIVATE_RESULTS}}},
-         {.label = "Zero Results", .member = "getZERO_RESULTS", .cells = {{"TOTAL", &C::ZERO_RESULTS}}},
-         {.label = "Disk Read Results",
-          .member = "getDISK_READ_RESULTS",
-          .cells = {{"TOTAL", &C::DISK_READ_RESULTS}}},
-         {.label = "Fail Results", .member = "getFAIL_RESULTS", .cells = {{"TOTAL", &C::FAIL_RESULTS}}},
-         {.label = "Fairness Down Converts",
-          .member = "getFAIRNESS_DOWN_CONVERTS",
-          .cells = {{"TOTAL", &C::FAIRNESS_DOWN_CONVERTS}}},
-         {.label = "Fairness Clears",
-          .member = "getFAIRNESS_CLEARS",
-          .cells = {{"TOTAL", &C::FAIRNESS_CLEARS}}},
-         {.label = "Free GC Elements",
-          .member = "getFREE_GC_ELEMENTS",
-          .cells = {{"TOTAL", &C::FREE_GC_ELEMENTS}}},
-         {.label = "Flushes", .member = "getFLUSHES", .cells = {{"TOTAL", &C::FLUSHES}}},
-         {.label = "Flushes Queued", .member = "getFLUSHES_QUEUED", .cells = {{"TOTAL", &C::FLUSHES_QUEUED}}},
-         {.label = "Flush Queue Full",
-          .member = "getFLUSH_QUEUE_FULL",
-          .cells = {{"TOTAL", &C::FLUSH_QUEUE_FULL}}},
-         {.label = "Flush Max Time (us)",
-          .member = "getFLUSH_MAX_TIME",
-          .cells = {{"TOTAL", &C::FLUSH_MAX_TIME}}},
-         {.label = "Light Works", .member = "getLIGHT_WORKS", .cells = {{"TOTAL", &C::LIGHT_WORKS}}},
-         {.label = "Errors", .member = "getERRORS", .cells = {{"TOTAL", &C::ERRORS}}}},
+    .rows = {{.label = "CR Block Requests",
+              .member = "getCR_REQUESTS",
+              .cells = {{"TOTAL", F::CR_REQUESTS, Kind::Count}}},
+             {.label = "CURRENT Block Requests",
+              .member = "getCURRENT_REQUESTS",
+              .cells = {{"TOTAL", F::CURRENT_REQUESTS, Kind::Count}}},
+             {.label = "Data Block Requests",
+              .member = "getDATA_REQUESTS",
+              .cells = {{"TOTAL", F::DATA_REQUESTS, Kind::Count}}},
+             {.label = "Undo Block Requests",
+              .member = "getUNDO_REQUESTS",
+              .cells = {{"TOTAL", F::UNDO_REQUESTS, Kind::Count}}},
+             {.label = "TX Block Requests",
+              .member = "getTX_REQUESTS",
+              .cells = {{"TOTAL", F::TX_REQUESTS, Kind::Count}}},
+             {.label = "Current Results",
+              .member = "getCURRENT_RESULTS",
+              .cells = {{"TOTAL", F::CURRENT_RESULTS, Kind::Count}}},
+             {.label = "Private results",
+              .member = "getPRIVATE_RESULTS",
+              .cells = {{"TOTAL", F::PRIVATE_RESULTS, Kind::Count}}},
+             {.label = "Zero Results",
+              .member = "getZERO_RESULTS",
+              .cells = {{"TOTAL", F::ZERO_RESULTS, Kind::Count}}},
+             {.label = "Disk Read Results",
+              .member = "getDISK_READ_RESULTS",
+              .cells = {{"TOTAL", F::DISK_READ_RESULTS, Kind::Count}}},
+             {.label = "Fail Results",
+              .member = "getFAIL_RESULTS",
+              .cells = {{"TOTAL", F::FAIL_RESULTS, Kind::Count}}},
+             {.label = "Fairness Down Converts",
+              .member = "getFAIRNESS_DOWN_CONVERTS",
+              .cells = {{"TOTAL", F::FAIRNESS_DOWN_CONVERTS, Kind::Count}}},
+             {.label = "Fairness Clears",
+              .member = "getFAIRNESS_CLEARS",
+              .cells = {{"TOTAL", F::FAIRNESS_CLEARS, Kind::Count}}},
+             {.label = "Free GC Elements",
+              .member = "getFREE_GC_ELEMENTS",
+              .cells = {{"TOTAL", F::FREE_GC_ELEMENTS, Kind::Count}}},
+             {.label = "Flushes", .member = "getFLUSHES", .cells = {{"TOTAL", F::FLUSHES, Kind::Count}}},
+             {.label = "Flushes Queued",
+              .member = "getFLUSHES_QUEUED",
+              .cells = {{"TOTAL", F::FLUSHES_QUEUED, Kind::Count}}},
+             {.label = "Flush Queue Full",
+              .member = "getFLUSH_QUEUE_FULL",
+              .cells = {{"TOTAL", F::FLUSH_QUEUE_FULL, Kind::Count}}},
+             {.label = "Flush Max Time (us)",
+              .member = "getFLUSH_MAX_TIME",
+              .cells = {{"TOTAL", F::FLUSH_MAX_TIME, Kind::Count, unit::microseconds}}},
+             {.label = "Light Works",
+              .member = "getLIGHT_WORKS",
+              .cells = {{"TOTAL", F::LIGHT_WORKS, Kind::Count}}},
+             {.label = "Errors", .member = "getERRORS", .cells = {{"TOTAL", F::ERRORS, Kind::Count}}}},
     .headingsAloneOnRestart = true,
     .nameHeading = "STATISTIC"};
 
 }  // namespace
 
-void gDispGlobalCRServedStats_All(Workspace& workspace, const std::string& version) {
-  clsGlobalCRServedStats object;
-  renderMetricAll(workspace, object, kView, version);
-}
-
-void gDispGlobalCRServedStats_Col(Workspace& workspace, const std::string& version,
-                                  const ColRequest& request) {
-  clsGlobalCRServedStats object;
-  renderMetricCol(workspace, object, kView, version, request.row);
-}
+std::vector<ReleaseViews> globalCRServedStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,51 +1,43 @@
 #include "sections/cluster/ModuleDispGlobalCURRENTServedStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/cluster/clsGlobalCURRENTServedStats.h"
 
 namespace kestrelix {
 namespace {
 
-using C = clsGlobalCURRENTServedStats;
+using F = clsGlobalCURRENTServedStats::Field;
 
-const MetricView kView{.headings = {"TOTAL", "% <1MS", "% <10MS", "% <100MS", "% <1S", "% <10S"},
-                       .rows = {{.label = "Pins",
-                                 .member = "getPINS",
-                                 .cells = {{"TOTAL", &C::PINS},
-                                           {"% <1MS", &C::PIN1},
-                                           {"% <10MS", &C::PIN10},
-                                           {"% <100MS", &C::PIN100},
-                                           {"% <1S", &C::PIN1000},
-                                           {"% <10S", &C::PIN10000}}},
-                                {.label = "Flushes",
-                                 .member = "getFLUSHES",
-                                 .cells = {{"TOTAL", &C::FLUSHES},
-                                           {"% <1MS", &C::FLUSH1},
-                                           {"% <10MS", &C::FLUSH10},
-                                           {"% <100MS", &C::FLUSH100},
-                                           {"% <1S", &C::FLUSH1000},
-                                           {"% <10S", &C::FLUSH10000}}},
-                                {.label = "Writes",
-                                 .member = "getWRITES",
-                                 .cells = {{"TOTAL", &C::WRITES},
-                                           {"% <1MS", &C::WRITE1},
-                                           {"% <10MS", &C::WRITE10},
-                                           {"% <100MS", &C::WRITE100},
-                                           {"% <1S", &C::WRITE1000},
-                                           {"% <10S", &C::WRITE10000}}}},
-                       .headingsAloneOnRestart = true,
-                       .nameHeading = "STATISTIC"};
+const MetricView<clsGlobalCURRENTServedStats> kView{
+    .headings = {"TOTAL", "% <1MS", "% <10MS", "% <100MS", "% <1S", "% <10S"},
+    .rows = {{.label = "Pins",
+              .member = "getPINS",
+              .cells = {{"TOTAL", F::PINS, Kind::Count},
+                        {"% <1MS", F::PIN1, Kind::Share, unit::percent},
+                        {"% <10MS", F::PIN10, Kind::Share, unit::percent},
+                        {"% <100MS", F::PIN100, Kind::Share, unit::percent},
+                        {"% <1S", F::PIN1000, Kind::Share, unit::percent},
+                        {"% <10S", F::PIN10000, Kind::Share, unit::percent}}},
+             {.label = "Flushes",
+              .member = "getFLUSHES",
+              .cells = {{"TOTAL", F::FLUSHES, Kind::Count},
+                        {"% <1MS", F::FLUSH1, Kind::Share, unit::percent},
+                        {"% <10MS", F::FLUSH10, Kind::Share, unit::percent},
+                        {"% <100MS", F::FLUSH100, Kind::Share, unit::percent},
+                        {"% <1S", F::FLUSH1000, Kind::Share, unit::percent},
+                        {"% <10S", F::FLUSH10000, Kind::Share, unit::percent}}},
+             {.label = "Writes",
+              .member = "getWRITES",
+              .cells = {{"TOTAL", F::WRITES, Kind::Count},
+                        {"% <1MS", F::WRITE1, Kind::Share, unit::percent},
+                        {"% <10MS", F::WRITE10, Kind::Share, unit::percent},
+                        {"% <100MS", F::WRITE100, Kind::Share, unit::percent},
+                        {"% <1S", F::WRITE1000, Kind::Share, unit::percent},
+                        {"% <10S", F::WRITE10000, Kind::Share, unit::percent}}}},
+    .headingsAloneOnRestart = true,
+    .nameHeading = "STATISTIC"};
 
 }  // namespace
 
-void gDispGlobalCURRENTServedStats_All(Workspace& workspace, const std::string& version) {
-  clsGlobalCURRENTServedStats object;
-  renderMetricAll(workspace, object, kView, version);
-}
-
-void gDispGlobalCURRENTServedStats_Col(Workspace& workspace, const std::string& version,
-                                       const ColRequest& request) {
-  clsGlobalCURRENTServedStats object;
-  renderMetricCol(workspace, object, kView, version, request.row);
-}
+std::vector<ReleaseViews> globalCURRENTServedStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/cluster/clsGlobalCURRENTServedStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispGlobalCURRENTServedStats_All(Workspace& workspace, const std::string& version);
-void gDispGlobalCURRENTServedStats_Col(Workspace& workspace, const std::string& version,
-                                       const ColRequest& request);
+std::vector<ReleaseViews> globalCURRENTServedStatsViews();
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/cluster/clsGlobalCacheEfficiency.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispGlobalCacheEfficiency_All(Workspace& workspace, const std::string& version);
-void gDispGlobalCacheEfficiency_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request);
+std::vector<ReleaseViews> globalCacheEfficiencyViews();
 
 }  // namespace kestrelix

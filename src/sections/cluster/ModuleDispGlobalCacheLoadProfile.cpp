@@ -1,49 +1,44 @@
 #include "sections/cluster/ModuleDispGlobalCacheLoadProfile.h"
 
-#include "report/GridRendering.h"
+#include "sections/cluster/clsGlobalCacheLoadProfile.h"
 
 namespace kestrelix {
 namespace {
 
-using P = clsGlobalCacheLoadProfile;
+using F = clsGlobalCacheLoadProfile::Field;
 
-const MetricView kView{.headings = {"PER SECOND", "PER TRANSACTION"},
-                       .rows = {{.label = "Global Cache blocks received:",
-                                 .member = "getGCBR_SEC",
-                                 .cells = {{"PER SECOND", &P::GCBR_SEC}, {"PER TRANSACTION", &P::GCBR_TRAN}},
-                                 .furtherMembers = {"getGCBR_TRAN"}},
-                                {.label = "Global Cache blocks served:",
-                                 .member = "getGCBS_SEC",
-                                 .cells = {{"PER SECOND", &P::GCBS_SEC}, {"PER TRANSACTION", &P::GCBS_TRAN}},
-                                 .furtherMembers = {"getGCBS_TRAN"}},
-                                {.label = "GCS/GES messages received:",
-                                 .member = "getGGMR_SEC",
-                                 .cells = {{"PER SECOND", &P::GGMR_SEC}, {"PER TRANSACTION", &P::GGMR_TRAN}},
-                                 .furtherMembers = {"getGGMR_TRAN"}},
-                                {.label = "GCS/GES messages sent:",
-                                 .member = "getGGMS_SEC",
-                                 .cells = {{"PER SECOND", &P::GGMS_SEC}, {"PER TRANSACTION", &P::GGMS_TRAN}},
-                                 .furtherMembers = {"getGGMS_TRAN"}},
-                                {.label = "DBWR Fusion writes:",
-                                 .member = "getDFW_SEC",
-                                 .cells = {{"PER SECOND", &P::DFW_SEC}, {"PER TRANSACTION", &P::DFW_TRAN}},
-                                 .furtherMembers = {"getDFW_TRAN"}},
-                                {.label = "Estd Interconnect traffic (KB):",
-                                 .member = "getEITKB_SEC",
-                                 .cells = {{"PER SECOND", &P::EITKB_SEC}}}},
-                       .headingsAloneOnRestart = true};
+const MetricView<clsGlobalCacheLoadProfile> kView{
+    .headings = {"PER SECOND", "PER TRANSACTION"},
+    .rows =
+        {{.label = "Global Cache blocks received:",
+          .member = "getGCBR_SEC",
+          .cells = {{"PER SECOND", F::GCBR_SEC, Kind::Rate, unit::blocks},
+                    {"PER TRANSACTION", F::GCBR_TRAN, Kind::Ratio, unit::blocks}},
+          .furtherMembers = {"getGCBR_TRAN"}},
+         {.label = "Global Cache blocks served:",
+          .member = "getGCBS_SEC",
+          .cells = {{"PER SECOND", F::GCBS_SEC, Kind::Rate, unit::blocks},
+                    {"PER TRANSACTION", F::GCBS_TRAN, Kind::Ratio, unit::blocks}},
+          .furtherMembers = {"getGCBS_TRAN"}},
+         {.label = "GCS/GES messages received:",
+          .member = "getGGMR_SEC",
+          .cells = {{"PER SECOND", F::GGMR_SEC, Kind::Rate}, {"PER TRANSACTION", F::GGMR_TRAN, Kind::Ratio}},
+          .furtherMembers = {"getGGMR_TRAN"}},
+         {.label = "GCS/GES messages sent:",
+          .member = "getGGMS_SEC",
+          .cells = {{"PER SECOND", F::GGMS_SEC, Kind::Rate}, {"PER TRANSACTION", F::GGMS_TRAN, Kind::Ratio}},
+          .furtherMembers = {"getGGMS_TRAN"}},
+         {.label = "DBWR Fusion writes:",
+          .member = "getDFW_SEC",
+          .cells = {{"PER SECOND", F::DFW_SEC, Kind::Rate}, {"PER TRANSACTION", F::DFW_TRAN, Kind::Ratio}},
+          .furtherMembers = {"getDFW_TRAN"}},
+         {.label = "Estd Interconnect traffic (KB):",
+          .member = "getEITKB_SEC",
+          .cells = {{"PER SECOND", F::EITKB_SEC, Kind::Rate, unit::kilobytes}}}},
+    .headingsAloneOnRestart = true};
 
 }  // namespace
 
-void gDispGlobalCacheLoadProfile_All(Workspace& workspace, const std::string& version) {
-  clsGlobalCacheLoadProfile object;
-  renderMetricAll(workspace, object, kView, version);
-}
-
-void gDispGlobalCacheLoadProfile_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request) {
-  clsGlobalCacheLoadProfile object;
-  renderMetricCol(workspace, object, kView, version, request.row);
-}
+std::vector<ReleaseViews> globalCacheLoadProfileViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

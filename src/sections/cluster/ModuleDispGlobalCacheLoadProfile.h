@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/cluster/clsGlobalCacheLoadProfile.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispGlobalCacheLoadProfile_All(Workspace& workspace, const std::string& version);
-void gDispGlobalCacheLoadProfile_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request);
+std::vector<ReleaseViews> globalCacheLoadProfileViews();
 
 }  // namespace kestrelix

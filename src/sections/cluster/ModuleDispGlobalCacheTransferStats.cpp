@@ -1,67 +1,50 @@
 #include "sections/cluster/ModuleDispGlobalCacheTransferStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/cluster/clsGlobalCacheTransferStats.h"
 
 namespace kestrelix {
 namespace {
 
-using T = clsGlobalCacheTransferStats;
+using F = clsGlobalCacheTransferStats::Field;
+using Columns = std::vector<Column<clsGlobalCacheTransferStats>>;
 
 /// "Y": the sending instances are told apart. Any other value: they aren't.
 constexpr std::string_view kMode = "Y";
 
-const std::vector<ViewColumn> kFigures{{"CR BLOCKS RECEIVED", &T::TOTCR}, {"CR % IMMED", &T::CR_BLKIMM},
-                                       {"CR % BUSY", &T::CR_BLKBUS},      {"CR % CONGST", &T::CR_BLKCGT},
-                                       {"CU BLOCKS RECEIVED", &T::TOTCU}, {"CU % IMMED", &T::CU_BLKIMM},
-                                       {"CU % BUSY", &T::CU_BLKBUS},      {"CU % CONGST", &T::CU_BLKCGT}};
-
-ListView behind(std::vector<ViewColumn> keys) {
-  ListView view{.columns = std::move(keys)};
-  view.keys = view.columns.size();
-  view.columns.insert(view.columns.end(), kFigures.begin(), kFigures.end());
-  return view;
+/// The figures of both forms, behind the keys of one.
+Columns behind(Columns keys) {
+  const Columns figures{{"CR BLOCKS RECEIVED", F::TOTCR, Kind::Count, unit::blocks},
+                        {"CR % IMMED", F::CR_BLKIMM, Kind::Share, unit::percent},
+                        {"CR % BUSY", F::CR_BLKBUS, Kind::Share, unit::percent},
+                        {"CR % CONGST", F::CR_BLKCGT, Kind::Share, unit::percent},
+                        {"CU BLOCKS RECEIVED", F::TOTCU, Kind::Count, unit::blocks},
+                        {"CU % IMMED", F::CU_BLKIMM, Kind::Share, unit::percent},
+                        {"CU % BUSY", F::CU_BLKBUS, Kind::Share, unit::percent},
+                        {"CU % CONGST", F::CU_BLKCGT, Kind::Share, unit::percent}};
+  keys.insert(keys.end(), figures.begin(), figures.end());
+  return keys;
 }
 
-const ListView kBlockView = behind({{"INST NO", &T::INST}, {"BLOCK CLASS", &T::BLOCK_CLASS}});
-const ListView kClassView = behind({{"BLOCK CLASS", &T::BLOCK_CLASS}});
+const ListView<clsGlobalCacheTransferStats> kBlockView{
+    .all = "getGLOBAL_CACHE_TRANSFER_STATS_Y_ALL",
+    .col = "getGLOBAL_CACHE_TRANSFER_STATS_Y_COL",
+    .columns =
+        behind({{"INST NO", F::INST, Kind::Key, unit::number}, {"BLOCK CLASS", F::BLOCK_CLASS, Kind::Key}}),
+    .keys = 2};
+
+const ListView<clsGlobalCacheTransferStats> kClassView{
+    .all = "getGLOBAL_CACHE_TRANSFER_STATS_N_ALL",
+    .col = "getGLOBAL_CACHE_TRANSFER_STATS_N_COL",
+    .columns = behind({{"BLOCK CLASS", F::BLOCK_CLASS, Kind::Key}})};
 
 }  // namespace
 
-void gDispGlobalCacheTransferStatsBlock_All(Workspace& workspace, const std::string& version) {
-  clsGlobalCacheTransferStats object;
-  renderListAll(workspace, object, "getGLOBAL_CACHE_TRANSFER_STATS_Y_ALL", kBlockView, version);
-}
+std::vector<ReleaseViews> globalCacheTransferStatsBlockViews() { return {viewsOf(kAllVersions, kBlockView)}; }
 
-void gDispGlobalCacheTransferStatsBlock_Col(Workspace& workspace, const std::string& version,
-                                            const ColRequest& request) {
-  clsGlobalCacheTransferStats object;
-  renderListCol(workspace, object, "getGLOBAL_CACHE_TRANSFER_STATS_Y_COL", kBlockView, version, request.keys);
-}
+std::vector<ReleaseViews> globalCacheTransferStatsClassViews() { return {viewsOf(kAllVersions, kClassView)}; }
 
-void gDispGlobalCacheTransferStatsClass_All(Workspace& workspace, const std::string& version) {
-  clsGlobalCacheTransferStats object;
-  renderListAll(workspace, object, "getGLOBAL_CACHE_TRANSFER_STATS_N_ALL", kClassView, version);
-}
-
-void gDispGlobalCacheTransferStatsClass_Col(Workspace& workspace, const std::string& version,
-                                            const ColRequest& request) {
-  clsGlobalCacheTransferStats object;
-  renderListCol(workspace, object, "getGLOBAL_CACHE_TRANSFER_STATS_N_COL", kClassView, version, request.keys);
-}
-
-void gDispGlobalCacheTransferStats_All(Workspace& workspace, const std::string& version) {
-  if (kMode == "Y")
-    gDispGlobalCacheTransferStatsBlock_All(workspace, version);
-  else
-    gDispGlobalCacheTransferStatsClass_All(workspace, version);
-}
-
-void gDispGlobalCacheTransferStats_Col(Workspace& workspace, const std::string& version,
-                                       const ColRequest& request) {
-  if (kMode == "Y")
-    gDispGlobalCacheTransferStatsBlock_Col(workspace, version, request);
-  else
-    gDispGlobalCacheTransferStatsClass_Col(workspace, version, request);
+std::vector<ReleaseViews> globalCacheTransferStatsViews() {
+  return kMode == "Y" ? globalCacheTransferStatsBlockViews() : globalCacheTransferStatsClassViews();
 }
 
 }  // namespace kestrelix

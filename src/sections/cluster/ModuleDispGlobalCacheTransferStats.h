@@ -1,23 +1,14 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/cluster/clsGlobalCacheTransferStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
 /// By sending instance and class: the form on show.
-void gDispGlobalCacheTransferStatsBlock_All(Workspace& workspace, const std::string& version);
-void gDispGlobalCacheTransferStatsBlock_Col(Workspace& workspace, const std::string& version,
-                                            const ColRequest& request);
-
+std::vector<ReleaseViews> globalCacheTransferStatsBlockViews();
 /// By class alone: complete, and out of service.
-void gDispGlobalCacheTransferStatsClass_All(Workspace& workspace, const std::string& version);
-void gDispGlobalCacheTransferStatsClass_Col(Workspace& workspace, const std::string& version,
-                                            const ColRequest& request);
-
-/// Take the form that the constant in the source chooses.
-void gDispGlobalCacheTransferStats_All(Workspace& workspace, const std::string& version);
-void gDispGlobalCacheTransferStats_Col(Workspace& workspace, const std::string& version,
-                                       const ColRequest& request);
+std::vector<ReleaseViews> globalCacheTransferStatsClassViews();
+/// The form that the constant in the source chooses.
+std::vector<ReleaseViews> globalCacheTransferStatsViews();
 
 }  // namespace kestrelix

@@ -1,28 +1,21 @@
 #include "sections/cluster/ModuleDispGlobalEnqueueStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/cluster/clsGlobalEnqueueStats.h"
 
 namespace kestrelix {
 namespace {
 
-using G = clsGlobalEnqueueStats;
+using F = clsGlobalEnqueueStats::Field;
 
-const ListView kView{{{"STATISTIC", &G::STATISTIC},
-                      {"TOTAL", &G::TOTAL},
-                      {"PER SECOND", &G::PER_SECOND},
-                      {"PER TRANS", &G::PER_TRANS}}};
+const ListView<clsGlobalEnqueueStats> kView{.all = "getGLOBAL_ENQUEUE_STATS_ALL",
+                                            .col = "getGLOBAL_ENQUEUE_STATS_COL",
+                                            .columns = {{"STATISTIC", F::STATISTIC, Kind::Key},
+                                                        {"TOTAL", F::TOTAL, Kind::Count},
+                                                        {"PER SECOND", F::PER_SECOND, Kind::Rate},
+                                                        {"PER TRANS", F::PER_TRANS, Kind::Ratio}}};
 
 }  // namespace
 
-void gDispGlobalEnqueueStats_All(Workspace& workspace, const std::string& version) {
-  clsGlobalEnqueueStats object;
-  renderListAll(workspace, object, "getGLOBAL_ENQUEUE_STATS_ALL", kView, version);
-}
-
-void gDispGlobalEnqueueStats_Col(Workspace& workspace, const std::string& version,
-                                 const ColRequest& request) {
-  clsGlobalEnqueueStats object;
-  renderListCol(workspace, object, "getGLOBAL_ENQUEUE_STATS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> globalEnqueueStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

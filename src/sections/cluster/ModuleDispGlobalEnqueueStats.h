@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/cluster/clsGlobalEnqueueStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispGlobalEnqueueStats_All(Workspace& workspace, const std::string& version);
-void gDispGlobalEnqueueStats_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> globalEnqueueStatsViews();
 
 }  // namespace kestrelix

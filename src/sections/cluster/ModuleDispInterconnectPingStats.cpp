@@ -1,38 +1,32 @@
 #include "sections/cluster/ModuleDispInterconnectPingStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/cluster/clsInterconnectPingStats.h"
 
 namespace kestrelix {
 namespace {
 
-using P = clsInterconnectPingStats;
+using F = clsInterconnectPingStats::Field;
 
 /// One heading has a second bracket in the Col view alone.
-std::vector<ViewColumn> columns(const std::string& time8k) {
-  return {{"TARGET INSTANCE", &P::TARGET_INSTANCE},
-          {"[500B]PING COUNT", &P::CNT500B},
-          {"[500B]TIME(S)", &P::WAIT500B},
-          {"[500B]AVG TIME(MS)", &P::AV500B},
-          {"[500B]STD DEV", &P::SD500B},
-          {"[8KB]PING COUNT", &P::CNT8K},
-          {time8k, &P::WAIT8K},
-          {"[8KB]AVG TIME(MS)", &P::AV8K},
-          {"[8KB]STD DEV", &P::SD8K}};
+std::vector<Column<clsInterconnectPingStats>> columns(const std::string& time8k) {
+  return {{"TARGET INSTANCE", F::TARGET_INSTANCE, Kind::Key, unit::number},
+          {"[500B]PING COUNT", F::CNT500B, Kind::Count},
+          {"[500B]TIME(S)", F::WAIT500B, Kind::Count, unit::seconds},
+          {"[500B]AVG TIME(MS)", F::AV500B, Kind::Average, unit::milliseconds},
+          {"[500B]STD DEV", F::SD500B, Kind::Average, unit::milliseconds},
+          {"[8KB]PING COUNT", F::CNT8K, Kind::Count},
+          {time8k, F::WAIT8K, Kind::Count, unit::seconds},
+          {"[8KB]AVG TIME(MS)", F::AV8K, Kind::Average, unit::milliseconds},
+          {"[8KB]STD DEV", F::SD8K, Kind::Average, unit::milliseconds}};
 }
 
-const ListView kView{.columns = columns("[8KB]TIME(S)"), .colColumns = columns("[8KB]TIME(S))")};
+const ListView<clsInterconnectPingStats> kView{.all = "getINTERCONNECT_PING_STATS_ALL",
+                                               .col = "getINTERCONNECT_PING_STATS_COL",
+                                               .columns = columns("[8KB]TIME(S)"),
+                                               .colColumns = columns("[8KB]TIME(S))")};
 
 }  // namespace
 
-void gDispInterconnectPingStats_All(Workspace& workspace, const std::string& version) {
-  clsInterconnectPingStats object;
-  renderListAll(workspace, object, "getINTERCONNECT_PING_STATS_ALL", kView, version);
-}
-
-void gDispInterconnectPingStats_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request) {
-  clsInterconnectPingStats object;
-  renderListCol(workspace, object, "getINTERCONNECT_PING_STATS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> interconnectPingStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/cluster/clsInterconnectPingStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispInterconnectPingStats_All(Workspace& workspace, const std::string& version);
-void gDispInterconnectPingStats_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request);
+std::vector<ReleaseViews> interconnectPingStatsViews();
 
 }  // namespace kestrelix

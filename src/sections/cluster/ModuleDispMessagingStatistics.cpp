@@ -1,46 +1,42 @@
 #include "sections/cluster/ModuleDispMessagingStatistics.h"
 
-#include "report/GridRendering.h"
+#include "sections/cluster/clsMessagingStatistics.h"
 
 namespace kestrelix {
 namespace {
 
-using M = clsMessagingStatistics;
+using F = clsMessagingStatistics::Field;
 
-const MetricView kView{
+const MetricView<clsMessagingStatistics> kView{
     .headings = {"VALUE"},
-    .rows =
-        {{.label = "Avg message sent queue time (ms):",
-          .member = "getAMSQT",
-          .cells = {{"VALUE", &M::AMSQT}}},
-         {.label = "Avg message sent queue time on ksxp (ms):",
-          .member = "getAMSQTOK",
-          .cells = {{"VALUE", &M::AMSQTOK}}},
-         {.label = "Avg message received queue time (ms):",
-          .member = "getAMRQT",
-          .cells = {{"VALUE", &M::AMRQT}}},
-         {.label = "Avg GCS message process time (ms):",
-          .member = "getAGCMPT",
-          .cells = {{"VALUE", &M::AGCMPT}}},
-         {.label = "Avg GES message process time (ms):",
-          .member = "getAGEMPT",
-          .cells = {{"VALUE", &M::AGEMPT}}},
-         {.label = "% of direct sent messages:", .member = "getPODSM", .cells = {{"VALUE", &M::PODSM}}},
-         {.label = "% of indirect sent messages:", .member = "getPOISM", .cells = {{"VALUE", &M::POISM}}},
-         {.label = "% of flow controlled messages:", .member = "getPOFCM", .cells = {{"VALUE", &M::POFCM}}}},
+    .rows = {{.label = "Avg message sent queue time (ms):",
+              .member = "getAMSQT",
+              .cells = {{"VALUE", F::AMSQT, Kind::Average, unit::milliseconds}}},
+             {.label = "Avg message sent queue time on ksxp (ms):",
+              .member = "getAMSQTOK",
+              .cells = {{"VALUE", F::AMSQTOK, Kind::Average, unit::milliseconds}}},
+             {.label = "Avg message received queue time (ms):",
+              .member = "getAMRQT",
+              .cells = {{"VALUE", F::AMRQT, Kind::Average, unit::milliseconds}}},
+             {.label = "Avg GCS message process time (ms):",
+              .member = "getAGCMPT",
+              .cells = {{"VALUE", F::AGCMPT, Kind::Average, unit::milliseconds}}},
+             {.label = "Avg GES message process time (ms):",
+              .member = "getAGEMPT",
+              .cells = {{"VALUE", F::AGEMPT, Kind::Average, unit::milliseconds}}},
+             {.label = "% of direct sent messages:",
+              .member = "getPODSM",
+              .cells = {{"VALUE", F::PODSM, Kind::Share, unit::percent}}},
+             {.label = "% of indirect sent messages:",
+              .member = "getPOISM",
+              .cells = {{"VALUE", F::POISM, Kind::Share, unit::percent}}},
+             {.label = "% of flow controlled messages:",
+              .member = "getPOFCM",
+              .cells = {{"VALUE", F::POFCM, Kind::Share, unit::percent}}}},
     .headingsAloneOnRestart = true};
 
 }  // namespace
 
-void gDispMessagingStatistics_All(Workspace& workspace, const std::string& version) {
-  clsMessagingStatistics object;
-  renderMetricAll(workspace, object, kView, version);
-}
-
-void gDispMessagingStatistics_Col(Workspace& workspace, const std::string& version,
-                                  const ColRequest& request) {
-  clsMessagingStatistics object;
-  renderMetricCol(workspace, object, kView, version, request.row);
-}
+std::vector<ReleaseViews> messagingStatisticsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/cluster/clsMessagingStatistics.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispMessagingStatistics_All(Workspace& workspace, const std::string& version);
-void gDispMessagingStatistics_Col(Workspace& workspace, const std::string& version,
-                                  const ColRequest& request);
+std::vector<ReleaseViews> messagingStatisticsViews();
 
 }  // namespace kestrelix

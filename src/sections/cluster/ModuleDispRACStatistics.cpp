@@ -1,29 +1,22 @@
 #include "sections/cluster/ModuleDispRACStatistics.h"
 
-#include "report/GridRendering.h"
+#include "sections/cluster/clsRACStatistics.h"
 
 namespace kestrelix {
 namespace {
 
-using R = clsRACStatistics;
+using F = clsRACStatistics::Field;
 
-const MetricView kView{.headings = {"START VALUE", "END VALUE"},
-                       .rows = {{.label = "Number of Instances:",
-                                 .member = "getNUMBER_OF_INSTANCES",
-                                 .cells = {{"START VALUE", &R::START_NUMBER_OF_INSTANCES},
-                                           {"END VALUE", &R::END_NUMBER_OF_INSTANCES}}}},
-                       .headingsAloneOnRestart = true};
+const MetricView<clsRACStatistics> kView{
+    .headings = {"START VALUE", "END VALUE"},
+    .rows = {{.label = "Number of Instances:",
+              .member = "getNUMBER_OF_INSTANCES",
+              .cells = {{"START VALUE", F::START_NUMBER_OF_INSTANCES, Kind::Level},
+                        {"END VALUE", F::END_NUMBER_OF_INSTANCES, Kind::Level}}}},
+    .headingsAloneOnRestart = true};
 
 }  // namespace
 
-void gDispRACStatistics_All(Workspace& workspace, const std::string& version) {
-  clsRACStatistics object;
-  renderMetricAll(workspace, object, kView, version);
-}
-
-void gDispRACStatistics_Col(Workspace& workspace, const std::string& version, const ColRequest&) {
-  clsRACStatistics object;
-  renderMetricCol(workspace, object, kView, version, 1);
-}
+std::vector<ReleaseViews> racStatisticsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/cluster/clsRACStatistics.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispRACStatistics_All(Workspace& workspace, const std::string& version);
-void gDispRACStatistics_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> racStatisticsViews();
 
 }  // namespace kestrelix

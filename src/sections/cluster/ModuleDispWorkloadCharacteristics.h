@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/cluster/clsWorkloadCharacteristics.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispWorkloadCharacteristics_All(Workspace& workspace, const std::string& version);
-void gDispWorkloadCharacteristics_Col(Workspace& workspace, const std::string& version,
-                                      const ColRequest& request);
+std::vector<ReleaseViews> workloadCharacteristicsViews();
 
 }  // namespace kestrelix

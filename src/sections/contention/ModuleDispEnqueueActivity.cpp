@@ -1,42 +1,42 @@
 #include "sections/contention/ModuleDispEnqueueActivity.h"
 
-#include "report/GridRendering.h"
+#include "sections/contention/clsEnqueueactivity.h"
 
 namespace kestrelix {
 namespace {
 
-using E = clsEnqueueactivity;
+using F = clsEnqueueactivity::Field;
+using C = Column<clsEnqueueactivity>;
 
-const ViewColumn kWaitTime{"WAIT TIME(S)", &E::WT_TIME_SEC};
-const ViewColumn kAverage{"AVG WAIT TIME(MS)", &E::AV_WT_TIME_MS};
+const C kWaitTime{"WAIT TIME(S)", F::WT_TIME_SEC, Kind::Count, unit::seconds};
+const C kAverage{"AVG WAIT TIME(MS)", F::AV_WT_TIME_MS, Kind::Average, unit::milliseconds};
 
-std::vector<ViewColumn> columns(const std::string& type, const ViewColumn& last, const ViewColumn& veryLast) {
-  return {{type, &E::ENQUEUE_TYPE},
-          {"REQUESTS", &E::REQUESTS},
-          {"SUCCESS GETS", &E::SUCC_GETS},
-          {"FAILED GETS", &E::FAILED_GETS},
-          {"WAITS", &E::WAITS},
+std::vector<C> columns(const std::string& type, const C& last, const C& veryLast) {
+  return {{type, F::ENQUEUE_TYPE, Kind::Key},
+          {"REQUESTS", F::REQUESTS, Kind::Count},
+          {"SUCCESS GETS", F::SUCC_GETS, Kind::Count},
+          {"FAILED GETS", F::FAILED_GETS, Kind::Count},
+          {"WAITS", F::WAITS, Kind::Count},
           last,
           veryLast};
 }
 
-const ListView kView{columns("ENQUEUE TYPE (REQUEST REASON)", kWaitTime, kAverage)};
-/// For version 9 the All view has the average ahead of the total, the Col view behind it.
-const ListView kView9{.columns = columns("EQ", kAverage, kWaitTime),
-                      .colColumns = columns("EQ", kWaitTime, kAverage)};
+const ListView<clsEnqueueactivity> kView{
+    .all = "getENQUEUE_ACTIVITY_ALL",
+    .col = "getENQUEUE_ACTIVITY_COL",
+    .columns = columns("ENQUEUE TYPE (REQUEST REASON)", kWaitTime, kAverage),
+};
 
-const ListView& view(const std::string& version) { return version == "9" ? kView9 : kView; }
+/// For version 9 the All view has the average ahead of the total, the Col view behind it.
+const ListView<clsEnqueueactivity> kViewOf9{
+    .all = "getENQUEUE_ACTIVITY_ALL",
+    .col = "getENQUEUE_ACTIVITY_COL",
+    .columns = columns("EQ", kAverage, kWaitTime),
+    .colColumns = columns("EQ", kWaitTime, kAverage),
+};
 
 }  // namespace
 
-void gDispEnqueueActivity_All(Workspace& workspace, const std::string& version) {
-  clsEnqueueactivity object;
-  renderListAll(workspace, object, "getENQUEUE_ACTIVITY_ALL", view(version), version);
-}
-
-void gDispEnqueueActivity_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsEnqueueactivity object;
-  renderListCol(workspace, object, "getENQUEUE_ACTIVITY_COL", view(version), version, request.keys);
-}
+std::vector<ReleaseViews> enqueueActivityViews() { return {viewsOf(V9, kViewOf9), viewsOf(V10_11, kView)}; }
 
 }  // namespace kestrelix

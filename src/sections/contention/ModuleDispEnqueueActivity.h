@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/contention/clsEnqueueactivity.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispEnqueueActivity_All(Workspace& workspace, const std::string& version);
-void gDispEnqueueActivity_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> enqueueActivityViews();
 
 }  // namespace kestrelix

@@ -1,30 +1,26 @@
 #include "sections/contention/ModuleDispLatchActivity.h"
 
-#include "report/GridRendering.h"
+#include "sections/contention/clsLatchActivity.h"
 
 namespace kestrelix {
 namespace {
 
-using L = clsLatchActivity;
+using F = clsLatchActivity::Field;
 
-const ListView kView{{{"LATCH", &L::LATCH},
-                      {"GET REQUESTS", &L::GET_REQUESTS},
-                      {"PCT GET MISS", &L::PCT_GET_MISS},
-                      {"AVG SLPS MISS", &L::AVG_SLPS_MISS},
-                      {"WAIT TIME(S)", &L::WAIT_TIME_SEC},
-                      {"NOWAIT REQUESTS", &L::NOWAIT_REQUESTS},
-                      {"PCT NOWAIT MISS", &L::PCT_NOWAIT_MISS}}};
+const ListView<clsLatchActivity> kView{
+    .all = "getLATCH_ACTIVITY_ALL",
+    .col = "getLATCH_ACTIVITY_COL",
+    .columns = {{"LATCH", F::LATCH, Kind::Key},
+                {"GET REQUESTS", F::GET_REQUESTS, Kind::Count},
+                {"PCT GET MISS", F::PCT_GET_MISS, Kind::Share, unit::percent},
+                {"AVG SLPS MISS", F::AVG_SLPS_MISS, Kind::Ratio},
+                {"WAIT TIME(S)", F::WAIT_TIME_SEC, Kind::Count, unit::seconds},
+                {"NOWAIT REQUESTS", F::NOWAIT_REQUESTS, Kind::Count},
+                {"PCT NOWAIT MISS", F::PCT_NOWAIT_MISS, Kind::Share, unit::percent}},
+};
 
 }  // namespace
 
-void gDispLatchActivity_All(Workspace& workspace, const std::string& version) {
-  clsLatchActivity object;
-  renderListAll(workspace, object, "getLATCH_ACTIVITY_ALL", kView, version);
-}
-
-void gDispLatchActivity_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsLatchActivity object;
-  renderListCol(workspace, object, "getLATCH_ACTIVITY_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> latchActivityViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

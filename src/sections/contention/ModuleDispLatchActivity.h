@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/contention/clsLatchActivity.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispLatchActivity_All(Workspace& workspace, const std::string& version);
-void gDispLatchActivity_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> latchActivityViews();
 
 }  // namespace kestrelix

@@ -1,28 +1,24 @@
 #include "sections/contention/ModuleDispLatchMissSources.h"
 
-#include "report/GridRendering.h"
+#include "sections/contention/clsLatchMissSources.h"
 
 namespace kestrelix {
 namespace {
 
-using L = clsLatchMissSources;
+using F = clsLatchMissSources::Field;
 
-const ListView kView{{{"LATCH NAME", &L::LATCH_NAME},
-                      {"WHERE", &L::WHERE_FROM},
-                      {"NOWAIT MISSES", &L::NOWAIT_MISSES},
-                      {"SLEEPS", &L::SLEEPS},
-                      {"WAITER SLEEPS", &L::WAITER_SLEEPS}}};
+const ListView<clsLatchMissSources> kView{
+    .all = "getLATCH_MISS_SOURCES_ALL",
+    .col = "getLATCH_MISS_SOURCES_COL",
+    .columns = {{"LATCH NAME", F::LATCH_NAME, Kind::Key},
+                {"WHERE", F::WHERE_FROM, Kind::Key},
+                {"NOWAIT MISSES", F::NOWAIT_MISSES, Kind::Count},
+                {"SLEEPS", F::SLEEPS, Kind::Count},
+                {"WAITER SLEEPS", F::WAITER_SLEEPS, Kind::Count}},
+};
 
 }  // namespace
 
-void gDispLatchMissSources_All(Workspace& workspace, const std::string& version) {
-  clsLatchMissSources object;
-  renderListAll(workspace, object, "getLATCH_MISS_SOURCES_ALL", kView, version);
-}
-
-void gDispLatchMissSources_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsLatchMissSources object;
-  renderListCol(workspace, object, "getLATCH_MISS_SOURCES_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> latchMissSourcesViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/contention/clsLatchMissSources.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispLatchMissSources_All(Workspace& workspace, const std::string& version);
-void gDispLatchMissSources_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> latchMissSourcesViews();
 
 }  // namespace kestrelix

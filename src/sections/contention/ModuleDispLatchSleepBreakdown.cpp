@@ -1,29 +1,24 @@
 #include "sections/contention/ModuleDispLatchSleepBreakdown.h"
 
-#include "report/GridRendering.h"
+#include "sections/contention/clsLatchSleepBreakdown.h"
 
 namespace kestrelix {
 namespace {
 
-using L = clsLatchSleepBreakdown;
+using F = clsLatchSleepBreakdown::Field;
 
-const ListView kView{{{"LATCH NAME", &L::LATCH_NAME},
-                      {"GET REQUESTS", &L::GET_REQUESTS},
-                      {"MISSES", &L::MISSES},
-                      {"SLEEPS", &L::SLEEPS},
-                      {"SPIN GETS", &L::SPIN_GETS}}};
+const ListView<clsLatchSleepBreakdown> kView{
+    .all = "getLATCH_SLEEP_BREAKDOWN_ALL",
+    .col = "getLATCH_SLEEP_BREAKDOWN_COL",
+    .columns = {{"LATCH NAME", F::LATCH_NAME, Kind::Key},
+                {"GET REQUESTS", F::GET_REQUESTS, Kind::Count},
+                {"MISSES", F::MISSES, Kind::Count},
+                {"SLEEPS", F::SLEEPS, Kind::Count},
+                {"SPIN GETS", F::SPIN_GETS, Kind::Count}},
+};
 
 }  // namespace
 
-void gDispLatchSleepBreakdown_All(Workspace& workspace, const std::string& version) {
-  clsLatchSleepBreakdown object;
-  renderListAll(workspace, object, "getLATCH_SLEEP_BREAKDOWN_ALL", kView, version);
-}
-
-void gDispLatchSleepBreakdown_Col(Workspace& workspace, const std::string& version,
-                                  const ColRequest& request) {
-  clsLatchSleepBreakdown object;
-  renderListCol(workspace, object, "getLATCH_SLEEP_BREAKDOWN_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> latchSleepBreakdownViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/contention/clsLatchSleepBreakdown.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispLatchSleepBreakdown_All(Workspace& workspace, const std::string& version);
-void gDispLatchSleepBreakdown_Col(Workspace& workspace, const std::string& version,
-                                  const ColRequest& request);
+std::vector<ReleaseViews> latchSleepBreakdownViews();
 
 }  // namespace kestrelix

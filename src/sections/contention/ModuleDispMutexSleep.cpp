@@ -1,30 +1,28 @@
 #include "sections/contention/ModuleDispMutexSleep.h"
 
-#include "report/GridRendering.h"
+#include "sections/contention/clsMutexSleep.h"
 
 namespace kestrelix {
 namespace {
 
-using M = clsMutexSleep;
-
-const ListView kView{{{"MUTEX TYPE", &M::MUTEX_TYPE},
-                      {"LOCATION", &M::LOCATION},
-                      {"SLEEPS", &M::SLEEPS},
-                      {"WAIT TIME(S)", &M::WAIT_TIME_SEC}}};
+using F = clsMutexSleep::Field;
 
 /// The key of a series is the beginning of a type's name, as a pattern.
-std::string beginningWith(const std::string& type) { return type + "%"; }
+std::vector<std::string> beginningWith(const std::vector<std::string>& keys) { return {keys.at(0) + "%"}; }
+
+const ListView<clsMutexSleep> kView{
+    .all = "getMUTEX_SLEEP_ALL",
+    .col = "getMUTEX_SLEEP_COL",
+    .columns = {{"MUTEX TYPE", F::MUTEX_TYPE, Kind::Key},
+                {"LOCATION", F::LOCATION, Kind::Key},
+                {"SLEEPS", F::SLEEPS, Kind::Count},
+                {"WAIT TIME(S)", F::WAIT_TIME_SEC, Kind::Count, unit::seconds}},
+    .allArguments = {"%"},
+    .colArguments = beginningWith,
+};
 
 }  // namespace
 
-void gDispMutexSleep_All(Workspace& workspace, const std::string& version) {
-  clsMutexSleep object;
-  renderListAll(workspace, object, "getMUTEX_SLEEP_ALL", kView, version, {beginningWith("")});
-}
-
-void gDispMutexSleep_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsMutexSleep object;
-  renderListCol(workspace, object, "getMUTEX_SLEEP_COL", kView, version, {beginningWith(request.keys.at(0))});
-}
+std::vector<ReleaseViews> mutexSleepViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

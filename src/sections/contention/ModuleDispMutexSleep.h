@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/contention/clsMutexSleep.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispMutexSleep_All(Workspace& workspace, const std::string& version);
-void gDispMutexSleep_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> mutexSleepViews();
 
 }  // namespace kestrelix

@@ -1,31 +1,27 @@
 #include "sections/contention/ModuleDispRollbackSegmentStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/contention/clsRollbackSegmentStats.h"
 
 namespace kestrelix {
 namespace {
 
-using R = clsRollbackSegmentStats;
+using F = clsRollbackSegmentStats::Field;
 
-const ListView kView{{{"RBS NO", &R::USN},
-                      {"TRANS TABLE GETS", &R::GETS},
-                      {"PCT WAITS", &R::WAITS},
-                      {"UNDO BYTES WRITTEN", &R::WRITES},
-                      {"WRAPS", &R::WRAPS},
-                      {"SHRINKS", &R::SHRINKS},
-                      {"EXTENDS", &R::EXTENDS}}};
+const ListView<clsRollbackSegmentStats> kView{
+    .all = "getROLLBACK_SEGMENT_STATS_ALL",
+    .col = "getROLLBACK_SEGMENT_STATS_COL",
+    .columns = {{"RBS NO", F::USN, Kind::Key, unit::number},
+                {"TRANS TABLE GETS", F::GETS, Kind::Count},
+                {"PCT WAITS", F::WAITS, Kind::Share, unit::percent},
+                {"UNDO BYTES WRITTEN", F::WRITES, Kind::Count, unit::bytes},
+                {"WRAPS", F::WRAPS, Kind::Count},
+                {"SHRINKS", F::SHRINKS, Kind::Count},
+                {"EXTENDS", F::EXTENDS, Kind::Count}},
+    .allArguments = {"0"},
+};
 
 }  // namespace
 
-void gDispRollbackSegmentStats_All(Workspace& workspace, const std::string& version) {
-  clsRollbackSegmentStats object;
-  renderListAll(workspace, object, "getROLLBACK_SEGMENT_STATS_ALL", kView, version, {"0"});
-}
-
-void gDispRollbackSegmentStats_Col(Workspace& workspace, const std::string& version,
-                                   const ColRequest& request) {
-  clsRollbackSegmentStats object;
-  renderListCol(workspace, object, "getROLLBACK_SEGMENT_STATS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> rollbackSegmentStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

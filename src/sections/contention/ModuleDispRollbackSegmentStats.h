@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/contention/clsRollbackSegmentStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispRollbackSegmentStats_All(Workspace& workspace, const std::string& version);
-void gDispRollbackSegmentStats_Col(Workspace& workspace, const std::string& version,
-                                   const ColRequest& request);
+std::vector<ReleaseViews> rollbackSegmentStatsViews();
 
 }  // namespace kestrelix

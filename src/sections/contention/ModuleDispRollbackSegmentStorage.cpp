@@ -1,29 +1,25 @@
 #include "sections/contention/ModuleDispRollbackSegmentStorage.h"
 
-#include "report/GridRendering.h"
+#include "sections/contention/clsRollbackSegmentStorage.h"
 
 namespace kestrelix {
 namespace {
 
-using R = clsRollbackSegmentStorage;
+using F = clsRollbackSegmentStorage::Field;
 
-const ListView kView{{{"RBS NO", &R::USN},
-                      {"SEGMENT SIZE", &R::RSSIZE},
-                      {"AVG ACTIVE", &R::ACTIVE},
-                      {"OPTIMAL SIZE", &R::OPTSIZE},
-                      {"MAXIMUM SIZE", &R::HWMSIZE}}};
+const ListView<clsRollbackSegmentStorage> kView{
+    .all = "getROLLBACK_SEGMENT_STORAGE_ALL",
+    .col = "getROLLBACK_SEGMENT_STORAGE_COL",
+    .columns = {{"RBS NO", F::USN, Kind::Key, unit::number},
+                {"SEGMENT SIZE", F::RSSIZE, Kind::Level, unit::bytes},
+                {"AVG ACTIVE", F::ACTIVE, Kind::Level, unit::bytes},
+                {"OPTIMAL SIZE", F::OPTSIZE, Kind::Level, unit::bytes},
+                {"MAXIMUM SIZE", F::HWMSIZE, Kind::Level, unit::bytes}},
+    .allArguments = {"0"},
+};
 
 }  // namespace
 
-void gDispRollbackSegmentStorage_All(Workspace& workspace, const std::string& version) {
-  clsRollbackSegmentStorage object;
-  renderListAll(workspace, object, "getROLLBACK_SEGMENT_STORAGE_ALL", kView, version, {"0"});
-}
-
-void gDispRollbackSegmentStorage_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request) {
-  clsRollbackSegmentStorage object;
-  renderListCol(workspace, object, "getROLLBACK_SEGMENT_STORAGE_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> rollbackSegmentStorageViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/contention/clsRollbackSegmentStorage.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispRollbackSegmentStorage_All(Workspace& workspace, const std::string& version);
-void gDispRollbackSegmentStorage_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request);
+std::vector<ReleaseViews> rollbackSegmentStorageViews();
 
 }  // namespace kestrelix

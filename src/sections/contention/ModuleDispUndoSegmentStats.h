@@ -1,10 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/contention/clsUndoSegmentStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispUndoSegmentStats_All(Workspace& workspace, const std::string& version);
+std::vector<ReleaseViews> undoSegmentStatsViews();
 
 }  // namespace kestrelix

@@ -1,45 +1,45 @@
 #include "sections/contention/ModuleDispUndoSegmentSummary.h"
 
-#include "report/GridRendering.h"
+#include "sections/contention/clsUndoSegmentSummary.h"
 
 namespace kestrelix {
 namespace {
 
-using U = clsUndoSegmentSummary;
+using F = clsUndoSegmentSummary::Field;
 
-/// There is no key column: "END TIME" stands right behind "NO".
-const ListView kView{.columns = {{"UNDO TS#", &U::UNDO_TS},
-                                 {"NUM UNDO BLOCKS(K)", &U::NUM_UNDO_BLOCKS_K},
-                                 {"NUMBER OF TRANSACTIONS", &U::NUMBER_OF_TRANSACTIONS},
-                                 {"MAX QRY LEN(S)", &U::MAX_QRY_LEN_SEC},
-                                 {"MAX TX CONCY", &U::MAX_TX_CONCY},
-                                 {"MIN/MAX TR(MINS)", &U::MIN_MAX_TR_MINS},
-                                 {"STO/OOS", &U::STO_OOS},
-                                 {"US/UR/UU/ES/ER/EU", &U::US_UR_UU_ES_ER_EU}},
-                     .keys = 0};
+/// No cell is a key of the series: "END TIME" stands right behind "NO".
+const ListView<clsUndoSegmentSummary> kView{
+    .all = "getUNDO_SEGMENT_SUMMARY_ALL",
+    .col = "getUNDO_SEGMENT_SUMMARY_COL",
+    .columns = {{"UNDO TS#", F::UNDO_TS, Kind::Key, unit::number},
+                {"NUM UNDO BLOCKS(K)", F::NUM_UNDO_BLOCKS_K, Kind::Count, unit::thousands},
+                {"NUMBER OF TRANSACTIONS", F::NUMBER_OF_TRANSACTIONS, Kind::Count},
+                {"MAX QRY LEN(S)", F::MAX_QRY_LEN_SEC, Kind::Level, unit::seconds},
+                {"MAX TX CONCY", F::MAX_TX_CONCY, Kind::Level},
+                {"MIN/MAX TR(MINS)", F::MIN_MAX_TR_MINS, Kind::Text},
+                {"STO/OOS", F::STO_OOS, Kind::Text},
+                {"US/UR/UU/ES/ER/EU", F::US_UR_UU_ES_ER_EU, Kind::Text}},
+    .keys = 0,
+};
 
-const ListView kView9{.columns = {{"UNDO TS#", &U::UNDOTSN},
-                                  {"UNDO BLOCKS", &U::UNDOOB},
-                                  {"NUM TRANS", &U::TXCNT},
-                                  {"MAX QRY LEN(S)", &U::MAXQ},
-                                  {"MAX TX CONCURCY", &U::MAXC},
-                                  {"SNAPSHOT TOO OLD", &U::SNOL},
-                                  {"OUT OF SPACE", &U::NOSP},
-                                  {"US/UR/UU/ES/ER/EU", &U::BLKST}},
-                      .keys = 0};
-
-const ListView& view(const std::string& version) { return version == "9" ? kView9 : kView; }
+const ListView<clsUndoSegmentSummary> kViewOf9{
+    .all = "getUNDO_SEGMENT_SUMMARY_ALL",
+    .col = "getUNDO_SEGMENT_SUMMARY_COL",
+    .columns = {{"UNDO TS#", F::UNDOTSN, Kind::Key, unit::number},
+                {"UNDO BLOCKS", F::UNDOOB, Kind::Count, unit::blocks},
+                {"NUM TRANS", F::TXCNT, Kind::Count},
+                {"MAX QRY LEN(S)", F::MAXQ, Kind::Level, unit::seconds},
+                {"MAX TX CONCURCY", F::MAXC, Kind::Level},
+                {"SNAPSHOT TOO OLD", F::SNOL, Kind::Count},
+                {"OUT OF SPACE", F::NOSP, Kind::Count},
+                {"US/UR/UU/ES/ER/EU", F::BLKST, Kind::Text}},
+    .keys = 0,
+};
 
 }  // namespace
 
-void gDispUndoSegmentSummary_All(Workspace& workspace, const std::string& version) {
-  clsUndoSegmentSummary object;
-  renderListAll(workspace, object, "getUNDO_SEGMENT_SUMMARY_ALL", view(version), version);
-}
-
-void gDispUndoSegmentSummary_Col(Workspace& workspace, const std::string& version, const ColRequest&) {
-  clsUndoSegmentSummary object;
-  renderListCol(workspace, object, "getUNDO_SEGMENT_SUMMARY_COL", view(version), version, {});
+std::vector<ReleaseViews> undoSegmentSummaryViews() {
+  return {viewsOf(V9, kViewOf9), viewsOf(V10_11, kView)};
 }
 
 }  // namespace kestrelix

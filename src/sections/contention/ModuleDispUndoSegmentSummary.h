@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/contention/clsUndoSegmentSummary.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispUndoSegmentSummary_All(Workspace& workspace, const std::string& version);
-void gDispUndoSegmentSummary_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> undoSegmentSummaryViews();
 
 }  // namespace kestrelix

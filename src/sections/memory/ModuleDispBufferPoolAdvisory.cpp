@@ -1,42 +1,43 @@
 #include "sections/memory/ModuleDispBufferPoolAdvisory.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsBufferPoolAdvisory.h"
 
 namespace kestrelix {
 namespace {
 
-using B = clsBufferPoolAdvisory;
+using F = clsBufferPoolAdvisory::Field;
 
-const ListView kView{{{"POOL", &B::POOL},
-                      {"SIZE FOR EST(MB)", &B::SIZE_FOR_EST_MB},
-                      {"SIZE FACTR", &B::SIZE_FACTR},
-                      {"BUFFER(THOUSANDS)", &B::BUFFER_THOUSANDS},
-                      {"EST PHYS READ FACTR", &B::EST_PHYS_READ_FACTR},
-                      {"ESTIMATED PHYS READS(THOUSANDS)", &B::ESTIMATED_PHYS_READS_THOUSANDS},
-                      {"EST PHYS READ TIME", &B::EST_PHYS_READ_TIME},
-                      {"EST %DBTIME FOR READS", &B::EST_PAR_DB_TIME_FOR_READS}},
-                     3};
-const ListView kViewOf9{{{"POOL", &B::POOL},
-                         {"SIZE FOR ESTIMATE(M)", &B::SIZE_FOR_EST_MB},
-                         {"SIZE FACTR", &B::SIZE_FACTR},
-                         {"BUFFERS FOR ESTIMATE", &B::BUFFER_THOUSANDS},
-                         {"EST PHYSICAL READ FACTOR", &B::EST_PHYS_READ_FACTR},
-                         {"ESTIMATED PHYSICAL READS", &B::ESTIMATED_PHYS_READS_THOUSANDS}},
-                        3};
+const ListView<clsBufferPoolAdvisory> kView{
+    .all = "getBUFFER_POOL_ADVISORY_ALL",
+    .col = "getBUFFER_POOL_ADVISORY_COL",
+    .columns = {{"POOL", F::POOL, Kind::Key},
+                {"SIZE FOR EST(MB)", F::SIZE_FOR_EST_MB, Kind::Key, unit::number},
+                {"SIZE FACTR", F::SIZE_FACTR, Kind::Key, unit::number},
+                {"BUFFER(THOUSANDS)", F::BUFFER_THOUSANDS, Kind::Level, unit::thousands},
+                {"EST PHYS READ FACTR", F::EST_PHYS_READ_FACTR, Kind::Level},
+                {"ESTIMATED PHYS READS(THOUSANDS)", F::ESTIMATED_PHYS_READS_THOUSANDS, Kind::Level,
+                 unit::thousands},
+                {"EST PHYS READ TIME", F::EST_PHYS_READ_TIME, Kind::Level, unit::seconds},
+                {"EST %DBTIME FOR READS", F::EST_PAR_DB_TIME_FOR_READS, Kind::Share, unit::percent}},
+    .keys = 3,
+};
 
-const ListView& view(const std::string& version) { return versionOf(version) == V9 ? kViewOf9 : kView; }
+const ListView<clsBufferPoolAdvisory> kViewOf9{
+    .all = "getBUFFER_POOL_ADVISORY_ALL",
+    .col = "getBUFFER_POOL_ADVISORY_COL",
+    .columns = {{"POOL", F::POOL, Kind::Key},
+                {"SIZE FOR ESTIMATE(M)", F::SIZE_FOR_EST_MB, Kind::Key, unit::number},
+                {"SIZE FACTR", F::SIZE_FACTR, Kind::Key, unit::number},
+                {"BUFFERS FOR ESTIMATE", F::BUFFER_THOUSANDS, Kind::Level},
+                {"EST PHYSICAL READ FACTOR", F::EST_PHYS_READ_FACTR, Kind::Level},
+                {"ESTIMATED PHYSICAL READS", F::ESTIMATED_PHYS_READS_THOUSANDS, Kind::Level}},
+    .keys = 3,
+};
 
 }  // namespace
 
-void gDispBufferPoolAdvisory_All(Workspace& workspace, const std::string& version) {
-  clsBufferPoolAdvisory object;
-  renderListAll(workspace, object, "getBUFFER_POOL_ADVISORY_ALL", view(version), version);
-}
-
-void gDispBufferPoolAdvisory_Col(Workspace& workspace, const std::string& version,
-                                 const ColRequest& request) {
-  clsBufferPoolAdvisory object;
-  renderListCol(workspace, object, "getBUFFER_POOL_ADVISORY_COL", view(version), version, request.keys);
+std::vector<ReleaseViews> bufferPoolAdvisoryViews() {
+  return {viewsOf(V9, kViewOf9), viewsOf(V10_11, kView)};
 }
 
 }  // namespace kestrelix

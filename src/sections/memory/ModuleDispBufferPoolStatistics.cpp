@@ -1,33 +1,28 @@
 #include "sections/memory/ModuleDispBufferPoolStatistics.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsBufferPoolStatistics.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsBufferPoolStatistics;
+using F = clsBufferPoolStatistics::Field;
 
-const ListView kView{{{"POOL NAME", &A::NAME},
-                      {"BUFFERS", &A::BUFFERS},
-                      {"POOL HIT%", &A::POOL_HIT},
-                      {"BUFFER GETS", &A::BUFFER_GETS},
-                      {"PHYSICAL READS", &A::PHYSICAL_READS},
-                      {"PHYSICAL WRITES", &A::PHYSICAL_WRITE},
-                      {"FREE BUFFER WAITS", &A::FREE_BUFFER_WAITS},
-                      {"WRITE COMPLETE WAITT", &A::WRITE_COMPLETE_WAIT},
-                      {"BUFFER BUSY WAITS", &A::BUFFER_BUSY_WAITS}}};
+const ListView<clsBufferPoolStatistics> kView{
+    .all = "getBUFFER_POOL_STATISTICS_ALL",
+    .col = "getBUFFER_POOL_STATISTICS_COL",
+    .columns = {{"POOL NAME", F::NAME, Kind::Key},
+                {"BUFFERS", F::BUFFERS, Kind::Level},
+                {"POOL HIT%", F::POOL_HIT, Kind::Share, unit::percent},
+                {"BUFFER GETS", F::BUFFER_GETS, Kind::Count, unit::blocks},
+                {"PHYSICAL READS", F::PHYSICAL_READS, Kind::Count, unit::blocks},
+                {"PHYSICAL WRITES", F::PHYSICAL_WRITE, Kind::Count, unit::blocks},
+                {"FREE BUFFER WAITS", F::FREE_BUFFER_WAITS, Kind::Count},
+                {"WRITE COMPLETE WAITT", F::WRITE_COMPLETE_WAIT, Kind::Count},
+                {"BUFFER BUSY WAITS", F::BUFFER_BUSY_WAITS, Kind::Count}},
+};
 
 }  // namespace
 
-void gDispBufferPoolStatistics_All(Workspace& workspace, const std::string& version) {
-  clsBufferPoolStatistics object;
-  renderListAll(workspace, object, "getBUFFER_POOL_STATISTICS_ALL", kView, version);
-}
-
-void gDispBufferPoolStatistics_Col(Workspace& workspace, const std::string& version,
-                                   const ColRequest& request) {
-  clsBufferPoolStatistics object;
-  renderListCol(workspace, object, "getBUFFER_POOL_STATISTICS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> bufferPoolStatisticsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

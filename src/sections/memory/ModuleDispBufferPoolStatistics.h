@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsBufferPoolStatistics.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispBufferPoolStatistics_All(Workspace& workspace, const std::string& version);
-void gDispBufferPoolStatistics_Col(Workspace& workspace, const std::string& version,
-                                   const ColRequest& request);
+std::vector<ReleaseViews> bufferPoolStatisticsViews();
 
 }  // namespace kestrelix

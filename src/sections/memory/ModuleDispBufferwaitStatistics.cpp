@@ -1,28 +1,23 @@
 #include "sections/memory/ModuleDispBufferwaitStatistics.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsBufferwaitStatistics.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsBufferwaitStatistics;
+using F = clsBufferwaitStatistics::Field;
 
-const ListView kView{{{"CLASS", &A::CLASSNAME},
-                      {"WAITS", &A::ICNT},
-                      {"TOTAL WAIT TIME(S)", &A::ITIM},
-                      {"AVG TIME(MS)", &A::IAVG}}};
+const ListView<clsBufferwaitStatistics> kView{
+    .all = "getBUFFER_WAIT_STATISTICS_ALL",
+    .col = "getBUFFER_WAIT_STATISTICS_COL",
+    .columns = {{"CLASS", F::CLASSNAME, Kind::Key},
+                {"WAITS", F::ICNT, Kind::Count},
+                {"TOTAL WAIT TIME(S)", F::ITIM, Kind::Count, unit::seconds},
+                {"AVG TIME(MS)", F::IAVG, Kind::Average, unit::milliseconds}},
+};
 
 }  // namespace
 
-void gDispBufferwaitStatistics_All(Workspace& workspace, const std::string& version) {
-  clsBufferwaitStatistics object;
-  renderListAll(workspace, object, "getBUFFER_WAIT_STATISTICS_ALL", kView, version);
-}
-
-void gDispBufferwaitStatistics_Col(Workspace& workspace, const std::string& version,
-                                   const ColRequest& request) {
-  clsBufferwaitStatistics object;
-  renderListCol(workspace, object, "getBUFFER_WAIT_STATISTICS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> bufferwaitStatisticsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsBufferwaitStatistics.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispBufferwaitStatistics_All(Workspace& workspace, const std::string& version);
-void gDispBufferwaitStatistics_Col(Workspace& workspace, const std::string& version,
-                                   const ColRequest& request);
+std::vector<ReleaseViews> bufferwaitStatisticsViews();
 
 }  // namespace kestrelix

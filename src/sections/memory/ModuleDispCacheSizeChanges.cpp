@@ -1,27 +1,23 @@
 #include "sections/memory/ModuleDispCacheSizeChanges.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsCacheSizeChanges.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsCacheSizeChanges;
+using F = clsCacheSizeChanges::Field;
 
-const ListView kView{{{"CACHE", &A::CACHE},
-                      {"START SIZE(MB)", &A::START_SIZE_MB},
-                      {"END SIZE(MB)", &A::END_SIZE_MB},
-                      {"DIFF SIZE(MB)", &A::DIFF_SIZE_MB}}};
+const ListView<clsCacheSizeChanges> kView{
+    .all = "getCACHE_SIZE_CHANGES_ALL",
+    .col = "getCACHE_SIZE_CHANGES_COL",
+    .columns = {{"CACHE", F::CACHE, Kind::Key},
+                {"START SIZE(MB)", F::START_SIZE_MB, Kind::Level, unit::megabytes},
+                {"END SIZE(MB)", F::END_SIZE_MB, Kind::Level, unit::megabytes},
+                {"DIFF SIZE(MB)", F::DIFF_SIZE_MB, Kind::Count, unit::megabytes}},
+};
 
 }  // namespace
 
-void gDispCacheSizeChanges_All(Workspace& workspace, const std::string& version) {
-  clsCacheSizeChanges object;
-  renderListAll(workspace, object, "getCACHE_SIZE_CHANGES_ALL", kView, version);
-}
-
-void gDispCacheSizeChanges_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsCacheSizeChanges object;
-  renderListCol(workspace, object, "getCACHE_SIZE_CHANGES_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> cacheSizeChangesViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsCacheSizeChanges.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispCacheSizeChanges_All(Workspace& workspace, const std::string& version);
-void gDispCacheSizeChanges_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> cacheSizeChangesViews();
 
 }  // namespace kestrelix

@@ -1,41 +1,29 @@
 #include "sections/memory/ModuleDispInstanceRecoveryStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsInstanceRecoveryStats.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsInstanceRecoveryStats;
+using F = clsInstanceRecoveryStats::Field;
 
-const ListView kView{{{"SNAP", &A::SNAP},
-                      {"TARGT MTTR(S)", &A::TARGT_MTTR_SEC},
-                      {"ESTD MTTR(S)", &A::ESTD_MTTR_SEC},
-                      {"RECOVERY ESTD IOS", &A::RECOVERY_ESTD_IOS},
-                      {"ACTUAL REDO BLKS", &A::ACTUAL_REDO_BLKS},
-                      {"TARGET REDO BLKS", &A::TARGET_REDO_BLKS},
-                      {"LOG FILE SIZE_REDO BLKS", &A::LOG_FILE_SIZE_REDO_BLKS},
-                      {"LOG CKPT TIMEOUT REDO BLKS", &A::LOG_CKPT_TIMEOUT_REDO_BLKS},
-                      {"LOG CKPT INTERVAL REDO BLKS", &A::LOG_CKPT_INTERVAL_REDO_BLKS}}};
+const ListView<clsInstanceRecoveryStats> kView{
+    .all = "getINSTANCE_RECOVERY_STATS_ALL",
+    .col = "getINSTANCE_RECOVERY_STATS_COL",
+    .columns = {{"SNAP", F::SNAP, Kind::Key},
+                {"TARGT MTTR(S)", F::TARGT_MTTR_SEC, Kind::Level, unit::seconds},
+                {"ESTD MTTR(S)", F::ESTD_MTTR_SEC, Kind::Level, unit::seconds},
+                {"RECOVERY ESTD IOS", F::RECOVERY_ESTD_IOS, Kind::Level},
+                {"ACTUAL REDO BLKS", F::ACTUAL_REDO_BLKS, Kind::Level, unit::blocks},
+                {"TARGET REDO BLKS", F::TARGET_REDO_BLKS, Kind::Level, unit::blocks},
+                {"LOG FILE SIZE_REDO BLKS", F::LOG_FILE_SIZE_REDO_BLKS, Kind::Level, unit::blocks},
+                {"LOG CKPT TIMEOUT REDO BLKS", F::LOG_CKPT_TIMEOUT_REDO_BLKS, Kind::Level, unit::blocks},
+                {"LOG CKPT INTERVAL REDO BLKS", F::LOG_CKPT_INTERVAL_REDO_BLKS, Kind::Level, unit::blocks}},
+    .ofPairs = OfPairs::SnapshotOfRow,
+};
 
 }  // namespace
 
-void gDispInstanceRecoveryStats_All(Workspace& workspace, const std::string& version) {
-  clsInstanceRecoveryStats object;
-  renderListAll(workspace, object, "getINSTANCE_RECOVERY_STATS_ALL", kView, version);
-}
-
-void gDispInstanceRecoveryStats_ColBegin(Workspace& workspace, const std::string& version,
-                                         const ColRequest& request) {
-  clsInstanceRecoveryStats object;
-  renderListCol(workspace, object, "getINSTANCE_RECOVERY_STATS_COL", kView.with(OfPairs::StartTime), version,
-                request.keys);
-}
-
-void gDispInstanceRecoveryStats_ColEnd(Workspace& workspace, const std::string& version,
-                                       const ColRequest& request) {
-  clsInstanceRecoveryStats object;
-  renderListCol(workspace, object, "getINSTANCE_RECOVERY_STATS_COL", kView.with(OfPairs::EndTime), version,
-                request.keys);
-}
+std::vector<ReleaseViews> instanceRecoveryStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

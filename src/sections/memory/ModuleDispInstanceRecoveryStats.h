@@ -1,14 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsInstanceRecoveryStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispInstanceRecoveryStats_All(Workspace& workspace, const std::string& version);
-void gDispInstanceRecoveryStats_ColBegin(Workspace& workspace, const std::string& version,
-                                         const ColRequest& request);
-void gDispInstanceRecoveryStats_ColEnd(Workspace& workspace, const std::string& version,
-                                       const ColRequest& request);
+std::vector<ReleaseViews> instanceRecoveryStatsViews();
 
 }  // namespace kestrelix

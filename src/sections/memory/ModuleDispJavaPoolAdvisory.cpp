@@ -1,33 +1,29 @@
 #include "sections/memory/ModuleDispJavaPoolAdvisory.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsJavaPoolAdvisory.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsJavaPoolAdvisory;
+using F = clsJavaPoolAdvisory::Field;
 
-const ListView kView{{{"JAVA POOL SIZE(MB)", &A::JAVA_POOL_SIZE_MB},
-                      {"JP SIZE FACTR", &A::JP_SIZE_FACTR},
-                      {"EST LC SIZE(MB)", &A::EST_LC_SIZE_MB},
-                      {"EST LC MEM OBJ", &A::EST_LC_MEM_OBJ},
-                      {"EST LC TIME SAVED(S)", &A::EST_LC_TIME_SAVED_SEC},
-                      {"EST LC TIME SAVED FACTR", &A::EST_LC_TIME_SAVED_FACTR},
-                      {"EST LC LOAD TIME(S)", &A::EST_LC_LOAD_TIME_SEC},
-                      {"EST LC LOAD TIME FACTR", &A::EST_LC_LOAD_TIME_FACTR},
-                      {"EST LC MEM OBJ HITS", &A::EST_LC_MEM_OBJ_HITS}},
-                     2};
+const ListView<clsJavaPoolAdvisory> kView{
+    .all = "getJAVA_POOL_ADVISORY_ALL",
+    .col = "getJAVA_POOL_ADVISORY_COL",
+    .columns = {{"JAVA POOL SIZE(MB)", F::JAVA_POOL_SIZE_MB, Kind::Key, unit::number},
+                {"JP SIZE FACTR", F::JP_SIZE_FACTR, Kind::Key, unit::number},
+                {"EST LC SIZE(MB)", F::EST_LC_SIZE_MB, Kind::Level, unit::megabytes},
+                {"EST LC MEM OBJ", F::EST_LC_MEM_OBJ, Kind::Level},
+                {"EST LC TIME SAVED(S)", F::EST_LC_TIME_SAVED_SEC, Kind::Level, unit::seconds},
+                {"EST LC TIME SAVED FACTR", F::EST_LC_TIME_SAVED_FACTR, Kind::Level},
+                {"EST LC LOAD TIME(S)", F::EST_LC_LOAD_TIME_SEC, Kind::Level, unit::seconds},
+                {"EST LC LOAD TIME FACTR", F::EST_LC_LOAD_TIME_FACTR, Kind::Level},
+                {"EST LC MEM OBJ HITS", F::EST_LC_MEM_OBJ_HITS, Kind::Level}},
+    .keys = 2,
+};
 
 }  // namespace
 
-void gDispJavaPoolAdvisory_All(Workspace& workspace, const std::string& version) {
-  clsJavaPoolAdvisory object;
-  renderListAll(workspace, object, "getJAVA_POOL_ADVISORY_ALL", kView, version);
-}
-
-void gDispJavaPoolAdvisory_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsJavaPoolAdvisory object;
-  renderListCol(workspace, object, "getJAVA_POOL_ADVISORY_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> javaPoolAdvisoryViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

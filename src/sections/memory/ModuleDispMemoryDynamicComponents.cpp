@@ -1,30 +1,25 @@
 #include "sections/memory/ModuleDispMemoryDynamicComponents.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsMemoryDynamicComponents.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsMemoryDynamicComponents;
+using F = clsMemoryDynamicComponents::Field;
 
-const ListView kView{{{"CACHE", &A::COMP},
-                      {"START SNAP SIZE(M)", &A::BEG_SIZE},
-                      {"END SNAP SIZE(M)", &A::END_SIZE},
-                      {"OP COUNT", &A::OP_CNT},
-                      {"LAST OP TYPE/MODE", &A::LOMOD},
-                      {"LAST OP TIME", &A::LOTIM}}};
+const ListView<clsMemoryDynamicComponents> kView{
+    .all = "getMEMORY_DYNAMIC_COMPONENTS_ALL",
+    .col = "getMEMORY_DYNAMIC_COMPONENTS_COL",
+    .columns = {{"CACHE", F::COMP, Kind::Key},
+                {"START SNAP SIZE(M)", F::BEG_SIZE, Kind::Level, unit::megabytes},
+                {"END SNAP SIZE(M)", F::END_SIZE, Kind::Level, unit::megabytes},
+                {"OP COUNT", F::OP_CNT, Kind::Count},
+                {"LAST OP TYPE/MODE", F::LOMOD, Kind::Text},
+                {"LAST OP TIME", F::LOTIM, Kind::Time}},
+};
 
 }  // namespace
 
-void gDispMemoryDynamicComponents_All(Workspace& workspace, const std::string& version) {
-  clsMemoryDynamicComponents object;
-  renderListAll(workspace, object, "getMEMORY_DYNAMIC_COMPONENTS_ALL", kView, version);
-}
-
-void gDispMemoryDynamicComponents_Col(Workspace& workspace, const std::string& version,
-                                      const ColRequest& request) {
-  clsMemoryDynamicComponents object;
-  renderListCol(workspace, object, "getMEMORY_DYNAMIC_COMPONENTS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> memoryDynamicComponentsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsMemoryDynamicComponents.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispMemoryDynamicComponents_All(Workspace& workspace, const std::string& version);
-void gDispMemoryDynamicComponents_Col(Workspace& workspace, const std::string& version,
-                                      const ColRequest& request);
+std::vector<ReleaseViews> memoryDynamicComponentsViews();
 
 }  // namespace kestrelix

@@ -1,33 +1,28 @@
 #include "sections/memory/ModuleDispMemoryResizeOperations.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsMemoryResizeOperations.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsMemoryResizeOperations;
+using F = clsMemoryResizeOperations::Field;
 
-const ListView kView{{{"OPERATION TIME", &A::OP_ST_TM},
-                      {"ELAP(S)", &A::ELAPSD_S},
-                      {"CACHE", &A::COMP},
-                      {"INIT SIZE(M)", &A::INI_SZ},
-                      {"DELTA(M) & MODE", &A::OP_TM},
-                      {"FINAL SIZE(M)", &A::END_SZ},
-                      {"STATUS", &A::stat},
-                      {"NUM OPS", &A::NUM_OPS}},
-                     3};
+const ListView<clsMemoryResizeOperations> kView{
+    .all = "getMEMORY_RESIZE_OPERATIONS_ALL",
+    .col = "getMEMORY_RESIZE_OPERATIONS_COL",
+    .columns = {{"OPERATION TIME", F::OP_ST_TM, Kind::Time},
+                {"ELAP(S)", F::ELAPSD_S, Kind::Count, unit::seconds},
+                {"CACHE", F::COMP, Kind::Key},
+                {"INIT SIZE(M)", F::INI_SZ, Kind::Level, unit::megabytes},
+                {"DELTA(M) & MODE", F::OP_TM, Kind::Text},
+                {"FINAL SIZE(M)", F::END_SZ, Kind::Level, unit::megabytes},
+                {"STATUS", F::stat, Kind::Text},
+                {"NUM OPS", F::NUM_OPS, Kind::Count}},
+    .keys = 3,
+};
 
 }  // namespace
 
-void gDispMemoryResizeOperations_All(Workspace& workspace, const std::string& version) {
-  clsMemoryResizeOperations object;
-  renderListAll(workspace, object, "getMEMORY_RESIZE_OPERATIONS_ALL", kView, version);
-}
-
-void gDispMemoryResizeOperations_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request) {
-  clsMemoryResizeOperations object;
-  renderListCol(workspace, object, "getMEMORY_RESIZE_OPERATIONS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> memoryResizeOperationsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsMemoryResizeOperations.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispMemoryResizeOperations_All(Workspace& workspace, const std::string& version);
-void gDispMemoryResizeOperations_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request);
+std::vector<ReleaseViews> memoryResizeOperationsViews();
 
 }  // namespace kestrelix

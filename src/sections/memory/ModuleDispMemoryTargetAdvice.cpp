@@ -1,29 +1,24 @@
 #include "sections/memory/ModuleDispMemoryTargetAdvice.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsMemoryTargetAdvice.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsMemoryTargetAdvice;
+using F = clsMemoryTargetAdvice::Field;
 
-const ListView kView{{{"MEMORY SIZE(M)", &A::MS},
-                      {"MEMORY SIZE FACTOR", &A::MSF},
-                      {"EST.DB TIME(S)", &A::EDBT},
-                      {"ADVICE RESET", &A::AV}},
-                     2};
+const ListView<clsMemoryTargetAdvice> kView{
+    .all = "getMEMORY_TARGET_ADVICE_ALL",
+    .col = "getMEMORY_TARGET_ADVICE_COL",
+    .columns = {{"MEMORY SIZE(M)", F::MS, Kind::Key, unit::number},
+                {"MEMORY SIZE FACTOR", F::MSF, Kind::Key, unit::number},
+                {"EST.DB TIME(S)", F::EDBT, Kind::Count, unit::seconds},
+                {"ADVICE RESET", F::AV, Kind::Text}},
+    .keys = 2,
+};
 
 }  // namespace
 
-void gDispMemoryTargetAdvice_All(Workspace& workspace, const std::string& version) {
-  clsMemoryTargetAdvice object;
-  renderListAll(workspace, object, "getMEMORY_TARGET_ADVICE_ALL", kView, version);
-}
-
-void gDispMemoryTargetAdvice_Col(Workspace& workspace, const std::string& version,
-                                 const ColRequest& request) {
-  clsMemoryTargetAdvice object;
-  renderListCol(workspace, object, "getMEMORY_TARGET_ADVICE_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> memoryTargetAdviceViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsMemoryTargetAdvice.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispMemoryTargetAdvice_All(Workspace& workspace, const std::string& version);
-void gDispMemoryTargetAdvice_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> memoryTargetAdviceViews();
 
 }  // namespace kestrelix

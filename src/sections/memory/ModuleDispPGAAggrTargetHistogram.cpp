@@ -1,31 +1,26 @@
 #include "sections/memory/ModuleDispPGAAggrTargetHistogram.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsPGAAggrTargetHistogram.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsPGAAggrTargetHistogram;
+using F = clsPGAAggrTargetHistogram::Field;
 
-const ListView kView{{{"LOW OPTIMAL", &A::LOW_OPTIMAL},
-                      {"HIGH OPTIMAL", &A::HIGH_OPTIMAL},
-                      {"TOTAL EXECS", &A::TOTAL_EXECS},
-                      {"OPTIMAL EXECS", &A::OPTIMAL_EXECS},
-                      {"1-PASS EXECS", &A::ONE_PASS_EXECS},
-                      {"M-PASS EXECS", &A::MULTI_PASS_EXECS}},
-                     2};
+const ListView<clsPGAAggrTargetHistogram> kView{
+    .all = "getPGA_AGGR_TARGET_HISTOGRAM_ALL",
+    .col = "getPGA_AGGR_TARGET_HISTOGRAM_COL",
+    .columns = {{"LOW OPTIMAL", F::LOW_OPTIMAL, Kind::Key},
+                {"HIGH OPTIMAL", F::HIGH_OPTIMAL, Kind::Key},
+                {"TOTAL EXECS", F::TOTAL_EXECS, Kind::Count},
+                {"OPTIMAL EXECS", F::OPTIMAL_EXECS, Kind::Count},
+                {"1-PASS EXECS", F::ONE_PASS_EXECS, Kind::Count},
+                {"M-PASS EXECS", F::MULTI_PASS_EXECS, Kind::Count}},
+    .keys = 2,
+};
 
 }  // namespace
 
-void gDispPGAAggrTargetHistogram_All(Workspace& workspace, const std::string& version) {
-  clsPGAAggrTargetHistogram object;
-  renderListAll(workspace, object, "getPGA_AGGR_TARGET_HISTOGRAM_ALL", kView, version);
-}
-
-void gDispPGAAggrTargetHistogram_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request) {
-  clsPGAAggrTargetHistogram object;
-  renderListCol(workspace, object, "getPGA_AGGR_TARGET_HISTOGRAM_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> pgaAggrTargetHistogramViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

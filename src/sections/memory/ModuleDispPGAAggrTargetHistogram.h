@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsPGAAggrTargetHistogram.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispPGAAggrTargetHistogram_All(Workspace& workspace, const std::string& version);
-void gDispPGAAggrTargetHistogram_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request);
+std::vector<ReleaseViews> pgaAggrTargetHistogramViews();
 
 }  // namespace kestrelix

@@ -1,17 +1,10 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsPGAAggrTargetStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispPGAAggrTargetStats1_All(Workspace& workspace, const std::string& version);
-void gDispPGAAggrTargetStats1_Col(Workspace& workspace, const std::string& version,
-                                  const ColRequest& request);
-void gDispPGAAggrTargetStats2_All(Workspace& workspace, const std::string& version);
-void gDispPGAAggrTargetStats2_ColBegin(Workspace& workspace, const std::string& version,
-                                       const ColRequest& request);
-void gDispPGAAggrTargetStats2_ColEnd(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request);
+std::vector<ReleaseViews> pgaAggrTargetStats1Views();
+std::vector<ReleaseViews> pgaAggrTargetStats2Views();
 
 }  // namespace kestrelix

@@ -1,30 +1,27 @@
 #include "sections/memory/ModuleDispPGAMemoryAdvisory.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsPGAMemoryAdvisory.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsPGAMemoryAdvisory;
+using F = clsPGAMemoryAdvisory::Field;
 
-const ListView kView{{{"PGA TARGET EST(MB)", &A::PGA_TARGET_EST_MB},
-                      {"SIZE FACTR", &A::SIZE_FACTR},
-                      {"W/A MB PROCESSED", &A::W_A_MB_PROCESSED},
-                      {"ESTD EXTRA W/A MB READ/WRITTEN TO DISK", &A::W_A_MB_READ_WRITTEN_TO_DISK},
-                      {"ESTD PGA CACHE HIT%", &A::CACHE_HIT_PAR},
-                      {"ESTD PGA OVERALLOCK COUNT", &A::OVERALLOC_COUNT}},
-                     2};
+const ListView<clsPGAMemoryAdvisory> kView{
+    .all = "getPGA_MEMORY_ADVISORY_ALL",
+    .col = "getPGA_MEMORY_ADVISORY_COL",
+    .columns = {{"PGA TARGET EST(MB)", F::PGA_TARGET_EST_MB, Kind::Key, unit::number},
+                {"SIZE FACTR", F::SIZE_FACTR, Kind::Key, unit::number},
+                {"W/A MB PROCESSED", F::W_A_MB_PROCESSED, Kind::Level, unit::megabytes},
+                {"ESTD EXTRA W/A MB READ/WRITTEN TO DISK", F::W_A_MB_READ_WRITTEN_TO_DISK, Kind::Level,
+                 unit::megabytes},
+                {"ESTD PGA CACHE HIT%", F::CACHE_HIT_PAR, Kind::Share, unit::percent},
+                {"ESTD PGA OVERALLOCK COUNT", F::OVERALLOC_COUNT, Kind::Level}},
+    .keys = 2,
+};
 
 }  // namespace
 
-void gDispPGAMemoryAdvisory_All(Workspace& workspace, const std::string& version) {
-  clsPGAMemoryAdvisory object;
-  renderListAll(workspace, object, "getPGA_MEMORY_ADVISORY_ALL", kView, version);
-}
-
-void gDispPGAMemoryAdvisory_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsPGAMemoryAdvisory object;
-  renderListCol(workspace, object, "getPGA_MEMORY_ADVISORY_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> pgaMemoryAdvisoryViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

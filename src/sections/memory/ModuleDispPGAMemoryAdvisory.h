@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsPGAMemoryAdvisory.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispPGAMemoryAdvisory_All(Workspace& workspace, const std::string& version);
-void gDispPGAMemoryAdvisory_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> pgaMemoryAdvisoryViews();
 
 }  // namespace kestrelix

@@ -1,43 +1,31 @@
 #include "sections/memory/ModuleDispProcessMemorySummaryStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsProcessMemorySummaryStats.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsProcessMemorySummaryStats;
+using F = clsProcessMemorySummaryStats::Field;
 
-const ListView kView{{{"SNAP", &A::SNAP},
-                      {"CATEGORY", &A::CATEGORY},
-                      {"ALLOC(MB)", &A::ALLOC_MB},
-                      {"USED(MB)", &A::USED_MB},
-                      {"FREEABL(MB)", &A::FREE_MB},
-                      {"AVG ALLOC(MB)", &A::AVG_ALLOC_MB},
-                      {"STD DEV ALLOC(MB)", &A::STDDEV_ALLOC_MB},
-                      {"MAX ALLOC(MB)", &A::MAX_ALLOC_MB},
-                      {"HIST MAX ALLOC(MB)", &A::HIST_MAX_ALLOC_MB},
-                      {"NUM PROCS OR ALLOCS", &A::NUM_PROCS_OR_ALLOCS}},
-                     2};
+const ListView<clsProcessMemorySummaryStats> kView{
+    .all = "getPROCESS_MEMORY_SUMMARY_STATS_ALL",
+    .col = "getPROCESS_MEMORY_SUMMARY_STATS_COL",
+    .columns = {{"SNAP", F::SNAP, Kind::Key},
+                {"CATEGORY", F::CATEGORY, Kind::Key},
+                {"ALLOC(MB)", F::ALLOC_MB, Kind::Level, unit::megabytes},
+                {"USED(MB)", F::USED_MB, Kind::Level, unit::megabytes},
+                {"FREEABL(MB)", F::FREE_MB, Kind::Level, unit::megabytes},
+                {"AVG ALLOC(MB)", F::AVG_ALLOC_MB, Kind::Level, unit::megabytes},
+                {"STD DEV ALLOC(MB)", F::STDDEV_ALLOC_MB, Kind::Level, unit::megabytes},
+                {"MAX ALLOC(MB)", F::MAX_ALLOC_MB, Kind::Level, unit::megabytes},
+                {"HIST MAX ALLOC(MB)", F::HIST_MAX_ALLOC_MB, Kind::Level, unit::megabytes},
+                {"NUM PROCS OR ALLOCS", F::NUM_PROCS_OR_ALLOCS, Kind::Level}},
+    .keys = 2,
+    .ofPairs = OfPairs::SnapshotOfRow,
+};
 
 }  // namespace
 
-void gDispProcessMemorySummaryStats_All(Workspace& workspace, const std::string& version) {
-  clsProcessMemorySummaryStats object;
-  renderListAll(workspace, object, "getPROCESS_MEMORY_SUMMARY_STATS_ALL", kView, version);
-}
-
-void gDispProcessMemorySummaryStats_ColBegin(Workspace& workspace, const std::string& version,
-                                             const ColRequest& request) {
-  clsProcessMemorySummaryStats object;
-  renderListCol(workspace, object, "getPROCESS_MEMORY_SUMMARY_STATS_COL", kView.with(OfPairs::StartTime),
-                version, request.keys);
-}
-
-void gDispProcessMemorySummaryStats_ColEnd(Workspace& workspace, const std::string& version,
-                                           const ColRequest& request) {
-  clsProcessMemorySummaryStats object;
-  renderListCol(workspace, object, "getPROCESS_MEMORY_SUMMARY_STATS_COL", kView.with(OfPairs::EndTime),
-                version, request.keys);
-}
+std::vector<ReleaseViews> processMemorySummaryStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,27 +1,23 @@
 #include "sections/memory/ModuleDispSGAMemorySummary.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsSGAMemorySummary.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsSGAMemorySummary;
+using F = clsSGAMemorySummary::Field;
 
-const ListView kView{{{"SGA REGIONS", &A::SGA_REGIONS},
-                      {"START SIZE(MB)", &A::START_SIZE_MB},
-                      {"END SIZE(MB)", &A::END_SIZE_MB},
-                      {"DIFF SIZE(MB)", &A::DIFF_SIZE_MB}}};
+const ListView<clsSGAMemorySummary> kView{
+    .all = "getSGA_MEMORY_SUMMARY_ALL",
+    .col = "getSGA_MEMORY_SUMMARY_COL",
+    .columns = {{"SGA REGIONS", F::SGA_REGIONS, Kind::Key},
+                {"START SIZE(MB)", F::START_SIZE_MB, Kind::Level, unit::megabytes},
+                {"END SIZE(MB)", F::END_SIZE_MB, Kind::Level, unit::megabytes},
+                {"DIFF SIZE(MB)", F::DIFF_SIZE_MB, Kind::Count, unit::megabytes}},
+};
 
 }  // namespace
 
-void gDispSGAMemorySummary_All(Workspace& workspace, const std::string& version) {
-  clsSGAMemorySummary object;
-  renderListAll(workspace, object, "getSGA_MEMORY_SUMMARY_ALL", kView, version);
-}
-
-void gDispSGAMemorySummary_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsSGAMemorySummary object;
-  renderListCol(workspace, object, "getSGA_MEMORY_SUMMARY_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> sgaMemorySummaryViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsSGAMemorySummary.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispSGAMemorySummary_All(Workspace& workspace, const std::string& version);
-void gDispSGAMemorySummary_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> sgaMemorySummaryViews();
 
 }  // namespace kestrelix

@@ -1,29 +1,25 @@
 #include "sections/memory/ModuleDispSGATargetAdvisory.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsSGATargetAdvisory.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsSGATargetAdvisory;
+using F = clsSGATargetAdvisory::Field;
 
-const ListView kView{{{"SGA TARGET SIZE(MB)", &A::SGA_TARGET_SIZE_MB},
-                      {"SGA SIZE FACTOR", &A::SGA_SIZE_FACTOR},
-                      {"EST DB TIME(S)", &A::EST_DB_TIME_SEC},
-                      {"EST DB TIME FACTOR", &A::EST_DB_TIME_FACTOR},
-                      {"EST PHYSICAL READS", &A::EST_PHYSICAL_READS}},
-                     2};
+const ListView<clsSGATargetAdvisory> kView{
+    .all = "getSGA_TARGET_ADVISORY_ALL",
+    .col = "getSGA_TARGET_ADVISORY_COL",
+    .columns = {{"SGA TARGET SIZE(MB)", F::SGA_TARGET_SIZE_MB, Kind::Key, unit::number},
+                {"SGA SIZE FACTOR", F::SGA_SIZE_FACTOR, Kind::Key, unit::number},
+                {"EST DB TIME(S)", F::EST_DB_TIME_SEC, Kind::Level, unit::seconds},
+                {"EST DB TIME FACTOR", F::EST_DB_TIME_FACTOR, Kind::Level},
+                {"EST PHYSICAL READS", F::EST_PHYSICAL_READS, Kind::Level}},
+    .keys = 2,
+};
 
 }  // namespace
 
-void gDispSGATargetAdvisory_All(Workspace& workspace, const std::string& version) {
-  clsSGATargetAdvisory object;
-  renderListAll(workspace, object, "getSGA_TARGET_ADVISORY_ALL", kView, version);
-}
-
-void gDispSGATargetAdvisory_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsSGATargetAdvisory object;
-  renderListCol(workspace, object, "getSGA_TARGET_ADVISORY_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> sgaTargetAdvisoryViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

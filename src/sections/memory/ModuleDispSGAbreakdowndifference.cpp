@@ -1,30 +1,25 @@
 #include "sections/memory/ModuleDispSGAbreakdowndifference.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsSGAbreakdowndifference.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsSGAbreakdowndifference;
+using F = clsSGAbreakdowndifference::Field;
 
-const ListView kView{{{"POOL", &A::POOL},
-                      {"NAME", &A::NAME},
-                      {"START(MB)", &A::BEGIN_MB},
-                      {"END(MB)", &A::END_MB},
-                      {"% DIFF", &A::PER_DIFF}},
-                     2};
+const ListView<clsSGAbreakdowndifference> kView{
+    .all = "getSGA_BREAKDOWN_DIFFERENCE_ALL",
+    .col = "getSGA_BREAKDOWN_DIFFERENCE_COL",
+    .columns = {{"POOL", F::POOL, Kind::Key},
+                {"NAME", F::NAME, Kind::Key},
+                {"START(MB)", F::BEGIN_MB, Kind::Level, unit::megabytes},
+                {"END(MB)", F::END_MB, Kind::Level, unit::megabytes},
+                {"% DIFF", F::PER_DIFF, Kind::Share, unit::percent}},
+    .keys = 2,
+};
 
 }  // namespace
 
-void gDispSGAbreakdowndifference_All(Workspace& workspace, const std::string& version) {
-  clsSGAbreakdowndifference object;
-  renderListAll(workspace, object, "getSGA_BREAKDOWN_DIFFERENCE_ALL", kView, version);
-}
-
-void gDispSGAbreakdowndifference_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request) {
-  clsSGAbreakdowndifference object;
-  renderListCol(workspace, object, "getSGA_BREAKDOWN_DIFFERENCE_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> sgaBreakdowndifferenceViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

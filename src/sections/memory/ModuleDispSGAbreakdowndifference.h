@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsSGAbreakdowndifference.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispSGAbreakdowndifference_All(Workspace& workspace, const std::string& version);
-void gDispSGAbreakdowndifference_Col(Workspace& workspace, const std::string& version,
-                                     const ColRequest& request);
+std::vector<ReleaseViews> sgaBreakdowndifferenceViews();
 
 }  // namespace kestrelix

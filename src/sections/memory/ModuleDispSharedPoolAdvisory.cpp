@@ -1,44 +1,44 @@
 #include "sections/memory/ModuleDispSharedPoolAdvisory.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsSharedPoolAdvisory.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsSharedPoolAdvisory;
+using F = clsSharedPoolAdvisory::Field;
 
-const ListView kView{{{"SHARED POOL SIZE(MB)", &A::SHARED_POOL_SIZE_MB},
-                      {"SP SIZE FACTR", &A::SP_SIZE_FACTR},
-                      {"EST LC SIZE(MB)", &A::EST_LC_SIZE_MB},
-                      {"EST LC MEM OBJ", &A::EST_LC_MEM_OBJ},
-                      {"EST LC TIME SAVED(S)", &A::EST_LC_TIME_SAVED_SEC},
-                      {"EST LC TIME SAVED FACTR", &A::EST_LC_TIME_SAVED_FACTR},
-                      {"EST LC LOAD TIME(S)", &A::EST_LC_LOAD_TIME_SEC},
-                      {"EST LC LOAD TIME FACTR", &A::EST_LC_LOAD_TIME_FACTR},
-                      {"EST LC MEM OBJ HITS", &A::EST_LC_MEM_OBJ_HITS}},
-                     2};
-const ListView kViewOf9{{{"SHARED POOL SIZE(MB)", &A::SHARED_POOL_SIZE_MB},
-                         {"SP SIZE FACTR", &A::SP_SIZE_FACTR},
-                         {"EST LC SIZE(MB)", &A::EST_LC_SIZE_MB},
-                         {"EST LC MEM OBJ", &A::EST_LC_MEM_OBJ},
-                         {"EST LC TIME SAVED(S)", &A::EST_LC_TIME_SAVED_SEC},
-                         {"EST LC TIME SAVED FACTR", &A::EST_LC_TIME_SAVED_FACTR},
-                         {"EST LC MEM OBJ HITS", &A::EST_LC_MEM_OBJ_HITS}},
-                        2};
+const ListView<clsSharedPoolAdvisory> kView{
+    .all = "getSHARED_POOL_ADVISORY_ALL",
+    .col = "getSHARED_POOL_ADVISORY_COL",
+    .columns = {{"SHARED POOL SIZE(MB)", F::SHARED_POOL_SIZE_MB, Kind::Key, unit::number},
+                {"SP SIZE FACTR", F::SP_SIZE_FACTR, Kind::Key, unit::number},
+                {"EST LC SIZE(MB)", F::EST_LC_SIZE_MB, Kind::Level, unit::megabytes},
+                {"EST LC MEM OBJ", F::EST_LC_MEM_OBJ, Kind::Level},
+                {"EST LC TIME SAVED(S)", F::EST_LC_TIME_SAVED_SEC, Kind::Level, unit::seconds},
+                {"EST LC TIME SAVED FACTR", F::EST_LC_TIME_SAVED_FACTR, Kind::Level},
+                {"EST LC LOAD TIME(S)", F::EST_LC_LOAD_TIME_SEC, Kind::Level, unit::seconds},
+                {"EST LC LOAD TIME FACTR", F::EST_LC_LOAD_TIME_FACTR, Kind::Level},
+                {"EST LC MEM OBJ HITS", F::EST_LC_MEM_OBJ_HITS, Kind::Level}},
+    .keys = 2,
+};
 
-const ListView& view(const std::string& version) { return versionOf(version) == V9 ? kViewOf9 : kView; }
+const ListView<clsSharedPoolAdvisory> kViewOf9{
+    .all = "getSHARED_POOL_ADVISORY_ALL",
+    .col = "getSHARED_POOL_ADVISORY_COL",
+    .columns = {{"SHARED POOL SIZE(MB)", F::SHARED_POOL_SIZE_MB, Kind::Key, unit::number},
+                {"SP SIZE FACTR", F::SP_SIZE_FACTR, Kind::Key, unit::number},
+                {"EST LC SIZE(MB)", F::EST_LC_SIZE_MB, Kind::Level, unit::megabytes},
+                {"EST LC MEM OBJ", F::EST_LC_MEM_OBJ, Kind::Level},
+                {"EST LC TIME SAVED(S)", F::EST_LC_TIME_SAVED_SEC, Kind::Level, unit::seconds},
+                {"EST LC TIME SAVED FACTR", F::EST_LC_TIME_SAVED_FACTR, Kind::Level},
+                {"EST LC MEM OBJ HITS", F::EST_LC_MEM_OBJ_HITS, Kind::Level}},
+    .keys = 2,
+};
 
 }  // namespace
 
-void gDispSharedPoolAdvisory_All(Workspace& workspace, const std::string& version) {
-  clsSharedPoolAdvisory object;
-  renderListAll(workspace, object, "getSHARED_POOL_ADVISORY_ALL", view(version), version);
-}
-
-void gDispSharedPoolAdvisory_Col(Workspace& workspace, const std::string& version,
-                                 const ColRequest& request) {
-  clsSharedPoolAdvisory object;
-  renderListCol(workspace, object, "getSHARED_POOL_ADVISORY_COL", view(version), version, request.keys);
+std::vector<ReleaseViews> sharedPoolAdvisoryViews() {
+  return {viewsOf(V9, kViewOf9), viewsOf(V10_11, kView)};
 }
 
 }  // namespace kestrelix

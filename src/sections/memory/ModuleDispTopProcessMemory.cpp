@@ -1,41 +1,30 @@
 #include "sections/memory/ModuleDispTopProcessMemory.h"
 
-#include "report/GridRendering.h"
+#include "sections/memory/clsTopProcessMemory.h"
 
 namespace kestrelix {
 namespace {
 
-using A = clsTopProcessMemory;
+using F = clsTopProcessMemory::Field;
 
-const ListView kView{{{"SNAP", &A::SNAP},
-                      {"PID", &A::PID},
-                      {"CATEGORY", &A::CATEGORY},
-                      {"ALLOC(MB)", &A::ALLOC_MB},
-                      {"USED(MB)", &A::USED_MB},
-                      {"FREEABL(MB)", &A::FREE_MB},
-                      {"MAX ALLOC(MB)", &A::MAX_ALLOC_MB},
-                      {"HIST MAX ALLOC(MB)", &A::HIST_MAX_ALLOC_MB}},
-                     3};
+const ListView<clsTopProcessMemory> kView{
+    .all = "getTOP_PROCESS_MEMORY_ALL",
+    .col = "getTOP_PROCESS_MEMORY_COL",
+    .columns = {{"SNAP", F::SNAP, Kind::Key},
+                {"PID", F::PID, Kind::Key, unit::number},
+                {"CATEGORY", F::CATEGORY, Kind::Key},
+                {"ALLOC(MB)", F::ALLOC_MB, Kind::Level, unit::megabytes},
+                {"USED(MB)", F::USED_MB, Kind::Level, unit::megabytes},
+                {"FREEABL(MB)", F::FREE_MB, Kind::Level, unit::megabytes},
+                {"MAX ALLOC(MB)", F::MAX_ALLOC_MB, Kind::Level, unit::megabytes},
+                {"HIST MAX ALLOC(MB)", F::HIST_MAX_ALLOC_MB, Kind::Level, unit::megabytes}},
+    .keys = 3,
+    .ofPairs = OfPairs::SnapshotOfRow,
+    .allArguments = {"", "0", ""},
+};
 
 }  // namespace
 
-void gDispTopProcessMemory_All(Workspace& workspace, const std::string& version) {
-  clsTopProcessMemory object;
-  renderListAll(workspace, object, "getTOP_PROCESS_MEMORY_ALL", kView, version, {"", "0", ""});
-}
-
-void gDispTopProcessMemory_ColBegin(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request) {
-  clsTopProcessMemory object;
-  renderListCol(workspace, object, "getTOP_PROCESS_MEMORY_COL", kView.with(OfPairs::StartTime), version,
-                request.keys);
-}
-
-void gDispTopProcessMemory_ColEnd(Workspace& workspace, const std::string& version,
-                                  const ColRequest& request) {
-  clsTopProcessMemory object;
-  renderListCol(workspace, object, "getTOP_PROCESS_MEMORY_COL", kView.with(OfPairs::EndTime), version,
-                request.keys);
-}
+std::vector<ReleaseViews> topProcessMemoryViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

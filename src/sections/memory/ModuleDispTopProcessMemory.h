@@ -1,14 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/memory/clsTopProcessMemory.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispTopProcessMemory_All(Workspace& workspace, const std::string& version);
-void gDispTopProcessMemory_ColBegin(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request);
-void gDispTopProcessMemory_ColEnd(Workspace& workspace, const std::string& version,
-                                  const ColRequest& request);
+std::vector<ReleaseViews> topProcessMemoryViews();
 
 }  // namespace kestrelix

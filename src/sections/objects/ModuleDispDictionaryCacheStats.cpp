@@ -1,47 +1,36 @@
 #include "sections/objects/ModuleDispDictionaryCacheStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/objects/clsDictionaryCacheStats.h"
 
 namespace kestrelix {
 namespace {
 
-using D = clsDictionaryCacheStats;
+using F = clsDictionaryCacheStats::Field;
 
-const ListView kRequests{{{"CACHE", &D::CACHE},
-                          {"GET REQUESTS", &D::GET_REQUESTS},
-                          {"PCT MISS", &D::GET_PCT_MISS},
-                          {"SCAN REQS", &D::SCAN_REQS},
-                          {"PCT MISS", &D::SCAN_PCT_MISS},
-                          {"MOD REQS", &D::MOD_REQS},
-                          {"FINAL USAGE", &D::FINAL_USAGE}}};
+const ListView<clsDictionaryCacheStats> kRequests{
+    .all = "getDICTIONARY_CACHE_STATS_1_ALL",
+    .col = "getDICTIONARY_CACHE_STATS_1_COL",
+    .columns = {{"CACHE", F::CACHE, Kind::Key},
+                {"GET REQUESTS", F::GET_REQUESTS, Kind::Count},
+                {"PCT MISS", F::GET_PCT_MISS, Kind::Share, unit::percent},
+                {"SCAN REQS", F::SCAN_REQS, Kind::Count},
+                {"PCT MISS", F::SCAN_PCT_MISS, Kind::Share, unit::percent},
+                {"MOD REQS", F::MOD_REQS, Kind::Count},
+                {"FINAL USAGE", F::FINAL_USAGE, Kind::Level}},
+};
 
-const ListView kLocks{{{"CACHE", &D::CACHE},
-                       {"GES REQUESTS", &D::GES_REQUESTS},
-                       {"GES CONFLICTS", &D::GES_CONFLICTS},
-                       {"GES RELEASES", &D::GES_RELEASES}}};
+const ListView<clsDictionaryCacheStats> kLocks{
+    .all = "getDICTIONARY_CACHE_STATS_2_ALL",
+    .col = "getDICTIONARY_CACHE_STATS_2_COL",
+    .columns = {{"CACHE", F::CACHE, Kind::Key},
+                {"GES REQUESTS", F::GES_REQUESTS, Kind::Count},
+                {"GES CONFLICTS", F::GES_CONFLICTS, Kind::Count},
+                {"GES RELEASES", F::GES_RELEASES, Kind::Count}},
+};
 
 }  // namespace
 
-void gDispDictionaryCacheStats1_All(Workspace& workspace, const std::string& version) {
-  clsDictionaryCacheStats object;
-  renderListAll(workspace, object, "getDICTIONARY_CACHE_STATS_1_ALL", kRequests, version);
-}
-
-void gDispDictionaryCacheStats1_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request) {
-  clsDictionaryCacheStats object;
-  renderListCol(workspace, object, "getDICTIONARY_CACHE_STATS_1_COL", kRequests, version, request.keys);
-}
-
-void gDispDictionaryCacheStats2_All(Workspace& workspace, const std::string& version) {
-  clsDictionaryCacheStats object;
-  renderListAll(workspace, object, "getDICTIONARY_CACHE_STATS_2_ALL", kLocks, version);
-}
-
-void gDispDictionaryCacheStats2_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request) {
-  clsDictionaryCacheStats object;
-  renderListCol(workspace, object, "getDICTIONARY_CACHE_STATS_2_COL", kLocks, version, request.keys);
-}
+std::vector<ReleaseViews> dictionaryCacheStats1Views() { return {viewsOf(kAllVersions, kRequests)}; }
+std::vector<ReleaseViews> dictionaryCacheStats2Views() { return {viewsOf(kAllVersions, kLocks)}; }
 
 }  // namespace kestrelix

@@ -1,15 +1,10 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/objects/clsDictionaryCacheStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispDictionaryCacheStats1_All(Workspace& workspace, const std::string& version);
-void gDispDictionaryCacheStats1_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request);
-void gDispDictionaryCacheStats2_All(Workspace& workspace, const std::string& version);
-void gDispDictionaryCacheStats2_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request);
+std::vector<ReleaseViews> dictionaryCacheStats1Views();
+std::vector<ReleaseViews> dictionaryCacheStats2Views();
 
 }  // namespace kestrelix

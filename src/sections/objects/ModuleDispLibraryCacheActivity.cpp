@@ -1,49 +1,38 @@
 #include "sections/objects/ModuleDispLibraryCacheActivity.h"
 
-#include "report/GridRendering.h"
+#include "sections/objects/clsLibraryCacheActivity.h"
 
 namespace kestrelix {
 namespace {
 
-using L = clsLibraryCacheActivity;
+using F = clsLibraryCacheActivity::Field;
 
-const ListView kRequests{{{"NAMESPACE", &L::NAMESPACE},
-                          {"GET REQUESTS", &L::GET_REQUESTS},
-                          {"PCT MISS", &L::GET_PCT_MISS},
-                          {"PIN REQUESTS", &L::PIN_REQUESTS},
-                          {"PCT MISS", &L::PIN_PCT_MISS},
-                          {"RELOADS", &L::RELOADS},
-                          {"INVALIDATIONS", &L::INVALIDATIONS}}};
+const ListView<clsLibraryCacheActivity> kRequests{
+    .all = "getLIBRARY_CACHE_ACTIVITY_1_ALL",
+    .col = "getLIBRARY_CACHE_ACTIVITY_1_COL",
+    .columns = {{"NAMESPACE", F::NAMESPACE, Kind::Key},
+                {"GET REQUESTS", F::GET_REQUESTS, Kind::Count},
+                {"PCT MISS", F::GET_PCT_MISS, Kind::Share, unit::percent},
+                {"PIN REQUESTS", F::PIN_REQUESTS, Kind::Count},
+                {"PCT MISS", F::PIN_PCT_MISS, Kind::Share, unit::percent},
+                {"RELOADS", F::RELOADS, Kind::Count},
+                {"INVALIDATIONS", F::INVALIDATIONS, Kind::Count}},
+};
 
-const ListView kLocks{{{"NAMESPACE", &L::NAMESPACE},
-                       {"GES LOCK REQUESTS", &L::GES_LOCK_REQUESTS},
-                       {"GES PIN REQUESTS", &L::GES_PIN_REQUESTS},
-                       {"GES PIN RELEASES", &L::GES_PIN_RELEASES},
-                       {"GES INVAL REQUESTS", &L::GES_INVAL_REQUESTS},
-                       {"GES INVALIDATIONS", &L::GES_INVALIDATIONS}}};
+const ListView<clsLibraryCacheActivity> kLocks{
+    .all = "getLIBRARY_CACHE_ACTIVITY_2_ALL",
+    .col = "getLIBRARY_CACHE_ACTIVITY_2_COL",
+    .columns = {{"NAMESPACE", F::NAMESPACE, Kind::Key},
+                {"GES LOCK REQUESTS", F::GES_LOCK_REQUESTS, Kind::Count},
+                {"GES PIN REQUESTS", F::GES_PIN_REQUESTS, Kind::Count},
+                {"GES PIN RELEASES", F::GES_PIN_RELEASES, Kind::Count},
+                {"GES INVAL REQUESTS", F::GES_INVAL_REQUESTS, Kind::Count},
+                {"GES INVALIDATIONS", F::GES_INVALIDATIONS, Kind::Count}},
+};
 
 }  // namespace
 
-void gDispLibraryCacheActivity1_All(Workspace& workspace, const std::string& version) {
-  clsLibraryCacheActivity object;
-  renderListAll(workspace, object, "getLIBRARY_CACHE_ACTIVITY_1_ALL", kRequests, version);
-}
-
-void gDispLibraryCacheActivity1_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request) {
-  clsLibraryCacheActivity object;
-  renderListCol(workspace, object, "getLIBRARY_CACHE_ACTIVITY_1_COL", kRequests, version, request.keys);
-}
-
-void gDispLibraryCacheActivity2_All(Workspace& workspace, const std::string& version) {
-  clsLibraryCacheActivity object;
-  renderListAll(workspace, object, "getLIBRARY_CACHE_ACTIVITY_2_ALL", kLocks, version);
-}
-
-void gDispLibraryCacheActivity2_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request) {
-  clsLibraryCacheActivity object;
-  renderListCol(workspace, object, "getLIBRARY_CACHE_ACTIVITY_2_COL", kLocks, version, request.keys);
-}
+std::vector<ReleaseViews> libraryCacheActivity1Views() { return {viewsOf(kAllVersions, kRequests)}; }
+std::vector<ReleaseViews> libraryCacheActivity2Views() { return {viewsOf(kAllVersions, kLocks)}; }
 
 }  // namespace kestrelix

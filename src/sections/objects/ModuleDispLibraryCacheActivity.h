@@ -1,15 +1,10 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/objects/clsLibraryCacheActivity.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispLibraryCacheActivity1_All(Workspace& workspace, const std::string& version);
-void gDispLibraryCacheActivity1_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request);
-void gDispLibraryCacheActivity2_All(Workspace& workspace, const std::string& version);
-void gDispLibraryCacheActivity2_Col(Workspace& workspace, const std::string& version,
-                                    const ColRequest& request);
+std::vector<ReleaseViews> libraryCacheActivity1Views();
+std::vector<ReleaseViews> libraryCacheActivity2Views();
 
 }  // namespace kestrelix

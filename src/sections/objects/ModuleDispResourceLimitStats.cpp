@@ -1,29 +1,24 @@
 #include "sections/objects/ModuleDispResourceLimitStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/objects/clsResourceLimitStats.h"
 
 namespace kestrelix {
 namespace {
 
-using R = clsResourceLimitStats;
+using F = clsResourceLimitStats::Field;
 
-const ListView kView{{{"RESOURCE NAME", &R::RESOURCE_NAME},
-                      {"CURRENT UTILIZATION", &R::CURRENT_UTILIZATION},
-                      {"MAXIMUM UTILIZATION", &R::MAXIMUM_UTILIZATION},
-                      {"INITIAL ALLOCATION", &R::INITIAL_ALLOCATION},
-                      {"LIMIT", &R::LIMIT}}};
+const ListView<clsResourceLimitStats> kView{
+    .all = "getRESOURCE_LIMIT_STATS_ALL",
+    .col = "getRESOURCE_LIMIT_STATS_COL",
+    .columns = {{"RESOURCE NAME", F::RESOURCE_NAME, Kind::Key},
+                {"CURRENT UTILIZATION", F::CURRENT_UTILIZATION, Kind::Level},
+                {"MAXIMUM UTILIZATION", F::MAXIMUM_UTILIZATION, Kind::Level},
+                {"INITIAL ALLOCATION", F::INITIAL_ALLOCATION, Kind::Level},
+                {"LIMIT", F::LIMIT, Kind::Level}},
+};
 
 }  // namespace
 
-void gDispResourceLimitStats_All(Workspace& workspace, const std::string& version) {
-  clsResourceLimitStats object;
-  renderListAll(workspace, object, "getRESOURCE_LIMIT_STATS_ALL", kView, version);
-}
-
-void gDispResourceLimitStats_Col(Workspace& workspace, const std::string& version,
-                                 const ColRequest& request) {
-  clsResourceLimitStats object;
-  renderListCol(workspace, object, "getRESOURCE_LIMIT_STATS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> resourceLimitStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

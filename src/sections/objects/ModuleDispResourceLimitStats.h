@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/objects/clsResourceLimitStats.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispResourceLimitStats_All(Workspace& workspace, const std::string& version);
-void gDispResourceLimitStats_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> resourceLimitStatsViews();
 
 }  // namespace kestrelix

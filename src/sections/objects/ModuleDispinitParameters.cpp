@@ -1,25 +1,22 @@
 #include "sections/objects/ModuleDispinitParameters.h"
 
-#include "report/GridRendering.h"
+#include "sections/objects/clsinitParameters.h"
 
 namespace kestrelix {
 namespace {
 
-using P = clsinitParameters;
+using F = clsinitParameters::Field;
 
-const ListView kView{
-    {{"PARAMETER NAME", &P::PARAMETER_NAME}, {"START VALUE", &P::BEGIN_VALUE}, {"END VALUE", &P::END_VALUE}}};
+const ListView<clsinitParameters> kView{
+    .all = "getINIT_PARAMETERS_ALL",
+    .col = "getINIT_PARAMETERS_COL",
+    .columns = {{"PARAMETER NAME", F::PARAMETER_NAME, Kind::Key},
+                {"START VALUE", F::BEGIN_VALUE, Kind::Text},
+                {"END VALUE", F::END_VALUE, Kind::Text}},
+};
 
 }  // namespace
 
-void gDispinitParameters_All(Workspace& workspace, const std::string& version) {
-  clsinitParameters object;
-  renderListAll(workspace, object, "getINIT_PARAMETERS_ALL", kView, version);
-}
-
-void gDispinitParameters_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsinitParameters object;
-  renderListCol(workspace, object, "getINIT_PARAMETERS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> initParametersViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

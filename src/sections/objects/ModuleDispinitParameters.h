@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/objects/clsinitParameters.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispinitParameters_All(Workspace& workspace, const std::string& version);
-void gDispinitParameters_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> initParametersViews();
 
 }  // namespace kestrelix

@@ -7,9 +7,9 @@
 namespace kestrelix {
 
 /// From one form to the other. A grid without rows has neither.
-void gDispSqlShapingToggle(bool& shaped, clsSQLShaping& shaping, Grid& grid);
-/// From the pieces in the grid to lines. After a box the grid and `shaped` stay as they were.
-void gDispSqlShapingText(bool& shaped, clsSQLShaping& shaping, Grid& grid);
+Failures gDispSqlShapingToggle(bool& shaped, clsSQLShaping& shaping, Grid& grid);
+/// From the pieces in the grid to lines. After a failure the grid and `shaped` stay as they were.
+Failures gDispSqlShapingText(bool& shaped, clsSQLShaping& shaping, Grid& grid);
 /// Back to the pieces, as `shaping` has kept them.
 void gDispSqlPiecesText(bool& shaped, const clsSQLShaping& shaping, Grid& grid);
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/code_page.h"
-#include "platform/guarded.h"
 
 namespace kestrelix {
 namespace {
@@ -53,23 +52,56 @@ std::string collapsed(const std::string& text, const std::string& unit) {
 
 }  // namespace
 
-bool clsSQLShaping::Initialize(const Grid& grid) {
+/// `cell` gives a cell as a grid counts: the headings are row 0, the running numbers column 0.
+template <class Cell>
+bool clsSQLShaping::take(int rows, Cell cell, Failures& failures) {
   for (auto* texts : {&pieces_, &lines_, &headings_, &keys_}) texts->clear();
   joined_.clear();
   shaped_.clear();
-  return guarded(boxes_, "clsSQLShaping", "Initialize", [&] {
-    for (int c = 1; c <= kTextColumn; ++c) headings_.push_back(grid.TextArray(c));
-    for (int c = 1; c < kTextColumn; ++c) keys_.push_back(grid.TextMatrix(1, c));
-    for (int r = 1; r < grid.Rows(); ++r) pieces_.push_back(grid.TextMatrix(r, kTextColumn));
+  return guarded(failures, "clsSQLShaping", "Initialize", [&] {
+    for (int c = 1; c <= kTextColumn; ++c) headings_.push_back(cell(0, c));
+    for (int c = 1; c < kTextColumn; ++c) keys_.push_back(cell(1, c));
+    for (int r = 1; r < rows; ++r) pieces_.push_back(cell(r, kTextColumn));
   });
 }
 
-bool clsSQLShaping::ExecShaping() {
-  const bool done = guarded(boxes_, "clsSQLShaping", "InputSqlJoin", [this] { InputSqlJoin(); }) &&
-                    guarded(boxes_, "clsSQLShaping", "ShapingMain", [this] { ShapingMain(); }) &&
-                    guarded(boxes_, "clsSQLShaping", "MakeOutBuffer", [this] { MakeOutBuffer(); });
-  if (!done) boxes_.show(BoxIcon::Critical, failureText("clsSQLShaping", "ExecShaping"));
+bool clsSQLShaping::Initialize(const Grid& grid, Failures& failures) {
+  return take(
+      grid.Rows(), [&](int row, int c) { return grid.TextMatrix(row, c); }, failures);
+}
+
+bool clsSQLShaping::Initialize(const ReportTable& pieces, Failures& failures) {
+  const auto cell = [&](int row, int c) {
+    const auto column = static_cast<std::size_t>(c - 1);
+    return row == 0 ? pieces.columns.at(column).heading
+                    : pieces.rows.at(static_cast<std::size_t>(row - 1)).at(column);
+  };
+  return take(static_cast<int>(pieces.rows.size()) + 1, cell, failures);
+}
+
+bool clsSQLShaping::ExecShaping(Failures& failures) {
+  const bool done = guarded(failures, "clsSQLShaping", "InputSqlJoin", [this] { InputSqlJoin(); }) &&
+                    guarded(failures, "clsSQLShaping", "ShapingMain", [this] { ShapingMain(); }) &&
+                    guarded(failures, "clsSQLShaping", "MakeOutBuffer", [this] { MakeOutBuffer(); });
+  if (!done) failures.push_back({failureText("clsSQLShaping", "ExecShaping")});
   return done;
+}
+
+/// The keys stand in the first row alone.
+ReportTable clsSQLShaping::table(const std::vector<std::string>& texts) const {
+  ReportTable table;
+  table.read = true;
+  for (const std::string& heading : headings_) table.columns.push_back({heading, {Kind::Key, unit::number}});
+  table.columns.back().measure = {Kind::Text};
+  for (const std::string& text : texts) {
+    std::vector<std::string>& row = table.rows.emplace_back();
+    if (table.rows.size() == 1)
+      row = keys_;
+    else
+      row.resize(keys_.size());
+    row.push_back(text);
+  }
+  return table;
 }
 
 void clsSQLShaping::InputSqlJoin() {

@@ -4,7 +4,8 @@
 #include <vector>
 
 #include "platform/controls/grid.h"
-#include "platform/message_box.h"
+#include "platform/failure.h"
+#include "report/report_table.h"
 
 namespace kestrelix {
 
@@ -12,12 +13,16 @@ namespace kestrelix {
 /// splits at the line breaks that its author put in. It knows no SQL: literals are treated like the rest.
 class clsSQLShaping {
  public:
-  explicit clsSQLShaping(MessageBoxes& boxes) : boxes_(boxes) {}
+  /// Takes the pieces, the headings and the first row's keys of a grid of pieces. False after a failure.
+  bool Initialize(const Grid& grid, Failures& failures);
+  /// The same of a table of pieces.
+  bool Initialize(const ReportTable& pieces, Failures& failures);
+  /// Makes the lines. False after the failures of the step that failed and of this member.
+  bool ExecShaping(Failures& failures);
 
-  /// Reads the pieces, the headings and the first row's keys from a grid of pieces. False after a box.
-  bool Initialize(const Grid& grid);
-  /// Makes the lines. False after the boxes of the step that failed and of this member.
-  bool ExecShaping();
+  /// The pieces, or the lines, under their headings.
+  ReportTable pieces() const { return table(pieces_); }
+  ReportTable lines() const { return table(lines_); }
 
   int org_rownum() const { return static_cast<int>(pieces_.size()); }
   const std::string& org_sql_text(int i) const { return pieces_.at(static_cast<std::size_t>(i)); }
@@ -32,11 +37,13 @@ class clsSQLShaping {
   const std::string& Col3Value() const { return keys_.at(2); }
 
  private:
+  template <class Cell>
+  bool take(int rows, Cell cell, Failures& failures);
+  ReportTable table(const std::vector<std::string>& texts) const;
   void InputSqlJoin();
   void ShapingMain();
   void MakeOutBuffer();
 
-  MessageBoxes& boxes_;
   std::vector<std::string> pieces_;
   std::string joined_;
   std::string shaped_;

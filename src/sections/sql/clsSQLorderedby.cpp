@@ -29,8 +29,7 @@ std::vector<Statement> makeStatements() {
     for (const Versions version : {V11, V10, V9}) {
       if ((ranking.versions & version) == 0) continue;
       std::vector<std::size_t> fields;
-      for (const SqlColumn& column : sqlColumns(ranking, version))
-        fields.push_back(static_cast<std::size_t>(column.field));
+      for (const SqlColumn& column : sqlColumns(ranking, version)) fields.push_back(column.field);
       const auto add = [&](const std::string& view, Fetch fetch, std::string text) {
         Statement statement{ranking.member(view), std::move(text), fetch, fields};
         statements.push_back(statement.only(version).withBox(boxOf(statement.member)));

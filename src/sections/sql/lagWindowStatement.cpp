@@ -148,7 +148,7 @@ std::string shownColumns(const SqlRanking& ranking) {
   std::string text;
   for (const SqlColumn& column : sqlColumns(ranking, V11))
     text += (text.empty() ? "" : ", ") +
-            (column.alias() == "ADDRESS" ? "RAWTOHEX(ADDRESS) AS ADDRESS" : column.alias());
+            (sqlAlias(column) == "ADDRESS" ? "RAWTOHEX(ADDRESS) AS ADDRESS" : sqlAlias(column));
   return text;
 }
 

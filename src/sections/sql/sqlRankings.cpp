@@ -28,80 +28,79 @@ const SqlTotal kSharedPool{SqlTotal::Source::Parameter, "shared_pool_size", "SHA
 const SqlTotal kNoTotal{};
 
 using F = clsSQLorderedby::Field;
-using S = clsSQLorderedby;
 
-const SqlColumn kOldHash{F::OLD_HASH_VALUE, {"OLD_HASH_VALUE", &S::OLD_HASH_VALUE}};
-const SqlColumn kHash{F::HASH_VALUE, {"HASH_VALUE", &S::HASH_VALUE}};
-const SqlColumn kAddress{F::ADDRESS, {"ADDRESS", &S::ADDRESS}};
-const SqlColumn kModule{F::MODULE, {"MODULE", &S::MODULE}};
-const SqlColumn kShare{F::TOTAL_PRE, {"%TOTAL", &S::TOTAL_PRE}};
+const SqlColumn kOldHash{"OLD_HASH_VALUE", F::OLD_HASH_VALUE, Kind::Key, unit::number};
+const SqlColumn kHash{"HASH_VALUE", F::HASH_VALUE, Kind::Key, unit::number};
+const SqlColumn kAddress{"ADDRESS", F::ADDRESS, Kind::Key};
+const SqlColumn kModule{"MODULE", F::MODULE, Kind::Text};
+const SqlColumn kShare{"%TOTAL", F::TOTAL_PRE, Kind::Share, unit::percent};
 
 const std::vector<SqlColumn> kTotalColumns{
-    {F::TOTAL_DB_CPU, {"TOTAL_DB_CPU(S)", &S::TOTAL_DB_CPU}},
-    {F::TOTAL_DB_TIME, {"TOTAL_DB_TIME(S)", &S::TOTAL_DB_TIME}},
-    {F::TOTAL_LOGICAL_READS, {"TOTAL_LOGICAL_READS", &S::TOTAL_LOGICAL_READS}},
-    {F::TOTAL_PHYSICAL_READS, {"TOTAL_PHYSICAL_READS", &S::TOTAL_PHYSICAL_READS}},
-    {F::TOTAL_EXECUTE_COUNT, {"TOTAL_EXECUTE_COUNT", &S::TOTAL_EXECUTE_COUNT}},
-    {F::TOTAL_PARSE_COUNT, {"TOTAL_PARSE_COUNT", &S::TOTAL_PARSE_COUNT}},
-    {F::SHARED_POOL_SIZE, {"SHARED_POOL_SIZE", &S::SHARED_POOL_SIZE}},
+    {"TOTAL_DB_CPU(S)", F::TOTAL_DB_CPU, Kind::Count, unit::seconds},
+    {"TOTAL_DB_TIME(S)", F::TOTAL_DB_TIME, Kind::Count, unit::seconds},
+    {"TOTAL_LOGICAL_READS", F::TOTAL_LOGICAL_READS, Kind::Count, unit::blocks},
+    {"TOTAL_PHYSICAL_READS", F::TOTAL_PHYSICAL_READS, Kind::Count, unit::blocks},
+    {"TOTAL_EXECUTE_COUNT", F::TOTAL_EXECUTE_COUNT, Kind::Count},
+    {"TOTAL_PARSE_COUNT", F::TOTAL_PARSE_COUNT, Kind::Count},
+    {"SHARED_POOL_SIZE", F::SHARED_POOL_SIZE, Kind::Level, unit::bytes},
 };
 
 std::vector<SqlColumn> totalColumn(const SqlRanking& ranking) {
   std::vector<SqlColumn> columns;
   std::copy_if(kTotalColumns.begin(), kTotalColumns.end(), std::back_inserter(columns),
-               [&](const SqlColumn& column) { return column.alias() == ranking.total.column; });
+               [&](const SqlColumn& column) { return sqlAlias(column) == ranking.total.column; });
   return columns;
 }
 
 /// Oracle 11 walks all snapshots of the pair and so knows maxima; the others know the end value alone.
 std::vector<SqlColumn> sharableMemory(Versions version) {
   if (version == V11)
-    return {{F::MAX_SHARABLE_MEM, {"MAX_SHARABLE_MEM", &S::MAX_SHARABLE_MEM}},
-            {F::LAST_SHARABLE_MEM, {"LAST_SHARABLE_MEM", &S::LAST_SHARABLE_MEM}}};
-  return {{F::SHARABLE_MEM, {"SHARABLE_MEM", &S::SHARABLE_MEM}}};
+    return {{"MAX_SHARABLE_MEM", F::MAX_SHARABLE_MEM, Kind::Level, unit::bytes},
+            {"LAST_SHARABLE_MEM", F::LAST_SHARABLE_MEM, Kind::Level, unit::bytes}};
+  return {{"SHARABLE_MEM", F::SHARABLE_MEM, Kind::Level, unit::bytes}};
 }
 
 std::vector<SqlColumn> versionCount(Versions version) {
   if (version == V11)
-    return {{F::MAX_VERSION_COUNT, {"MAX_VERSION_COUNT", &S::MAX_VERSION_COUNT}},
-            {F::LAST_VERSION_COUNT, {"LAST_VERSION_COUNT", &S::LAST_VERSION_COUNT}},
-            {F::DELTA_VERSION_COUNT, {"DELTA_VERSION_COUNT", &S::DELTA_VERSION_COUNT}}};
-  return {{F::VERSION_COUNT, {"VERSION_COUNT", &S::VERSION_COUNT}}};
+    return {{"MAX_VERSION_COUNT", F::MAX_VERSION_COUNT, Kind::Level},
+            {"LAST_VERSION_COUNT", F::LAST_VERSION_COUNT, Kind::Level},
+            {"DELTA_VERSION_COUNT", F::DELTA_VERSION_COUNT, Kind::Count}};
+  return {{"VERSION_COUNT", F::VERSION_COUNT, Kind::Level}};
 }
 
 std::vector<SqlColumn> columnsOf(SqlColumns group, const SqlRanking& ranking, Versions version) {
   switch (group) {
     case SqlColumns::Executions:
-      return {{F::EXECUTIONS, {"EXECUTIONS", &S::EXECUTIONS}}};
+      return {{"EXECUTIONS", F::EXECUTIONS, Kind::Count}};
     case SqlColumns::Total:
       return totalColumn(ranking);
     case SqlColumns::Percent:
       return {kShare};
     case SqlColumns::Cpu:
-      return {{F::CPU_TIME, {"CPU_TIME(S)", &S::CPU_TIME}},
-              {F::CPU_TIME_PEXEC, {"CPU_TIME_PEXEC(S)", &S::CPU_TIME_PEXEC}}};
+      return {{"CPU_TIME(S)", F::CPU_TIME, Kind::Count, unit::seconds},
+              {"CPU_TIME_PEXEC(S)", F::CPU_TIME_PEXEC, Kind::Ratio, unit::seconds}};
     case SqlColumns::Elapsed:
-      return {{F::ELAPSED_TIME, {"ELAPSED_TIME(S)", &S::ELAPSED_TIME}},
-              {F::ELAPSED_TIME_PEXEC, {"ELAPSED_TIME_PEXEC(S)", &S::ELAPSED_TIME_PEXEC}}};
+      return {{"ELAPSED_TIME(S)", F::ELAPSED_TIME, Kind::Count, unit::seconds},
+              {"ELAPSED_TIME_PEXEC(S)", F::ELAPSED_TIME_PEXEC, Kind::Ratio, unit::seconds}};
     case SqlColumns::Gets:
-      return {{F::BUFFER_GETS, {"BUFFER_GETS", &S::BUFFER_GETS}},
-              {F::BUFFER_GETS_PEXEC, {"BUFFER_GETS_PEXEC", &S::BUFFER_GETS_PEXEC}}};
+      return {{"BUFFER_GETS", F::BUFFER_GETS, Kind::Count, unit::blocks},
+              {"BUFFER_GETS_PEXEC", F::BUFFER_GETS_PEXEC, Kind::Ratio, unit::blocks}};
     case SqlColumns::Reads:
-      return {{F::DISK_READS, {"DISK_READS", &S::DISK_READS}},
-              {F::DISK_READS_PEXEC, {"DISK_READS_PEXEC", &S::DISK_READS_PEXEC}}};
+      return {{"DISK_READS", F::DISK_READS, Kind::Count, unit::blocks},
+              {"DISK_READS_PEXEC", F::DISK_READS_PEXEC, Kind::Ratio, unit::blocks}};
     case SqlColumns::Rows:
-      return {{F::ROWS_PROCESSED, {"ROWS_PROCESSED", &S::ROWS_PROCESSED}},
-              {F::ROWS_PROCESSED_PEXEC, {"ROWS_PROCESSED_PEXEC", &S::ROWS_PROCESSED_PEXEC}}};
+      return {{"ROWS_PROCESSED", F::ROWS_PROCESSED, Kind::Count},
+              {"ROWS_PROCESSED_PEXEC", F::ROWS_PROCESSED_PEXEC, Kind::Ratio}};
     case SqlColumns::IoWait:
       if (version == V9) return {};  // release 9.2 keeps no such time
-      return {{F::IO_WAIT_TIME, {"IO_WAIT_TIME(S)", &S::IO_WAIT_TIME}},
-              {F::IO_WAIT_TIME_PEXEC, {"IO_WAIT_TIME_PEXEC(S)", &S::IO_WAIT_TIME_PEXEC}}};
+      return {{"IO_WAIT_TIME(S)", F::IO_WAIT_TIME, Kind::Count, unit::seconds},
+              {"IO_WAIT_TIME_PEXEC(S)", F::IO_WAIT_TIME_PEXEC, Kind::Ratio, unit::seconds}};
     case SqlColumns::ClusterWait:
-      return {{F::CLUSTER_WAIT_TIME, {"CLUSTER_WAIT_TIME(S)", &S::CLUSTER_WAIT_TIME}},
-              {F::CLUSTER_WAIT_PRE_ELAPSED, {"CLUSTER_WAIT_%ELAPSED", &S::CLUSTER_WAIT_PRE_ELAPSED}},
-              {F::CLUSTER_WAIT_TIME_PEXEC, {"CLUSTER_WAIT_TIME_PEXEC(S)", &S::CLUSTER_WAIT_TIME_PEXEC}}};
+      return {{"CLUSTER_WAIT_TIME(S)", F::CLUSTER_WAIT_TIME, Kind::Count, unit::seconds},
+              {"CLUSTER_WAIT_%ELAPSED", F::CLUSTER_WAIT_PRE_ELAPSED, Kind::Share, unit::percent},
+              {"CLUSTER_WAIT_TIME_PEXEC(S)", F::CLUSTER_WAIT_TIME_PEXEC, Kind::Ratio, unit::seconds}};
     case SqlColumns::ParseCalls:
-      return {{F::PARSE_CALLS, {"PARSE_CALLS", &S::PARSE_CALLS}}};
+      return {{"PARSE_CALLS", F::PARSE_CALLS, Kind::Count}};
     case SqlColumns::SharableMemory:
       return sharableMemory(version);
     case SqlColumns::VersionCount:
@@ -155,9 +154,9 @@ const SqlRanking& sqlRanking(const std::string& name) {
   return *found;
 }
 
-const std::string& SqlColumn::alias() const {
+const std::string& sqlAlias(const SqlColumn& column) {
   static const std::vector<std::string> names = clsSQLorderedby::fieldNames();
-  return names[static_cast<std::size_t>(field)];
+  return names[column.field];
 }
 
 std::vector<SqlColumn> sqlColumns(const SqlRanking& ranking, Versions version) {

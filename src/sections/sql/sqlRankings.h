@@ -79,12 +79,9 @@ const std::vector<SqlRanking>& sqlRankings();
 /// The ranking of that name. Fails with std::out_of_range when there is none.
 const SqlRanking& sqlRanking(const std::string& name);
 
-struct SqlColumn {
-  clsSQLorderedby::Field field;
-  ViewColumn view;
-
-  const std::string& alias() const;
-};
+using SqlColumn = Column<clsSQLorderedby>;
+/// The alias that its statements give it.
+const std::string& sqlAlias(const SqlColumn& column);
 
 /// The columns of a ranking for one version (V9, V10 or V11), in the order of the report.
 std::vector<SqlColumn> sqlColumns(const SqlRanking& ranking, Versions version);

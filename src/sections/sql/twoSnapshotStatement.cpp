@@ -107,9 +107,9 @@ std::string shownColumns(const SqlRanking& ranking, Versions version) {
   const auto is = expressions(ranking);
   std::string text;
   for (const SqlColumn& column : sqlColumns(ranking, version)) {
-    const auto found = is.find(column.alias());
-    text += (text.empty() ? "" : ", ") + (found == is.end() ? "AA." + column.alias() : found->second) +
-            " AS " + column.alias();
+    const auto found = is.find(sqlAlias(column));
+    text += (text.empty() ? "" : ", ") + (found == is.end() ? "AA." + sqlAlias(column) : found->second) +
+            " AS " + sqlAlias(column);
   }
   return text;
 }

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/summary/clsCacheSize.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispCacheSize_All(Workspace& workspace, const std::string& version);
-void gDispCacheSize_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> cacheSizeViews();
 
 }  // namespace kestrelix

@@ -1,42 +1,40 @@
 #include "sections/summary/ModuleDispHostCPU.h"
 
-#include "report/GridRendering.h"
+#include "sections/summary/clsHostCPU.h"
 
 namespace kestrelix {
 namespace {
 
-using H = clsHostCPU;
+using F = clsHostCPU::Field;
+using Row = MetricRow<clsHostCPU>;
 
-MetricRow share(std::string label, std::string member, Accessor value) {
-  return {std::move(label), std::move(member), {{"OTHER VALUE", value}}};
+Row levels(std::string label, std::string member, F start, F end) {
+  return {.label = std::move(label),
+          .member = std::move(member),
+          .cells = {{"START", start, Kind::Level}, {"END", end, Kind::Level}}};
+}
+Row share(std::string label, std::string member, F value) {
+  return {.label = std::move(label),
+          .member = std::move(member),
+          .cells = {{"OTHER VALUE", value, Kind::Share, unit::percent}}};
 }
 
 /// The Col view of the last row bears the label of the row before; users know it so.
-MetricRow waitForCpu() {
-  MetricRow row = share("WCPU:", "getWCPU", &H::WCPU_VALUE);
+Row waitForCpu() {
+  Row row = share("WCPU:", "getWCPU", F::WCPU_VALUE);
   row.colLabel = "WIO:";
   return row;
 }
 
-const MetricView kView{{"START", "END", "OTHER VALUE"},
-                       {{"CPUs:", "getCPUS", {{"START", &H::CPUS_START}, {"END", &H::CPUS_END}}},
-                        {"Load Average:", "getLOAD", {{"START", &H::LOAD_START}, {"END", &H::LOAD_END}}},
-                        share("User:", "getUSER", &H::USER_VALUE),
-                        share("System:", "getSYSTEM", &H::SYSTEM_VALUE),
-                        share("Idle:", "getIDLE", &H::IDLE_VALUE),
-                        share("WIO:", "getWIO", &H::WIO_VALUE),
-                        waitForCpu()}};
+const MetricView<clsHostCPU> kView{
+    .headings = {"START", "END", "OTHER VALUE"},
+    .rows = {levels("CPUs:", "getCPUS", F::CPUS_START, F::CPUS_END),
+             levels("Load Average:", "getLOAD", F::LOAD_START, F::LOAD_END),
+             share("User:", "getUSER", F::USER_VALUE), share("System:", "getSYSTEM", F::SYSTEM_VALUE),
+             share("Idle:", "getIDLE", F::IDLE_VALUE), share("WIO:", "getWIO", F::WIO_VALUE), waitForCpu()}};
 
 }  // namespace
 
-void gDispHostCPU_All(Workspace& workspace, const std::string& version) {
-  clsHostCPU object;
-  renderMetricAll(workspace, object, kView, version);
-}
-
-void gDispHostCPU_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsHostCPU object;
-  renderMetricCol(workspace, object, kView, version, request.row);
-}
+std::vector<ReleaseViews> hostCPUViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/summary/clsHostCPU.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispHostCPU_All(Workspace& workspace, const std::string& version);
-void gDispHostCPU_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> hostCPUViews();
 
 }  // namespace kestrelix

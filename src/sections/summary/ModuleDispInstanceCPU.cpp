@@ -1,32 +1,29 @@
 #include "sections/summary/ModuleDispInstanceCPU.h"
 
-#include "report/GridRendering.h"
+#include "sections/summary/clsInstanceCPU.h"
 
 namespace kestrelix {
 namespace {
 
-using I = clsInstanceCPU;
+using F = clsInstanceCPU::Field;
+using Row = MetricRow<clsInstanceCPU>;
 
-const MetricView kView{
-    {"VALUE"},
-    {{"% of total CPU for Instance:",
-      "getPER_OF_TOTAL_CPU_FOR_INSTANCE",
-      {{"VALUE", &I::PER_OF_TOTAL_CPU_FOR_INSTANCE}}},
-     {"% of busy  CPU for Instance:",
-      "getPER_OF_BUSY_CPU_FOR_INSTANCE",
-      {{"VALUE", &I::PER_OF_BUSY_CPU_FOR_INSTANCE}}},
-     {"%DB time waiting for CPU - Resource Mgr:", "getPER_RESOURCE_MGR", {{"VALUE", &I::PER_RESOURCE_MGR}}}}};
+Row share(std::string label, std::string member, F value) {
+  return {.label = std::move(label),
+          .member = std::move(member),
+          .cells = {{"VALUE", value, Kind::Share, unit::percent}}};
+}
+
+const MetricView<clsInstanceCPU> kView{
+    .headings = {"VALUE"},
+    .rows = {share("% of total CPU for Instance:", "getPER_OF_TOTAL_CPU_FOR_INSTANCE",
+                   F::PER_OF_TOTAL_CPU_FOR_INSTANCE),
+             share("% of busy  CPU for Instance:", "getPER_OF_BUSY_CPU_FOR_INSTANCE",
+                   F::PER_OF_BUSY_CPU_FOR_INSTANCE),
+             share("%DB time waiting for CPU - Resource Mgr:", "getPER_RESOURCE_MGR", F::PER_RESOURCE_MGR)}};
 
 }  // namespace
 
-void gDispInstanceCPU_All(Workspace& workspace, const std::string& version) {
-  clsInstanceCPU object;
-  renderMetricAll(workspace, object, kView, version);
-}
-
-void gDispInstanceCPU_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsInstanceCPU object;
-  renderMetricCol(workspace, object, kView, version, request.row);
-}
+std::vector<ReleaseViews> instanceCPUViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

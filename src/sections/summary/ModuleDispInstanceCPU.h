@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/summary/clsInstanceCPU.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispInstanceCPU_All(Workspace& workspace, const std::string& version);
-void gDispInstanceCPU_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> instanceCPUViews();
 
 }  // namespace kestrelix

@@ -1,55 +1,53 @@
 #include "sections/summary/ModuleDispInstanceEfficiency.h"
 
-#include "report/GridRendering.h"
+#include "sections/summary/clsInstanceEfficiency.h"
 
 namespace kestrelix {
 namespace {
 
-using I = clsInstanceEfficiency;
+using F = clsInstanceEfficiency::Field;
+using Row = MetricRow<clsInstanceEfficiency>;
 
-MetricRow ratio(std::string label, std::string member, Accessor value) {
-  return {std::move(label), std::move(member), {{"OTHER VALUE", value}}};
+Row share(std::string label, std::string member, F value) {
+  return {.label = std::move(label),
+          .member = std::move(member),
+          .cells = {{"OTHER VALUE", value, Kind::Share, unit::percent}}};
 }
-MetricRow levels(std::string label, std::string member, Accessor start, Accessor end) {
-  return {std::move(label), std::move(member), {{"START", start}, {"END", end}}};
+Row shares(std::string label, std::string member, F start, F end) {
+  return {.label = std::move(label),
+          .member = std::move(member),
+          .cells = {{"START", start, Kind::Share, unit::percent}, {"END", end, Kind::Share, unit::percent}}};
 }
 
 /// Row 4 tells how sorts were done: in memory or on disk up to version 10, by work areas from 11 on.
-MetricView view(MetricRow row4) {
-  return {
-      {"START", "END", "OTHER VALUE"},
-      {ratio("Buffer Nowait %:", "getBUFFER_NOWAIT", &I::BUFFER_NOWAIT),
-       ratio("Redo NoWait %:", "getREDO_NOWAIT", &I::REDO_NOWAIT),
-       ratio("Buffer  Hit   %:", "getBUFFER_HIT", &I::BUFFER_HIT), std::move(row4),
-       ratio("Library Hit   %:", "getLIBRARY_HIT", &I::LIBRARY_HIT),
-       ratio("Soft Parse %:", "getSOFT_PARSE", &I::SOFT_PARSE),
-       ratio("Execute to Parse %:", "getEXECUTE_TO_PARSE", &I::EXECUTE_TO_PARSE),
-       ratio("Latch Hit %:", "getLATCH_HIT", &I::LATCH_HIT),
-       ratio("Parse CPU to Parse Elapsd %:", "getPARSE_CPU_TO_PARSE_ELAPSD", &I::PARSE_CPU_TO_PARSE_ELAPSD),
-       ratio("% Non-Parse CPU:", "getNON_PARSE_CPU", &I::NON_PARSE_CPU),
-       levels("Memory Usage %:", "getMEMORY_USAGE", &I::MEMORY_USAGE_START, &I::MEMORY_USAGE_END),
-       levels("% SQL with executions>1:", "getSQL_WITH_EXECUTIONS", &I::SQL_WITH_EXECUTIONS_START,
-              &I::SQL_WITH_EXECUTIONS_END),
-       levels("% Memory for SQL w/exec>1:", "getMEMORY_FOR_SQL_WEXEC", &I::MEMORY_FOR_SQL_WEXEC_START,
-              &I::MEMORY_FOR_SQL_WEXEC_END)}};
+MetricView<clsInstanceEfficiency> viewWith(Row row4) {
+  return {.headings = {"START", "END", "OTHER VALUE"},
+          .rows = {share("Buffer Nowait %:", "getBUFFER_NOWAIT", F::BUFFER_NOWAIT),
+                   share("Redo NoWait %:", "getREDO_NOWAIT", F::REDO_NOWAIT),
+                   share("Buffer  Hit   %:", "getBUFFER_HIT", F::BUFFER_HIT), std::move(row4),
+                   share("Library Hit   %:", "getLIBRARY_HIT", F::LIBRARY_HIT),
+                   share("Soft Parse %:", "getSOFT_PARSE", F::SOFT_PARSE),
+                   share("Execute to Parse %:", "getEXECUTE_TO_PARSE", F::EXECUTE_TO_PARSE),
+                   share("Latch Hit %:", "getLATCH_HIT", F::LATCH_HIT),
+                   share("Parse CPU to Parse Elapsd %:", "getPARSE_CPU_TO_PARSE_ELAPSD",
+                         F::PARSE_CPU_TO_PARSE_ELAPSD),
+                   share("% Non-Parse CPU:", "getNON_PARSE_CPU", F::NON_PARSE_CPU),
+                   shares("Memory Usage %:", "getMEMORY_USAGE", F::MEMORY_USAGE_START, F::MEMORY_USAGE_END),
+                   shares("% SQL with executions>1:", "getSQL_WITH_EXECUTIONS", F::SQL_WITH_EXECUTIONS_START,
+                          F::SQL_WITH_EXECUTIONS_END),
+                   shares("% Memory for SQL w/exec>1:", "getMEMORY_FOR_SQL_WEXEC",
+                          F::MEMORY_FOR_SQL_WEXEC_START, F::MEMORY_FOR_SQL_WEXEC_END)}};
 }
 
-const MetricView kViewOf9And10 = view(ratio("In-memory Sort %:", "getIN_MEMORY_SORT", &I::IN_MEMORY_SORT));
-const MetricView kViewOf11 = view(ratio("Optimal W/A Exec %:", "getOPTIMAL_WA_EXEC", &I::OPTIMAL_WA_EXEC));
-
-const MetricView& viewOf(const std::string& version) { return version == "11" ? kViewOf11 : kViewOf9And10; }
+const MetricView<clsInstanceEfficiency> kViewOf9And10 =
+    viewWith(share("In-memory Sort %:", "getIN_MEMORY_SORT", F::IN_MEMORY_SORT));
+const MetricView<clsInstanceEfficiency> kViewOf11 =
+    viewWith(share("Optimal W/A Exec %:", "getOPTIMAL_WA_EXEC", F::OPTIMAL_WA_EXEC));
 
 }  // namespace
 
-void gDispInstanceEfficiency_All(Workspace& workspace, const std::string& version) {
-  clsInstanceEfficiency object;
-  renderMetricAll(workspace, object, viewOf(version), version);
-}
-
-void gDispInstanceEfficiency_Col(Workspace& workspace, const std::string& version,
-                                 const ColRequest& request) {
-  clsInstanceEfficiency object;
-  renderMetricCol(workspace, object, viewOf(version), version, request.row);
+std::vector<ReleaseViews> instanceEfficiencyViews() {
+  return {viewsOf(V9_10, kViewOf9And10), viewsOf(V11, kViewOf11)};
 }
 
 }  // namespace kestrelix

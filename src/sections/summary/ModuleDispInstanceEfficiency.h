@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/summary/clsInstanceEfficiency.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispInstanceEfficiency_All(Workspace& workspace, const std::string& version);
-void gDispInstanceEfficiency_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> instanceEfficiencyViews();
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/summary/clsLoadProfile.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispLoadProfile_All(Workspace& workspace, const std::string& version);
-void gDispLoadProfile_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> loadProfileViews();
 
 }  // namespace kestrelix

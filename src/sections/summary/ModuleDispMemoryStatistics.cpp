@@ -1,34 +1,35 @@
 #include "sections/summary/ModuleDispMemoryStatistics.h"
 
-#include "report/GridRendering.h"
+#include "sections/summary/clsMemoryStatistics.h"
 
 namespace kestrelix {
 namespace {
 
-using M = clsMemoryStatistics;
+using F = clsMemoryStatistics::Field;
+using Row = MetricRow<clsMemoryStatistics>;
 
-MetricRow levels(std::string label, std::string member, Accessor start, Accessor end) {
-  return {std::move(label), std::move(member), {{"START", start}, {"END", end}}};
+Row levels(std::string label, std::string member, F start, F end) {
+  return {
+      .label = std::move(label),
+      .member = std::move(member),
+      .cells = {{"START", start, Kind::Level, unit::megabytes}, {"END", end, Kind::Level, unit::megabytes}}};
+}
+Row shares(std::string label, std::string member, F start, F end) {
+  return {.label = std::move(label),
+          .member = std::move(member),
+          .cells = {{"START", start, Kind::Share, unit::percent}, {"END", end, Kind::Share, unit::percent}}};
 }
 
-const MetricView kView{
-    {"START", "END"},
-    {levels("Host Mem (MB):", "getHOST_MEM_MB", &M::HOST_MEM_MB_START, &M::HOST_MEM_MB_END),
-     levels("SGA use (MB):", "getSGA_USE_MB", &M::SGA_USE_MB_START, &M::SGA_USE_MB_END),
-     levels("PGA use (MB):", "getPGA_USE_MB", &M::PGA_USE_MB_START, &M::PGA_USE_MB_END),
-     levels("% Host Mem used for SGA+PGA:", "getHOST_MEM_USE_FOR_SGA_PGA", &M::HOST_MEM_USE_FOR_SGA_PGA_START,
-            &M::HOST_MEM_USE_FOR_SGA_PGA_END)}};
+const MetricView<clsMemoryStatistics> kView{
+    .headings = {"START", "END"},
+    .rows = {levels("Host Mem (MB):", "getHOST_MEM_MB", F::HOST_MEM_MB_START, F::HOST_MEM_MB_END),
+             levels("SGA use (MB):", "getSGA_USE_MB", F::SGA_USE_MB_START, F::SGA_USE_MB_END),
+             levels("PGA use (MB):", "getPGA_USE_MB", F::PGA_USE_MB_START, F::PGA_USE_MB_END),
+             shares("% Host Mem used for SGA+PGA:", "getHOST_MEM_USE_FOR_SGA_PGA",
+                    F::HOST_MEM_USE_FOR_SGA_PGA_START, F::HOST_MEM_USE_FOR_SGA_PGA_END)}};
 
 }  // namespace
 
-void gDispMemoryStatistics_All(Workspace& workspace, const std::string& version) {
-  clsMemoryStatistics object;
-  renderMetricAll(workspace, object, kView, version);
-}
-
-void gDispMemoryStatistics_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsMemoryStatistics object;
-  renderMetricCol(workspace, object, kView, version, request.row);
-}
+std::vector<ReleaseViews> memoryStatisticsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/summary/clsMemoryStatistics.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispMemoryStatistics_All(Workspace& workspace, const std::string& version);
-void gDispMemoryStatistics_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> memoryStatisticsViews();
 
 }  // namespace kestrelix

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/summary/clsSnapshot.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispSnapshot_All(Workspace& workspace, const std::string& version);
-void gDispSnapshot_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> snapshotViews();
 
 }  // namespace kestrelix

@@ -1,26 +1,21 @@
 #include "sections/summary/ModuleDispTimeModelSystemStats.h"
 
-#include "report/GridRendering.h"
+#include "sections/summary/clsTimeModelSystemStats.h"
 
 namespace kestrelix {
 namespace {
 
-using T = clsTimeModelSystemStats;
+using F = clsTimeModelSystemStats::Field;
 
-const ListView kView{
-    {{"STATISTIC", &T::STATISTIC}, {"TIME (S)", &T::TIME_VALUE}, {"% OF DB TIME", &T::PER_DBTIME_VALUE}}};
+const ListView<clsTimeModelSystemStats> kView{
+    .all = "getTIME_MODEL_SYSTEM_STATS_ALL",
+    .col = "getTIME_MODEL_SYSTEM_STATS_COL",
+    .columns = {{"STATISTIC", F::STATISTIC, Kind::Key},
+                {"TIME (S)", F::TIME_VALUE, Kind::Count, unit::seconds},
+                {"% OF DB TIME", F::PER_DBTIME_VALUE, Kind::Share, unit::percent}}};
 
 }  // namespace
 
-void gDispTimeModelSystemStats_All(Workspace& workspace, const std::string& version) {
-  clsTimeModelSystemStats object;
-  renderListAll(workspace, object, "getTIME_MODEL_SYSTEM_STATS_ALL", kView, version);
-}
-
-void gDispTimeModelSystemStats_Col(Workspace& workspace, const std::string& version,
-                                   const ColRequest& request) {
-  clsTimeModelSystemStats object;
-  renderListCol(workspace, object, "getTIME_MODEL_SYSTEM_STATS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> timeModelSystemStatsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,28 +1,26 @@
 #include "sections/summary/ModuleDispVirtualMemoryPaging.h"
 
-#include "report/GridRendering.h"
+#include "sections/summary/clsVirtualMemoryPaging.h"
 
 namespace kestrelix {
 namespace {
 
-using V = clsVirtualMemoryPaging;
+using F = clsVirtualMemoryPaging::Field;
+using Row = MetricRow<clsVirtualMemoryPaging>;
 
-const MetricView kView{
-    {"VALUE"},
-    {{"KB paged out per sec:", "getKE_PAGED_OUT_PER_SEC", {{"VALUE", &V::KE_PAGED_OUT_PER_SEC}}},
-     {"KB paged  in per sec:", "getKE_PAGED_IN_PER_SEC", {{"VALUE", &V::KE_PAGED_IN_PER_SEC}}}}};
+Row rate(std::string label, std::string member, F value) {
+  return {.label = std::move(label),
+          .member = std::move(member),
+          .cells = {{"VALUE", value, Kind::Rate, unit::kilobytes}}};
+}
+
+const MetricView<clsVirtualMemoryPaging> kView{
+    .headings = {"VALUE"},
+    .rows = {rate("KB paged out per sec:", "getKE_PAGED_OUT_PER_SEC", F::KE_PAGED_OUT_PER_SEC),
+             rate("KB paged  in per sec:", "getKE_PAGED_IN_PER_SEC", F::KE_PAGED_IN_PER_SEC)}};
 
 }  // namespace
 
-void gDispVirtualMemoryPaging_All(Workspace& workspace, const std::string& version) {
-  clsVirtualMemoryPaging object;
-  renderMetricAll(workspace, object, kView, version);
-}
-
-void gDispVirtualMemoryPaging_Col(Workspace& workspace, const std::string& version,
-                                  const ColRequest& request) {
-  clsVirtualMemoryPaging object;
-  renderMetricCol(workspace, object, kView, version, request.row);
-}
+std::vector<ReleaseViews> virtualMemoryPagingViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/summary/clsVirtualMemoryPaging.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispVirtualMemoryPaging_All(Workspace& workspace, const std::string& version);
-void gDispVirtualMemoryPaging_Col(Workspace& workspace, const std::string& version,
-                                  const ColRequest& request);
+std::vector<ReleaseViews> virtualMemoryPagingViews();
 
 }  // namespace kestrelix

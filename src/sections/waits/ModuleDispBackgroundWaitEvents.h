@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/waits/clsBackgroundWaitEvents.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispBackgroundWaitEvents_All(Workspace& workspace, const std::string& version);
-void gDispBackgroundWaitEvents_Col(Workspace& workspace, const std::string& version,
-                                   const ColRequest& request);
+std::vector<ReleaseViews> backgroundWaitEventsViews();
 
 }  // namespace kestrelix

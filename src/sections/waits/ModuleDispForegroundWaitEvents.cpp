@@ -1,31 +1,25 @@
 #include "sections/waits/ModuleDispForegroundWaitEvents.h"
 
-#include "report/GridRendering.h"
+#include "sections/waits/clsForegroundWaitEvents.h"
 
 namespace kestrelix {
 namespace {
 
-using F = clsForegroundWaitEvents;
+using F = clsForegroundWaitEvents::Field;
 
-const ListView kView{{{"EVENT", &F::EVENT_NAME},
-                      {"WAITS", &F::WAITS},
-                      {"%TIMEOUT", &F::PCTTO},
-                      {"TOTAL WAIT TIME(S)", &F::TIME_SEC},
-                      {"AVG WAIT(MS)", &F::AVWT_FMT},
-                      {"WAITS/TXN", &F::TXWAITS},
-                      {"%TOTAL CALL TIME", &F::PCTTCT}}};
+const ListView<clsForegroundWaitEvents> kView{
+    .all = "getFOREGROUND_WAIT_EVENTS_ALL",
+    .col = "getFOREGROUND_WAIT_EVENTS_COL",
+    .columns = {{"EVENT", F::EVENT_NAME, Kind::Key},
+                {"WAITS", F::WAITS, Kind::Count},
+                {"%TIMEOUT", F::PCTTO, Kind::Share, unit::percent},
+                {"TOTAL WAIT TIME(S)", F::TIME_SEC, Kind::Count, unit::seconds},
+                {"AVG WAIT(MS)", F::AVWT_FMT, Kind::Average, unit::milliseconds},
+                {"WAITS/TXN", F::TXWAITS, Kind::Ratio},
+                {"%TOTAL CALL TIME", F::PCTTCT, Kind::Share, unit::percent}}};
 
 }  // namespace
 
-void gDispForegroundWaitEvents_All(Workspace& workspace, const std::string& version) {
-  clsForegroundWaitEvents object;
-  renderListAll(workspace, object, "getFOREGROUND_WAIT_EVENTS_ALL", kView, version);
-}
-
-void gDispForegroundWaitEvents_Col(Workspace& workspace, const std::string& version,
-                                   const ColRequest& request) {
-  clsForegroundWaitEvents object;
-  renderListCol(workspace, object, "getFOREGROUND_WAIT_EVENTS_COL", kView, version, request.keys);
-}
+std::vector<ReleaseViews> foregroundWaitEventsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

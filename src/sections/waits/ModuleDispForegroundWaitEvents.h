@@ -1,12 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/waits/clsForegroundWaitEvents.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispForegroundWaitEvents_All(Workspace& workspace, const std::string& version);
-void gDispForegroundWaitEvents_Col(Workspace& workspace, const std::string& version,
-                                   const ColRequest& request);
+std::vector<ReleaseViews> foregroundWaitEventsViews();
 
 }  // namespace kestrelix

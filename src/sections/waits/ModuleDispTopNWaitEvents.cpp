@@ -1,30 +1,30 @@
 #include "sections/waits/ModuleDispTopNWaitEvents.h"
 
-#include "report/GridRendering.h"
+#include "sections/waits/clsTopNWaitEvents.h"
 
 namespace kestrelix {
 namespace {
 
-using T = clsTopNWaitEvents;
+using F = clsTopNWaitEvents::Field;
 
-const ListView kView{{{"EVENT", &T::EVENT_NAME},
-                      {"WAITS", &T::WAITS_VALUE},
-                      {"TIME (S)", &T::TIME_SECOND},
-                      {"AVG WAIT (MS)", &T::AVWAIT_VALUE},
-                      {"%TOTAL CALL TIME", &T::PCTWTT_VALUE}}};
 const std::string kListed = "5";
 const std::string kNoLimit = "0";  // the statement of one event doesn't ask for it
 
+std::vector<std::string> ofOneEvent(const std::vector<std::string>& keys) { return {kNoLimit, keys.at(0)}; }
+
+const ListView<clsTopNWaitEvents> kView{
+    .all = "getTOP_N_WAIT_EVENTS",
+    .col = "getTOP_T_WAIT_EVENTS",
+    .columns = {{"EVENT", F::EVENT_NAME, Kind::Key},
+                {"WAITS", F::WAITS_VALUE, Kind::Count},
+                {"TIME (S)", F::TIME_SECOND, Kind::Count, unit::seconds},
+                {"AVG WAIT (MS)", F::AVWAIT_VALUE, Kind::Average, unit::milliseconds},
+                {"%TOTAL CALL TIME", F::PCTWTT_VALUE, Kind::Share, unit::percent}},
+    .allArguments = {kListed},
+    .colArguments = ofOneEvent};
+
 }  // namespace
 
-void gDispTopNWaitEvents_All(Workspace& workspace, const std::string& version) {
-  clsTopNWaitEvents object;
-  renderListAll(workspace, object, "getTOP_N_WAIT_EVENTS", kView, version, {kListed, ""});
-}
-
-void gDispTopNWaitEvents_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsTopNWaitEvents object;
-  renderListCol(workspace, object, "getTOP_T_WAIT_EVENTS", kView, version, {kNoLimit, request.keys.at(0)});
-}
+std::vector<ReleaseViews> topNWaitEventsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

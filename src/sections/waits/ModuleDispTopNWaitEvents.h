@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/waits/clsTopNWaitEvents.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispTopNWaitEvents_All(Workspace& workspace, const std::string& version);
-void gDispTopNWaitEvents_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> topNWaitEventsViews();
 
 }  // namespace kestrelix

@@ -1,34 +1,27 @@
 #include "sections/waits/ModuleDispWaitEventHistogram.h"
 
-#include "report/GridRendering.h"
+#include "sections/waits/clsWaitEventHistogram.h"
 
 namespace kestrelix {
 namespace {
 
-using W = clsWaitEventHistogram;
+using F = clsWaitEventHistogram::Field;
 
-const ListView kView{{{"EVENT", &W::EVENT_NAME},
-                      {"TOTAL WAITS", &W::TOTAL_WAITS},
-                      {"<1ms", &W::COL01MS},
-                      {"<2ms", &W::COL02MS},
-                      {"<4ms", &W::COL04MS},
-                      {"<8ms", &W::COL08MS},
-                      {"<16ms", &W::COL16MS},
-                      {"<32ms", &W::COL32MS},
-                      {"<=1s", &W::COL01S},
-                      {">1s", &W::COL01SOVER}}};
+const ListView<clsWaitEventHistogram> kView{.all = "getWAIT_EVENT_HISTOGRAM",
+                                            .col = "getT_WAIT_EVENT_HISTOGRAM",
+                                            .columns = {{"EVENT", F::EVENT_NAME, Kind::Key},
+                                                        {"TOTAL WAITS", F::TOTAL_WAITS, Kind::Count},
+                                                        {"<1ms", F::COL01MS, Kind::Share, unit::percent},
+                                                        {"<2ms", F::COL02MS, Kind::Share, unit::percent},
+                                                        {"<4ms", F::COL04MS, Kind::Share, unit::percent},
+                                                        {"<8ms", F::COL08MS, Kind::Share, unit::percent},
+                                                        {"<16ms", F::COL16MS, Kind::Share, unit::percent},
+                                                        {"<32ms", F::COL32MS, Kind::Share, unit::percent},
+                                                        {"<=1s", F::COL01S, Kind::Share, unit::percent},
+                                                        {">1s", F::COL01SOVER, Kind::Share, unit::percent}}};
 
 }  // namespace
 
-void gDispWaitEventHistogram_All(Workspace& workspace, const std::string& version) {
-  clsWaitEventHistogram object;
-  renderListAll(workspace, object, "getWAIT_EVENT_HISTOGRAM", kView, version);
-}
-
-void gDispWaitEventHistogram_Col(Workspace& workspace, const std::string& version,
-                                 const ColRequest& request) {
-  clsWaitEventHistogram object;
-  renderListCol(workspace, object, "getT_WAIT_EVENT_HISTOGRAM", kView, version, request.keys);
-}
+std::vector<ReleaseViews> waitEventHistogramViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

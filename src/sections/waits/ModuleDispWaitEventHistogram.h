@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/waits/clsWaitEventHistogram.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispWaitEventHistogram_All(Workspace& workspace, const std::string& version);
-void gDispWaitEventHistogram_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> waitEventHistogramViews();
 
 }  // namespace kestrelix

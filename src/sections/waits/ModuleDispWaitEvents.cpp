@@ -1,29 +1,24 @@
 #include "sections/waits/ModuleDispWaitEvents.h"
 
-#include "report/GridRendering.h"
+#include "sections/waits/clsWaitEvents.h"
 
 namespace kestrelix {
 namespace {
 
-using W = clsWaitEvents;
+using F = clsWaitEvents::Field;
 
-const ListView kView{{{"EVENT", &W::EVENT_NAME},
-                      {"WAITS", &W::WAITS_VALUE},
-                      {"%TIME-OUTS", &W::TIME_OUTS_VALUE},
-                      {"TOTAL WAIT TIME(S)", &W::TOTAL_WAIT_TIME_VALUSE},
-                      {"AVG WAIT(MS)", &W::AVG_WAIT_VALUE},
-                      {"WAITS/TXN", &W::WAITS_TXN_VALUE}}};
+const ListView<clsWaitEvents> kView{
+    .all = "getWAIT_EVENTS",
+    .col = "getT_WAIT_EVENTS",
+    .columns = {{"EVENT", F::EVENT_NAME, Kind::Key},
+                {"WAITS", F::WAITS_VALUE, Kind::Count},
+                {"%TIME-OUTS", F::TIME_OUTS_VALUE, Kind::Share, unit::percent},
+                {"TOTAL WAIT TIME(S)", F::TOTAL_WAIT_TIME_VALUSE, Kind::Count, unit::seconds},
+                {"AVG WAIT(MS)", F::AVG_WAIT_VALUE, Kind::Average, unit::milliseconds},
+                {"WAITS/TXN", F::WAITS_TXN_VALUE, Kind::Ratio}}};
 
 }  // namespace
 
-void gDispWaitEvents_All(Workspace& workspace, const std::string& version) {
-  clsWaitEvents object;
-  renderListAll(workspace, object, "getWAIT_EVENTS", kView, version);
-}
-
-void gDispWaitEvents_Col(Workspace& workspace, const std::string& version, const ColRequest& request) {
-  clsWaitEvents object;
-  renderListCol(workspace, object, "getT_WAIT_EVENTS", kView, version, request.keys);
-}
+std::vector<ReleaseViews> waitEventsViews() { return {viewsOf(kAllVersions, kView)}; }
 
 }  // namespace kestrelix

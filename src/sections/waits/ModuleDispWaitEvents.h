@@ -1,11 +1,9 @@
 #pragma once
 
-#include "report/SectionEntry.h"
-#include "sections/waits/clsWaitEvents.h"
+#include "report/views.h"
 
 namespace kestrelix {
 
-void gDispWaitEvents_All(Workspace& workspace, const std::string& version);
-void gDispWaitEvents_Col(Workspace& workspace, const std::string& version, const ColRequest& request);
+std::vector<ReleaseViews> waitEventsViews();
 
 }  // namespace kestrelix

@@ -1,4 +1,4 @@
-#include "navigation/ModuleLoadCommon.h"
+#include "shell/ModuleLoadCommon.h"
 
 #include <stdexcept>
 
@@ -42,20 +42,17 @@ std::string pairLine(const clsSnapId& pairs, int i) {
          left(pairs.REPORT_STATUS(i), 15);
 }
 
-bool fail(Workspace& workspace, const std::string& text) {
-  workspace.boxes.show(BoxIcon::Critical, text);
-  return false;
+/// Shows the boxes of a load; true without any.
+bool loaded(Workspace& workspace, const Failures& failures) {
+  showFailures(workspace.boxes, failures);
+  return failures.empty();
 }
 
 }  // namespace
 
 bool gDispDbInstance_Load(Workspace& workspace) {
-  workspace.gDbInstance = std::make_unique<clsDbInstance>();
-  clsDbInstance& instances = *workspace.gDbInstance;
-  instances.Initialize(*workspace.gOraDatabase, workspace.boxes);
-  if (!instances.getDB_INSTANCE()) return fail(workspace, "DB_INSTANCEの取得に失敗しました");
-  if (instances.rownum() == 0) return fail(workspace, "有効なDB_INSTANCE情報が存在しませんでした");
-
+  if (!loaded(workspace, workspace.repository.loadInstances())) return false;
+  const clsDbInstance& instances = *workspace.repository.gDbInstance;
   ComboBox& combo = workspace.controls.ComboDbInstance;
   combo.Clear();
   for (int i = 0; i < instances.rownum(); ++i) combo.AddItem(instanceLine(instances, i), i);
@@ -64,18 +61,8 @@ bool gDispDbInstance_Load(Workspace& workspace) {
 
 bool gDispSnapId_Load(Workspace& workspace, const std::string& dbid, const std::string& instanceNumber,
                       bool useRange) {
-  // A rendering that failed has left its binds in place.
-  workspace.gOraDatabase->parameters().clear();
-  workspace.gSnapId = std::make_unique<clsSnapId>();
-  clsSnapId& pairs = *workspace.gSnapId;
-  pairs.Initialize(*workspace.gOraDatabase, workspace.boxes);
-  const std::string startId = useRange ? workspace.gSnapRange->GET_START_ID() : std::string();
-  const std::string endId = useRange ? workspace.gSnapRange->GET_END_ID() : std::string();
-  pairs.setBAIND_VALUE(dbid, instanceNumber, startId, endId);
-  if (!pairs.getSTART_END_SNAP_ID(useRange)) return fail(workspace, "SNAP_IDの取得に失敗しました");
-  pairs.unsetBAIND_VALUE();
-  if (pairs.rownum() == 0) return fail(workspace, "SNAP_IDが2件未満でした");
-
+  if (!loaded(workspace, workspace.repository.loadPairs(dbid, instanceNumber, useRange))) return false;
+  const clsSnapId& pairs = *workspace.repository.gSnapId;
   ListBox& list = workspace.controls.ListSnapId;
   list.Clear();
   for (int i = 0; i < pairs.rownum(); ++i) list.AddItem(pairLine(pairs, i), i);

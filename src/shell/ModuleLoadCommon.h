@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "navigation/workspace.h"
+#include "shell/workspace.h"
 
 namespace kestrelix {
 

@@ -2,8 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "navigation/ModuleLoadCommon.h"
-#include "navigation/ModuleRangeCommon.h"
+#include "shell/ModuleLoadCommon.h"
+#include "shell/ModuleRangeCommon.h"
 #include "support/recording_boxes.h"
 #include "support/snapshots.h"
 
@@ -28,8 +28,7 @@ const std::vector<SnapshotRow> kFour{{"1", "2026-01-05 10:00:00"},
 class Range : public testing::Test {
  protected:
   Range() {
-    workspace.gOraDatabase = std::make_unique<FakeDatabase>(server);
-    workspace.gSnapRange = std::make_unique<clsSnapRange>(boxes);
+    workspace.repository.gOraDatabase = std::make_unique<FakeDatabase>(server);
     workspace.unloadMain = [this] { ++unloads; };
     layInstance(server, "1001", "10.2.0.4.0", "1");
     laySnapshots(server, kFour);
@@ -60,8 +59,8 @@ TEST_F(Range, choosingAnInstanceTakesTheWholeListAndItsFirstRows) {
   EXPECT_EQ(pairs().ListIndex(), 0);
   EXPECT_EQ(workspace.controls.ListSection.ListIndex(), 0);
   EXPECT_EQ(pairClicks, 1);
-  EXPECT_EQ(workspace.gSnapRange->GET_START_ID(), "1");
-  EXPECT_EQ(workspace.gSnapRange->GET_END_ID(), "4");
+  EXPECT_EQ(workspace.repository.gSnapRange.GET_START_ID(), "1");
+  EXPECT_EQ(workspace.repository.gSnapRange.GET_END_ID(), "4");
 }
 
 TEST_F(Range, startMakesTheSelectedPairTheFirst) {
@@ -72,7 +71,7 @@ TEST_F(Range, startMakesTheSelectedPairTheFirst) {
   EXPECT_EQ(server.asked.back().binds.at("B4").second, "4");
   EXPECT_EQ(pairs().ListCount(), 2);
   EXPECT_EQ(pairs().ListIndex(), 0);
-  EXPECT_EQ(workspace.gSnapRange->GET_START_ID(), "2");
+  EXPECT_EQ(workspace.repository.gSnapRange.GET_START_ID(), "2");
 }
 
 TEST_F(Range, endMakesTheSelectedPairTheLast) {
@@ -82,7 +81,7 @@ TEST_F(Range, endMakesTheSelectedPairTheLast) {
   EXPECT_EQ(server.asked.back().binds.at("B3").second, "1");
   EXPECT_EQ(server.asked.back().binds.at("B4").second, "3");
   EXPECT_EQ(pairs().ListCount(), 2);
-  EXPECT_EQ(workspace.gSnapRange->GET_END_ID(), "3");
+  EXPECT_EQ(workspace.repository.gSnapRange.GET_END_ID(), "3");
 }
 
 TEST_F(Range, startOnTheLastPairLeavesOne) {
@@ -113,13 +112,16 @@ TEST_F(Range, narrowingKeepsTheSectionAndChoosingTheInstanceAgainUndoesIt) {
   gFrameRangeDataInit(workspace);
   EXPECT_EQ(pairs().ListCount(), 3);
   EXPECT_EQ(workspace.controls.ListSection.ListIndex(), 0);
-  EXPECT_EQ(workspace.gSnapRange->GET_START_ID(), "1");
+  EXPECT_EQ(workspace.repository.gSnapRange.GET_START_ID(), "1");
 }
 
 TEST_F(Range, withoutASelectedPairTheRangesMemberShowsItsBox) {
   pairs().ListIndex(-1);
-  EXPECT_FALSE(workspace.gSnapRange->gSetStartId(pairs().ListIndex()));
-  EXPECT_FALSE(workspace.gSnapRange->gSetEndId(pairs().ListIndex()));
+  Failures failures;
+  Repository& repository = workspace.repository;
+  EXPECT_FALSE(repository.gSnapRange.gSetStartId(*repository.gSnapId, pairs().ListIndex(), failures));
+  EXPECT_FALSE(repository.gSnapRange.gSetEndId(*repository.gSnapId, pairs().ListIndex(), failures));
+  showFailures(boxes, failures);
   EXPECT_THAT(boxes.shown, ElementsAre("[Critical] (clsSnapRange){gSetStartId} Error",
                                        "[Critical] (clsSnapRange){gSetEndId} Error"));
 }

@@ -2,8 +2,8 @@
 
 #include <set>
 
-#include "report/ModuleDispCommon.h"
 #include "sections/SectionList.h"
+#include "shell/ModuleDispCommon.h"
 #include "support/recording_boxes.h"
 
 namespace kestrelix {
@@ -116,14 +116,14 @@ TEST_F(Catalogue, theSecondCacheSectionsStandOnAClusterAlone) {
 
 TEST_F(Catalogue, namesAreUnique) {
   std::set<std::string_view> texts;
-  for (const SectionEntry& entry : sectionList()) EXPECT_TRUE(texts.insert(entry.text).second) << entry.text;
+  for (const Section& entry : sectionList()) EXPECT_TRUE(texts.insert(entry.text).second) << entry.text;
 }
 
 TEST_F(Catalogue, anUnknownTextDoesNothing) {
   workspace.controls.ListSection.AddItem("ListSection");
   workspace.controls.ListSection.ListIndex(0);
-  gDispSectionAll(workspace, sectionList(), "");
-  gDispSectionCol(workspace, sectionList(), "");
+  gDispSectionAll(workspace, directReader(), sectionList(), "");
+  gDispSectionCol(workspace, directReader(), sectionList(), "");
   EXPECT_TRUE(boxes.shown.empty());
 }
 

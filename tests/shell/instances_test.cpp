@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "navigation/ModuleLoadCommon.h"
+#include "shell/ModuleLoadCommon.h"
 #include "support/recording_boxes.h"
 #include "support/snapshots.h"
 
@@ -17,7 +17,7 @@ using testing_support::RecordingBoxes;
 
 class Instances : public testing::Test {
  protected:
-  Instances() { workspace.gOraDatabase = std::make_unique<FakeDatabase>(server); }
+  Instances() { workspace.repository.gOraDatabase = std::make_unique<FakeDatabase>(server); }
   const ComboBox& combo() const { return workspace.controls.ComboDbInstance; }
 
   FakeServer server;
@@ -46,7 +46,7 @@ TEST_F(Instances, twoInstancesOfOneDatabaseAreTwoRows) {
   ASSERT_TRUE(gDispDbInstance_Load(workspace));
   EXPECT_EQ(combo().ListCount(), 2);
   EXPECT_EQ(combo().ItemData(1), 1);
-  EXPECT_EQ(workspace.gDbInstance->INSTANCE_NUMBER(1), "2");
+  EXPECT_EQ(workspace.repository.gDbInstance->INSTANCE_NUMBER(1), "2");
 }
 
 TEST_F(Instances, aFieldOfItsColumnsWidthJoinsItsLeftNeighbour) {

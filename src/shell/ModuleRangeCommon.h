@@ -2,7 +2,7 @@
 // with. Each shows its box and gives false on a failure; a failed load of the pairs unloads the main window.
 #pragma once
 
-#include "navigation/workspace.h"
+#include "shell/workspace.h"
 
 namespace kestrelix {
 

@@ -1,7 +1,7 @@
-#include "navigation/ModuleRangeCommon.h"
+#include "shell/ModuleRangeCommon.h"
 
-#include "navigation/ModuleLoadCommon.h"
-#include "platform/guarded.h"
+#include "platform/failure.h"
+#include "shell/ModuleLoadCommon.h"
 
 namespace kestrelix {
 namespace {
@@ -12,21 +12,25 @@ constexpr const char* kModule = "ModuleRangeCommon";
 /// select.
 bool loadPairs(Workspace& workspace, bool useRange) {
   const int instance = workspace.controls.ComboDbInstance.ListIndex();
-  if (gDispSnapId_Load(workspace, workspace.gDbInstance->dbid(instance),
-                       workspace.gDbInstance->INSTANCE_NUMBER(instance), useRange))
+  if (gDispSnapId_Load(workspace, workspace.repository.gDbInstance->dbid(instance),
+                       workspace.repository.gDbInstance->INSTANCE_NUMBER(instance), useRange))
     return true;
   workspace.unloadMain();
   return false;
 }
 
-bool narrow(Workspace& workspace, const char* member, bool (clsSnapRange::*take)(int)) {
+bool narrow(Workspace& workspace, const char* member,
+            bool (clsSnapRange::*take)(const clsSnapId&, int, Failures&)) {
+  Repository& repository = workspace.repository;
   bool loaded = false;
   const bool done = guarded(workspace.boxes, kModule, member, [&] {
-    (*workspace.gSnapRange.*take)(workspace.controls.ListSnapId.ListIndex());
+    Failures failures;
+    (repository.gSnapRange.*take)(*repository.gSnapId, workspace.controls.ListSnapId.ListIndex(), failures);
+    showFailures(workspace.boxes, failures);
     loaded = loadPairs(workspace, true);
     if (!loaded) return;
     workspace.controls.ListSnapId.ListIndex(0);
-    workspace.gSnapRange->Initialize(*workspace.gSnapId);
+    repository.gSnapRange.Initialize(*repository.gSnapId);
   });
   return done && loaded;
 }
@@ -40,7 +44,7 @@ bool gFrameRangeDataInit(Workspace& workspace) {
     if (!loaded) return;
     workspace.controls.ListSection.ListIndex(0);
     workspace.controls.ListSnapId.ListIndex(0);
-    workspace.gSnapRange->Initialize(*workspace.gSnapId);
+    workspace.repository.gSnapRange.Initialize(*workspace.repository.gSnapId);
   });
   return done && loaded;
 }

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "navigation/ModuleLoadCommon.h"
+#include "shell/ModuleLoadCommon.h"
 #include "support/recording_boxes.h"
 #include "support/snapshots.h"
 
@@ -18,13 +18,13 @@ using testing_support::RecordingBoxes;
 
 class Pairs : public testing::Test {
  protected:
-  Pairs() { workspace.gOraDatabase = std::make_unique<FakeDatabase>(server); }
+  Pairs() { workspace.repository.gOraDatabase = std::make_unique<FakeDatabase>(server); }
 
   bool load(const std::vector<testing_support::SnapshotRow>& snapshots) {
     laySnapshots(server, snapshots);
     return gDispSnapId_Load(workspace, "1001", "1", false);
   }
-  std::string status(int i) const { return workspace.gSnapId->REPORT_STATUS(i); }
+  std::string status(int i) const { return workspace.repository.gSnapId->REPORT_STATUS(i); }
   const ListBox& list() const { return workspace.controls.ListSnapId; }
 
   FakeServer server;
@@ -35,11 +35,11 @@ class Pairs : public testing::Test {
 TEST_F(Pairs, threeSnapshotsGiveTwoPairsThatShareTheSecond) {
   ASSERT_TRUE(
       load({{"1", "2026-01-05 10:00:00"}, {"2", "2026-01-05 11:00:00"}, {"3", "2026-01-05 12:00:00"}}));
-  ASSERT_EQ(workspace.gSnapId->rownum(), 2);
-  EXPECT_EQ(workspace.gSnapId->START_SNAP_ID(0), "1");
-  EXPECT_EQ(workspace.gSnapId->END_SNAP_ID(0), "2");
-  EXPECT_EQ(workspace.gSnapId->START_SNAP_ID(1), "2");
-  EXPECT_EQ(workspace.gSnapId->END_SNAP_ID(1), "3");
+  ASSERT_EQ(workspace.repository.gSnapId->rownum(), 2);
+  EXPECT_EQ(workspace.repository.gSnapId->START_SNAP_ID(0), "1");
+  EXPECT_EQ(workspace.repository.gSnapId->END_SNAP_ID(0), "2");
+  EXPECT_EQ(workspace.repository.gSnapId->START_SNAP_ID(1), "2");
+  EXPECT_EQ(workspace.repository.gSnapId->END_SNAP_ID(1), "3");
 }
 
 TEST_F(Pairs, anotherLevelIsToldAndARestartOutweighsIt) {
@@ -71,7 +71,7 @@ TEST_F(Pairs, thePairAfterARestartIsGoodAgain) {
 
 TEST_F(Pairs, neighboursFormAPairOverAGapInTheIds) {
   ASSERT_TRUE(load({{"1", "2026-01-05 10:00:00"}, {"17", "2026-01-06 02:00:00"}}));
-  EXPECT_EQ(workspace.gSnapId->END_SNAP_ID(0), "17");
+  EXPECT_EQ(workspace.repository.gSnapId->END_SNAP_ID(0), "17");
   EXPECT_EQ(status(0), "OK");
 }
 
@@ -131,7 +131,7 @@ TEST_F(Pairs, failedQueryShowsThreeBoxesFromTheInsideOut) {
 TEST_F(Pairs, bindsThatAFailedLoadLeftDoNotHinderTheNext) {
   server.answer(testing_support::kSnapshots).fails = true;
   EXPECT_FALSE(gDispSnapId_Load(workspace, "1001", "1", false));
-  EXPECT_EQ(workspace.gOraDatabase->parameters().count(), 4u);
+  EXPECT_EQ(workspace.repository.gOraDatabase->parameters().count(), 4u);
   server.answer(testing_support::kSnapshots).fails = false;
   boxes.shown.clear();
   EXPECT_TRUE(load({{"1", "2026-01-05 10:00:00"}, {"2", "2026-01-05 11:00:00"}}));
@@ -152,15 +152,15 @@ TEST_F(Pairs, idsAreBoundAsTextsAndEmptyWithoutARange) {
   EXPECT_EQ(binds.at("B2"), std::pair(ServerType::Number, std::string("1")));
   EXPECT_EQ(binds.at("B3"), std::pair(ServerType::String, std::string()));
   EXPECT_EQ(binds.at("B4"), std::pair(ServerType::String, std::string()));
-  EXPECT_EQ(workspace.gOraDatabase->parameters().count(), 0u) << "they are taken off again";
+  EXPECT_EQ(workspace.repository.gOraDatabase->parameters().count(), 0u) << "they are taken off again";
 }
 
 TEST_F(Pairs, aRangeAsksWithItsIds) {
   ASSERT_TRUE(
       load({{"1", "2026-01-05 10:00:00"}, {"2", "2026-01-05 11:00:00"}, {"3", "2026-01-05 12:00:00"}}));
-  workspace.gSnapRange = std::make_unique<clsSnapRange>(boxes);
-  workspace.gSnapRange->Initialize(*workspace.gSnapId);
-  workspace.gSnapRange->gSetStartId(1);
+  workspace.repository.gSnapRange.Initialize(*workspace.repository.gSnapId);
+  Failures failures;
+  workspace.repository.gSnapRange.gSetStartId(*workspace.repository.gSnapId, 1, failures);
   laySnapshots(server, {{"2", "2026-01-05 11:00:00"}, {"3", "2026-01-05 12:00:00"}},
                testing_support::kRangeOfSnapshots);
   ASSERT_TRUE(gDispSnapId_Load(workspace, "1001", "1", true));
