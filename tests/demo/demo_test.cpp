@@ -9,6 +9,8 @@
 #include "platform/code_page.h"
 #include "platform/embedded/local_session.h"
 #include "statspack/release.h"
+#include "support/answering_progress.h"
+#include "support/test_folder.h"
 
 namespace kestrelix::embedded {
 namespace {
@@ -23,6 +25,20 @@ TEST_F(DemoTest, fewerThanTwoSnapshotsAreRefused) {
   EXPECT_THROW(demo::makeDemo(file, {.snapshots = 1}), std::invalid_argument);
   EXPECT_THROW(demo::makeDemo(file, {.snapshots = 100001}), std::invalid_argument);
   EXPECT_FALSE(std::filesystem::exists(file));
+}
+
+TEST_F(DemoTest, aDemoThatIsToldToEndLeavesNothingBehind) {
+  const testing_support::TestFolder folder;
+  std::int64_t written = 0;
+  // Two databases of one instance and two of two, three snapshots each.
+  testing_support::AnsweringProgress progress([&](std::int64_t done, std::int64_t all) {
+    EXPECT_EQ(done, ++written);
+    EXPECT_EQ(all, 18);
+    return done < 4;
+  });
+  EXPECT_THROW(demo::makeDemo(folder / "demo.sqlite", {.snapshots = 3}, progress), Cancelled);
+  EXPECT_EQ(written, 4);
+  EXPECT_EQ(folder.files(), 0);
 }
 
 TEST_F(DemoTest, theSeedDecidesTheBytes) {

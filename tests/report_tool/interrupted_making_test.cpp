@@ -54,6 +54,31 @@ TEST_F(InterruptedMaking, anInterruptedImportLeavesTheEarlierFile) {
   }
 }
 
+TEST_F(InterruptedMaking, anInterruptEndsAQueryAtOnce) {
+  ASSERT_EQ(import().status, 0);
+  std::string endless = "select a1.snap_id from stats$snapshot a1";
+  for (int i = 2; i <= 60; ++i) endless += ", stats$snapshot a" + std::to_string(i);
+  int ends[2];
+  ASSERT_EQ(::pipe(ends), 0);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    ::dup2(ends[1], STDOUT_FILENO);
+    ::close(ends[0]);
+    ::execl(KESTRELIX_BIN_DIR "/kestrelix-repository", "kestrelix-repository", "query", file_.c_str(),
+            endless.c_str(), nullptr);
+    ::_exit(127);
+  }
+  ::close(ends[1]);
+  char first = 0;
+  EXPECT_EQ(::read(ends[0], &first, 1), 1) << "the query runs from its first row on";
+  ::kill(child, SIGINT);
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  ::close(ends[0]);
+  EXPECT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(WTERMSIG(status), SIGINT);
+}
+
 TEST_F(InterruptedMaking, theNextRunClearsAwayWhatAKilledOneLeft) {
   put(file_);
   const int status = signalled(SIGKILL, longDemo());

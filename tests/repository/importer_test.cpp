@@ -6,6 +6,7 @@
 
 #include <fstream>
 
+#include "support/answering_progress.h"
 #include "support/sqlite_reading.h"
 #include "support/test_folder.h"
 
@@ -85,10 +86,12 @@ TEST_F(ImporterTest, aFileThatIsCutWhileItIsReadIsRefused) {
   put("stats$sysstat.csv", text);
   // A file that is cut between two lines looks whole from its end.
   const auto cut = head.size() + 40000 * 11;
+  testing_support::AnsweringProgress progress([&](std::int64_t, std::int64_t) {
+    std::filesystem::resize_file(folder_ / "csv" / "stats$sysstat.csv", cut);
+    return true;
+  });
   try {
-    importFolder(folder_ / "csv", path_, {}, [&](std::int64_t, std::int64_t) {
-      std::filesystem::resize_file(folder_ / "csv" / "stats$sysstat.csv", cut);
-    });
+    importFolder(folder_ / "csv", path_, {}, progress);
     FAIL();
   } catch (const ImportError& error) {
     const std::string said = error.what();
@@ -204,10 +207,21 @@ TEST_F(ImporterTest, withoutForegroundColumnsNoBackgroundEventsAreMade) {
   EXPECT_EQ(run().size(), 1u);
 }
 
-TEST_F(ImporterTest, whatProgressThrowsLeavesNothingBehind) {
+TEST_F(ImporterTest, anImportThatIsToldToEndLeavesNothingBehind) {
   put("stats$sysstat.csv", "VALUE\n1\n");
-  EXPECT_THROW(importFolder(folder_ / "csv", path_, {}, [](std::int64_t, std::int64_t) { throw 1; }), int);
-  EXPECT_EQ(folder_.files(), 1);
+  // Six bytes and two more: told once they are read, and again once the file is whole.
+  for (const int goodAnswers : {0, 1}) {
+    std::vector<std::int64_t> told;
+    testing_support::AnsweringProgress progress([&](std::int64_t done, std::int64_t all) {
+      told.push_back(all);
+      EXPECT_EQ(done, all);
+      return static_cast<int>(told.size()) <= goodAnswers;
+    });
+    EXPECT_THROW(importFolder(folder_ / "csv", path_, {}, progress), Cancelled);
+    EXPECT_EQ(told.front(), 8);
+    EXPECT_EQ(static_cast<int>(told.size()), goodAnswers + 1);
+    EXPECT_EQ(folder_.files(), 1) << "the folder of the source";
+  }
 }
 
 }  // namespace

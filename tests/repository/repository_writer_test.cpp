@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "platform/embedded/writing/password_hash.h"
+#include "support/answering_progress.h"
 #include "support/fixture_repository.h"
 #include "support/sqlite_reading.h"
 #include "support/test_folder.h"
@@ -67,16 +68,16 @@ TEST_F(RepositoryWriterTest, aFileThatCameMeanwhileIsKeptOnRequest) {
 }
 
 TEST_F(RepositoryWriterTest, whoWatchesTheFinishCanStopIt) {
-  struct Stop {};
   {
     RepositoryWriter writer(path_, {}, "a test");
     TableWriter& table = writer.addTable("t", {{"dbid"}});
     for (int i = 0; i < 100000; ++i) table.insert(std::array<Cell, 1>{i});
     int calls = 0;
-    EXPECT_THROW(writer.finish([&] {
-      if (++calls == 5) throw Stop();
-    }),
-                 Stop);
+    testing_support::AnsweringProgress progress([&](std::int64_t done, std::int64_t all) {
+      EXPECT_EQ(done, all);
+      return ++calls < 5;
+    });
+    EXPECT_THROW(writer.finish(progress), Cancelled);
     EXPECT_EQ(calls, 5) << "not only once it is done";
     EXPECT_FALSE(std::filesystem::exists(path_));
   }

@@ -11,8 +11,9 @@ namespace kestrelix::testing_support {
 class RecordingProgress : public Progress {
  public:
   void begin() override { calls.push_back("begin"); }
-  void step(int pair, int pairs) override {
+  bool step(std::int64_t pair, std::int64_t pairs) override {
     calls.push_back(std::to_string(pair) + " / " + std::to_string(pairs));
+    return true;
   }
   void end() override { calls.push_back("end"); }
 

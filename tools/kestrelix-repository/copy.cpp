@@ -125,7 +125,6 @@ std::int64_t copyTable(odbc::OdbcDatabase& database, embedded::RepositoryWriter&
     }
     table.insert(cells);
     ++rows;
-    checkInterrupts();
   });
   return rows;
 }
@@ -136,9 +135,10 @@ int copyCommand(std::span<const std::string> words) {
   CopyOptions options;
   if (!read(words, options)) return console::kExitDone;
   const embedded::Existing existing = options.file.existing();
-  const auto database = odbc::openOdbc(
-      asciiUpper(options.tns), asciiUpper(options.user) + "/" + console::readPassword(options.password, ""));
-  watchInterrupts();
+  const std::string login = asciiUpper(options.user) + "/" + console::readPassword(options.password, "");
+  watchInterrupts(options.file.name);
+  const auto database = odbc::openOdbc(asciiUpper(options.tns), login);
+  const CancelledByInterrupts cancelled(*database);
   embedded::RepositoryWriter writer(options.file.name, {}, "kestrelix-repository copy", existing);
   const auto& tables = statspack::everyRelease().tables();
   std::int64_t rows = 0;
@@ -146,16 +146,16 @@ int copyCommand(std::span<const std::string> words) {
   {
     ProgressBar bar("copy");
     for (std::size_t i = 0; i < tables.size(); ++i) {
-      checkInterrupts();
-      bar.show(static_cast<std::int64_t>(i), static_cast<std::int64_t>(tables.size()));
+      advance(bar, static_cast<std::int64_t>(i), static_cast<std::int64_t>(tables.size()));
       const auto columns = columnsOf(*database, tables[i].name);
       if (!columns) continue;
       rows += copyTable(*database, writer, tables[i], *columns, options);
       ++copied;
     }
+    if (copied == 0) throw CopyError(options.tns + " has none of the tables; nothing was made");
+    writer.finish(bar);
+    interruptsEndNothingMore();
   }
-  if (copied == 0) throw CopyError(options.tns + " has none of the tables; nothing was made");
-  writer.finish(checkInterrupts);
   std::cout << options.file.name << ": " << copied << " tables, " << rows << " rows\n";
   return console::kExitDone;
 }

@@ -30,12 +30,10 @@ int demoCommand(std::span<const std::string> words) {
   file.addForceOption(line);
   if (!line.read(words, std::cout)) return console::kExitDone;
   options.existing = file.existing();
+  watchInterrupts(file.name);
   ProgressBar bar("snapshots");
-  watchInterrupts();
-  embedded::demo::makeDemo(file.name, options, [&](std::int64_t done, std::int64_t all) {
-    checkInterrupts();
-    bar.show(done, all);
-  });
+  embedded::demo::makeDemo(file.name, options, bar);
+  interruptsEndNothingMore();
   return console::kExitDone;
 }
 

@@ -40,15 +40,13 @@ int importCommand(std::span<const std::string> words) {
   options.account.password = console::readPassword(password, options.account.password);
   if (options.account.password.empty()) throw console::UsageError("the password is empty");
   options.existing = file.existing();
-  watchInterrupts();
+  watchInterrupts(file.name);
   std::int64_t rows = 0;
   std::vector<embedded::ImportedTable> tables;
   {
     ProgressBar bar("import");
-    tables = embedded::importFolder(folder, file.name, options, [&](std::int64_t done, std::int64_t all) {
-      checkInterrupts();
-      bar.show(done, all);
-    });
+    tables = embedded::importFolder(folder, file.name, options, bar);
+    interruptsEndNothingMore();
   }
   for (const auto& table : tables) {
     rows += table.rows;

@@ -1,11 +1,14 @@
 // kestrelix-repository: makes local repositories and asks them questions.
 #include <iostream>
+#include <stdexcept>
 #include <vector>
 
 #include "commands.h"
 #include "console/help_list.h"
 #include "console/run.h"
 #include "console/usage_error.h"
+#include "interrupt.h"
+#include "platform/cancelled.h"
 
 namespace kestrelix {
 namespace {
@@ -30,6 +33,15 @@ void printHelp() {
             << console::helpList(commands) << "\nkestrelix-repository COMMAND --help tells more.\n";
 }
 
+/// Runs a command; only an interrupt cancels one.
+int run(const NamedCommand& command, std::span<const std::string> words) {
+  try {
+    return command.run(words);
+  } catch (const Cancelled&) {
+    throw std::runtime_error(kInterrupted);
+  }
+}
+
 int runCommand(std::span<const std::string> words) {
   if (words.empty()) throw console::UsageError("name a command");
   if (words[0] == "--help" || words[0] == "-h") {
@@ -37,7 +49,7 @@ int runCommand(std::span<const std::string> words) {
     return console::kExitDone;
   }
   for (const auto& command : kCommands)
-    if (words[0] == command.name) return command.run(words.subspan(1));
+    if (words[0] == command.name) return run(command, words.subspan(1));
   throw console::UsageError("there is no command " + words[0]);
 }
 

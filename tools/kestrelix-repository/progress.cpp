@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <iostream>
 
+#include "interrupt.h"
+
 namespace kestrelix {
 
 namespace {
@@ -19,10 +21,13 @@ ProgressBar::~ProgressBar() {
   if (drawn_ >= 0) std::cerr << "\r\033[K" << std::flush;
 }
 
-void ProgressBar::show(std::int64_t done, std::int64_t all) {
-  if (!onTerminal_) return;
+bool ProgressBar::step(std::int64_t done, std::int64_t all) {
   const std::int64_t percent = all <= 0 ? 100 : std::clamp<std::int64_t>(done * 100 / all, 0, 100);
-  if (percent == drawn_) return;
+  if (onTerminal_ && percent != drawn_) show(percent);
+  return !interrupted();
+}
+
+void ProgressBar::show(std::int64_t percent) {
   drawn_ = percent;
   const int filled = static_cast<int>(percent) * kWidth / 100;
   std::cerr << "\r" << label_ << " [" << std::string(static_cast<std::size_t>(filled), '#')

@@ -4,17 +4,22 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/progress.h"
+
 namespace kestrelix {
 
-class ProgressBar {
+/// Goes on until an interrupt comes.
+class ProgressBar final : public Progress {
  public:
   explicit ProgressBar(std::string label);
-  ~ProgressBar();
+  ~ProgressBar() override;
 
   /// `done` of `all`; drawn again only when the picture changes.
-  void show(std::int64_t done, std::int64_t all);
+  bool step(std::int64_t done, std::int64_t all) override;
 
  private:
+  void show(std::int64_t percent);
+
   std::string label_;
   bool onTerminal_;
   std::int64_t drawn_ = -1;

@@ -55,7 +55,12 @@ void QtProgress::begin() {
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
 }
 
-void QtProgress::step(int pair, int pairs) {
+bool QtProgress::step(std::int64_t pair, std::int64_t pairs) {
+  show(static_cast<int>(pair), static_cast<int>(pairs));
+  return true;
+}
+
+void QtProgress::show(int pair, int pairs) {
   if (!bar_ || depth_ == 0) return;
   const Time now = clock_();
   if (now - begun_ < kPatience) return;

@@ -38,10 +38,12 @@ class QtProgress final : public Progress {
   void showOver(QWidget& grid) { bar_ = new PairBar(grid); }
 
   void begin() override;
-  void step(int pair, int pairs) override;
+  bool step(std::int64_t pair, std::int64_t pairs) override;
   void end() override;
 
  private:
+  void show(int pair, int pairs);
+
   std::function<Time()> clock_;
   QPointer<PairBar> bar_;
   int depth_ = 0;  // actions within one another

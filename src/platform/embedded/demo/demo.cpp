@@ -1,5 +1,6 @@
 #include "platform/embedded/demo/demo.h"
 
+#include <functional>
 #include <stdexcept>
 
 #include "platform/embedded/demo/topic.h"
@@ -60,8 +61,7 @@ NewAccount accountOf(std::uint64_t seed) {
 
 }  // namespace
 
-void makeDemo(const std::filesystem::path& path, const DemoOptions& options,
-              const std::function<void(std::int64_t, std::int64_t)>& progress) {
+void makeDemo(const std::filesystem::path& path, const DemoOptions& options, Progress& progress) {
   if (options.snapshots < 2 || options.snapshots > kLargest)
     throw std::invalid_argument("a demo has from 2 to " + std::to_string(kLargest) +
                                 " snapshots an instance");
@@ -72,9 +72,7 @@ void makeDemo(const std::filesystem::path& path, const DemoOptions& options,
   std::int64_t all = 0;
   for (const Database& database : databases()) all += std::int64_t{database.instances} * options.snapshots;
   std::int64_t done = 0;
-  const auto written = [&] {
-    if (progress) progress(++done, all);
-  };
+  const auto written = [&] { advance(progress, ++done, all); };
   // Room between the databases' ids, so that none is met twice.
   const std::int64_t room = ((std::int64_t{options.snapshots} * 2 + 20) / 1000 + 1) * 1000;
   std::int64_t firstId = 1;
@@ -87,9 +85,7 @@ void makeDemo(const std::filesystem::path& path, const DemoOptions& options,
     }
     firstId += room;
   }
-  writer.finish([&] {
-    if (progress) progress(all, all);
-  });
+  writer.finish(progress);
 }
 
 }  // namespace kestrelix::embedded::demo

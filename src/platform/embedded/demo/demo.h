@@ -3,9 +3,9 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 
 #include "platform/embedded/writing/repository_error.h"
+#include "platform/progress.h"
 
 namespace kestrelix::embedded::demo {
 
@@ -16,10 +16,10 @@ struct DemoOptions {
 };
 
 /// Writes the repository, which takes its name when it is whole. The same options give the same bytes.
-/// `progress` is told the snapshots written and those to write, and called on while the file is finished;
-/// what it throws passes, and nothing is left behind. Throws RepositoryError, and std::invalid_argument for
-/// fewer than two snapshots or more than a hundred thousand.
+/// `progress` is told the snapshots written and those to write, and called on while the file is finished.
+/// Throws RepositoryError, Cancelled, and std::invalid_argument for fewer than two snapshots or more than a
+/// hundred thousand; nothing is left behind then.
 void makeDemo(const std::filesystem::path& path, const DemoOptions& options,
-              const std::function<void(std::int64_t, std::int64_t)>& progress = {});
+              Progress& progress = Progress::none());
 
 }  // namespace kestrelix::embedded::demo

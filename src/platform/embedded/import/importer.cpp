@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <functional>
 #include <map>
 #include <optional>
 
@@ -237,7 +238,7 @@ class BackgroundEvents {
 
 std::vector<ImportedTable> importFolder(const std::filesystem::path& folder,
                                         const std::filesystem::path& path, const ImportOptions& options,
-                                        const std::function<void(std::int64_t, std::int64_t)>& progress) {
+                                        Progress& progress) {
   const std::vector<Source> sources = sourcesOf(folder, options.keepUnknown);
   std::int64_t all = 0;
   bool tellsBackground = false;
@@ -250,9 +251,7 @@ std::vector<ImportedTable> importFolder(const std::filesystem::path& folder,
   std::int64_t before = 0;
   for (const Source& source : sources) {
     TableFile file(source);
-    const auto tell = [&] {
-      if (progress) progress(before + file.bytesRead(), all);
-    };
+    const auto tell = [&] { advance(progress, before + file.bytesRead(), all); };
     const std::vector<NewColumn> columns = columnsOf(source, file, tell);
     TableWriter& table = writer.addTable(source.table, columns);
     std::optional<BackgroundEvents> background;
@@ -278,11 +277,9 @@ std::vector<ImportedTable> importFolder(const std::filesystem::path& folder,
     if (background && background->made())
       imported.push_back({std::string(kBackgroundEvents), background->rows(), false});
     before += source.bytes;
-    if (progress) progress(before, all);
+    advance(progress, before, all);
   }
-  writer.finish([&] {
-    if (progress) progress(all, all);
-  });
+  writer.finish(progress);
   std::sort(imported.begin(), imported.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
   return imported;
 }

@@ -3,12 +3,12 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "platform/embedded/writing/repository_writer.h"
+#include "platform/progress.h"
 
 namespace kestrelix::embedded {
 
@@ -40,10 +40,10 @@ struct ImportedTable {
 /// missing and stats$system_event tells the foreground apart, it is made of the difference.
 ///
 /// `progress` is told the bytes read and those to read, and called on while the file is finished. Returns the
-/// tables with their rows, by name. Throws ImportError and RepositoryError, and lets pass what `progress`
-/// throws; then nothing is left behind.
+/// tables with their rows, by name. Throws ImportError, RepositoryError and Cancelled; nothing is left behind
+/// then.
 std::vector<ImportedTable> importFolder(const std::filesystem::path& folder,
                                         const std::filesystem::path& path, const ImportOptions& options,
-                                        const std::function<void(std::int64_t, std::int64_t)>& progress = {});
+                                        Progress& progress = Progress::none());
 
 }  // namespace kestrelix::embedded

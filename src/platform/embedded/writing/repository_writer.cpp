@@ -3,7 +3,6 @@
 #include <sqlite3.h>
 
 #include <cstring>
-#include <exception>
 
 #include "platform/ascii.h"
 #include "platform/embedded/writing/indexes.h"
@@ -37,45 +36,29 @@ std::string failure(sqlite3* connection) {
   return sqlite3_errmsg(connection);
 }
 
-/// Lets a caller look at the world while SQLite works for long. An exception cannot pass through SQLite: it
-/// is kept, and SQLite told to stop.
+/// While one lives SQLite's work goes on only as long as `progress` is for it.
 class Watch {
  public:
-  Watch(sqlite3* connection, const std::function<void()>& stillWorking)
-      : connection_(connection), stillWorking_(stillWorking) {
+  Watch(sqlite3* connection, Progress& progress) : connection_(connection), progress_(progress) {
     constexpr int kSteps = 10000;
-    if (stillWorking_) sqlite3_progress_handler(connection_, kSteps, look, this);
+    sqlite3_progress_handler(connection_, kSteps, look, this);
   }
   Watch(const Watch&) = delete;
   Watch& operator=(const Watch&) = delete;
   ~Watch() { sqlite3_progress_handler(connection_, 0, nullptr, nullptr); }
 
-  template <class Work>
-  void over(Work work) {
-    try {
-      work();
-    } catch (const RepositoryError&) {
-      if (thrown_) std::rethrow_exception(thrown_);
-      throw;
-    }
-    if (stillWorking_) stillWorking_();
-  }
+  bool ended() const { return ended_; }
 
  private:
   static int look(void* watch) {
     auto& self = *static_cast<Watch*>(watch);
-    try {
-      self.stillWorking_();
-      return 0;
-    } catch (...) {
-      self.thrown_ = std::current_exception();
-      return 1;
-    }
+    self.ended_ = !self.progress_.step(1, 1);
+    return self.ended_ ? 1 : 0;
   }
 
   sqlite3* connection_;
-  const std::function<void()>& stillWorking_;
-  std::exception_ptr thrown_;
+  Progress& progress_;
+  bool ended_ = false;
 };
 
 }  // namespace
@@ -219,13 +202,20 @@ void RepositoryWriter::makeIndexes() {
   }
 }
 
-void RepositoryWriter::finish(const std::function<void()>& stillWorking) {
-  Watch(connection_, stillWorking).over([this] {
-    makeIndexes();
-    writeColumns();
-    execute("ANALYZE");
-    execute("COMMIT");
-  });
+void RepositoryWriter::finish(Progress& progress) {
+  {
+    const Watch watch(connection_, progress);
+    try {
+      makeIndexes();
+      writeColumns();
+      execute("ANALYZE");
+      execute("COMMIT");
+    } catch (const RepositoryError&) {
+      if (watch.ended()) throw Cancelled();
+      throw;
+    }
+  }
+  advance(progress, 1, 1);
   close();
   file_.takeName(existing_);
 }

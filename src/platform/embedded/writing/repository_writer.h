@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -16,6 +15,7 @@
 #include "platform/embedded/writing/cell.h"
 #include "platform/embedded/writing/repository_error.h"
 #include "platform/embedded/writing/unfinished_file.h"
+#include "platform/progress.h"
 #include "statspack/release.h"
 
 struct sqlite3;
@@ -88,9 +88,10 @@ class RepositoryWriter {
   /// The table of that name (in lower case), or null.
   TableWriter* table(std::string_view name);
 
-  /// Makes the indexes, tells the columns and statistics, and gives the file its name. `stillWorking` is
-  /// called again and again until just before that; what it throws passes, and nothing is made then.
-  void finish(const std::function<void()>& stillWorking = {});
+  /// Makes the indexes, tells the columns and statistics, and gives the file its name. `progress` is told
+  /// that all is done, 1 of 1, again and again until just before that. Throws Cancelled when it is to go no
+  /// further; nothing is made then.
+  void finish(Progress& progress = Progress::none());
 
  private:
   void execute(const std::string& sql);

@@ -82,8 +82,12 @@ std::string unwritable(const std::filesystem::path& file, const std::string& why
   return file.string() + ": cannot be written: " + why;
 }
 
+std::filesystem::path unfinishedName(const std::filesystem::path& target) {
+  return target.string() + std::string(kMark) + std::to_string(::getpid());
+}
+
 UnfinishedFile::UnfinishedFile(std::filesystem::path target)
-    : target_(std::move(target)), path_(target_.string() + std::string(kMark) + std::to_string(::getpid())) {
+    : target_(std::move(target)), path_(unfinishedName(target_)) {
   checkTarget(target_);
   clearLeftovers(target_);
   // A process of the same number has been here: it is gone, or is one of another container.

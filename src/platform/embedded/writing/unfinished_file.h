@@ -11,7 +11,10 @@ namespace kestrelix::embedded {
 /// "FILE: cannot be written: WHY".
 std::string unwritable(const std::filesystem::path& file, const std::string& why);
 
-/// A new file beside its target, named "TARGET.unfinished-PID". It is removed with this object unless it has
+/// "TARGET.unfinished-PID": where this process writes the file that becomes `target`.
+std::filesystem::path unfinishedName(const std::filesystem::path& target);
+
+/// A new file beside its target, under its unfinishedName(). It is removed with this object unless it has
 /// taken its target's name by then. Such files that a killed process has left for the same target are cleared
 /// away first. Failures are RepositoryError.
 class UnfinishedFile {
