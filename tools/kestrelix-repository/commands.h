@@ -17,6 +17,8 @@ struct NewFile {
   void addForceOption(console::CommandLine& line);
   /// Fails if the file is there and isn't to be replaced.
   embedded::Existing existing() const;
+  /// From here on an interrupt ends the making, and no unfinished file stays behind.
+  void watchInterrupts() const;
 };
 
 int demoCommand(std::span<const std::string> words);

@@ -4,13 +4,13 @@
 #include <optional>
 
 #include "commands.h"
+#include "console/interrupt.h"
 #include "console/password.h"
+#include "console/progress.h"
 #include "console/run.h"
-#include "interrupt.h"
 #include "platform/ascii.h"
 #include "platform/embedded/writing/repository_writer.h"
 #include "platform/odbc/odbc_session.h"
-#include "progress.h"
 #include "statspack/release.h"
 
 namespace kestrelix {
@@ -136,15 +136,15 @@ int copyCommand(std::span<const std::string> words) {
   if (!read(words, options)) return console::kExitDone;
   const embedded::Existing existing = options.file.existing();
   const std::string login = asciiUpper(options.user) + "/" + console::readPassword(options.password, "");
-  watchInterrupts(options.file.name);
+  options.file.watchInterrupts();
   const auto database = odbc::openOdbc(asciiUpper(options.tns), login);
-  const CancelledByInterrupts cancelled(*database);
+  const console::CancelledByInterrupts cancelled(*database);
   embedded::RepositoryWriter writer(options.file.name, {}, "kestrelix-repository copy", existing);
   const auto& tables = statspack::everyRelease().tables();
   std::int64_t rows = 0;
   std::int64_t copied = 0;
   {
-    ProgressBar bar("copy");
+    console::ProgressBar bar("copy");
     for (std::size_t i = 0; i < tables.size(); ++i) {
       advance(bar, static_cast<std::int64_t>(i), static_cast<std::int64_t>(tables.size()));
       const auto columns = columnsOf(*database, tables[i].name);
@@ -154,7 +154,7 @@ int copyCommand(std::span<const std::string> words) {
     }
     if (copied == 0) throw CopyError(options.tns + " has none of the tables; nothing was made");
     writer.finish(bar);
-    interruptsEndNothingMore();
+    console::interruptsEndNothingMore();
   }
   std::cout << options.file.name << ": " << copied << " tables, " << rows << " rows\n";
   return console::kExitDone;

@@ -4,9 +4,9 @@
 #include <iostream>
 
 #include "commands.h"
+#include "console/interrupt.h"
+#include "console/progress.h"
 #include "console/run.h"
-#include "interrupt.h"
-#include "progress.h"
 
 namespace kestrelix {
 namespace {
@@ -30,10 +30,10 @@ int demoCommand(std::span<const std::string> words) {
   file.addForceOption(line);
   if (!line.read(words, std::cout)) return console::kExitDone;
   options.existing = file.existing();
-  watchInterrupts(file.name);
-  ProgressBar bar("snapshots");
+  file.watchInterrupts();
+  console::ProgressBar bar("snapshots");
   embedded::demo::makeDemo(file.name, options, bar);
-  interruptsEndNothingMore();
+  console::interruptsEndNothingMore();
   return console::kExitDone;
 }
 

@@ -3,11 +3,11 @@
 #include <string>
 
 #include "commands.h"
+#include "console/interrupt.h"
 #include "console/password.h"
+#include "console/progress.h"
 #include "console/run.h"
-#include "interrupt.h"
 #include "platform/embedded/import/importer.h"
-#include "progress.h"
 
 namespace kestrelix {
 namespace {
@@ -40,13 +40,13 @@ int importCommand(std::span<const std::string> words) {
   options.account.password = console::readPassword(password, options.account.password);
   if (options.account.password.empty()) throw console::UsageError("the password is empty");
   options.existing = file.existing();
-  watchInterrupts(file.name);
+  file.watchInterrupts();
   std::int64_t rows = 0;
   std::vector<embedded::ImportedTable> tables;
   {
-    ProgressBar bar("import");
+    console::ProgressBar bar("import");
     tables = embedded::importFolder(folder, file.name, options, bar);
-    interruptsEndNothingMore();
+    console::interruptsEndNothingMore();
   }
   for (const auto& table : tables) {
     rows += table.rows;

@@ -5,9 +5,9 @@
 
 #include "commands.h"
 #include "console/help_list.h"
+#include "console/interrupt.h"
 #include "console/run.h"
 #include "console/usage_error.h"
-#include "interrupt.h"
 #include "platform/cancelled.h"
 
 namespace kestrelix {
@@ -38,7 +38,7 @@ int run(const NamedCommand& command, std::span<const std::string> words) {
   try {
     return command.run(words);
   } catch (const Cancelled&) {
-    throw std::runtime_error(kInterrupted);
+    throw std::runtime_error(console::kInterrupted);
   }
 }
 

@@ -1,6 +1,8 @@
 #include <filesystem>
 
 #include "commands.h"
+#include "console/interrupt.h"
+#include "platform/embedded/writing/unfinished_file.h"
 
 namespace kestrelix {
 
@@ -14,6 +16,10 @@ embedded::Existing NewFile::existing() const {
   if (!force && std::filesystem::exists(std::filesystem::symlink_status(name, unknown)))
     throw std::runtime_error(name + ": is there already; --force replaces it");
   return force ? embedded::Existing::Replace : embedded::Existing::Keep;
+}
+
+void NewFile::watchInterrupts() const {
+  console::watchInterrupts("kestrelix-repository", embedded::unfinishedName(name).string());
 }
 
 }  // namespace kestrelix

@@ -1,14 +1,13 @@
-#include "progress.h"
+#include "console/progress.h"
 
 #include <unistd.h>
 
 #include <algorithm>
 #include <iostream>
 
-#include "interrupt.h"
+#include "console/interrupt.h"
 
-namespace kestrelix {
-
+namespace kestrelix::console {
 namespace {
 constexpr int kWidth = 40;
 }
@@ -35,4 +34,4 @@ void ProgressBar::show(std::int64_t percent) {
             << std::flush;
 }
 
-}  // namespace kestrelix
+}  // namespace kestrelix::console

@@ -6,7 +6,7 @@
 
 #include "platform/progress.h"
 
-namespace kestrelix {
+namespace kestrelix::console {
 
 /// Goes on until an interrupt comes.
 class ProgressBar final : public Progress {
@@ -25,4 +25,4 @@ class ProgressBar final : public Progress {
   std::int64_t drawn_ = -1;
 };
 
-}  // namespace kestrelix
+}  // namespace kestrelix::console

@@ -1,4 +1,4 @@
-#include "interrupt.h"
+#include "console/interrupt.h"
 
 #include <unistd.h>
 
@@ -10,10 +10,8 @@
 #include <thread>
 
 #include "console/run.h"
-#include "platform/embedded/writing/unfinished_file.h"
 
-namespace kestrelix {
-
+namespace kestrelix::console {
 namespace {
 
 constexpr timespec kPatience{0, 800'000'000};
@@ -21,6 +19,7 @@ constexpr std::chrono::milliseconds kBetweenCancels{20};
 
 struct Watch {
   sigset_t signals;
+  std::string program;
   std::string unfinished;
   std::atomic<bool> came = false;
   std::atomic<bool> made = false;
@@ -54,10 +53,10 @@ Watch& watch() {
 
 /// Nothing is asked of the thread that makes the file, which may wait for ever.
 [[noreturn]] void giveUp() {
-  const std::string text = (::isatty(STDERR_FILENO) == 1 ? "\r\033[K" : "") +
-                           std::string("kestrelix-repository: ") + kInterrupted + "\n";
+  const std::string text =
+      (::isatty(STDERR_FILENO) == 1 ? "\r\033[K" : "") + watch().program + ": " + kInterrupted + "\n";
   static_cast<void>(::write(STDERR_FILENO, text.data(), text.size()));
-  ::_exit(console::kExitFailed);
+  ::_exit(kExitFailed);
 }
 
 [[noreturn]] void waitForSignals() {
@@ -77,9 +76,10 @@ Watch& watch() {
 
 }  // namespace
 
-void watchInterrupts(const std::filesystem::path& file) {
+void watchInterrupts(const std::string& program, const std::string& unfinished) {
   Watch& own = watch();
-  own.unfinished = embedded::unfinishedName(file).string();
+  own.program = program;
+  own.unfinished = unfinished;
   sigemptyset(&own.signals);
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
     // What is ignored stays so: nohup asks for that.
@@ -105,4 +105,4 @@ CancelledByInterrupts::~CancelledByInterrupts() {
   watch().database = nullptr;
 }
 
-}  // namespace kestrelix
+}  // namespace kestrelix::console
