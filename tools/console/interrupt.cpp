@@ -15,6 +15,7 @@ namespace kestrelix::console {
 namespace {
 
 constexpr timespec kPatience{0, 800'000'000};
+constexpr std::chrono::milliseconds kUntilTold{100};
 constexpr std::chrono::milliseconds kBetweenCancels{20};
 
 struct Watch {
@@ -53,6 +54,7 @@ Watch& watch() {
 
 /// Nothing is asked of the thread that makes the file, which may wait for ever.
 [[noreturn]] void giveUp() {
+  ::unlink(watch().unfinished.c_str());  // it may have been begun meanwhile
   const std::string text =
       (::isatty(STDERR_FILENO) == 1 ? "\r\033[K" : "") + watch().program + ": " + kInterrupted + "\n";
   static_cast<void>(::write(STDERR_FILENO, text.data(), text.size()));
@@ -68,8 +70,10 @@ Watch& watch() {
     own.came = true;
     std::thread(cancelAgainAndAgain).detach();
     const int second = sigtimedwait(&own.signals, nullptr, &kPatience);
-    if (!own.made) ::unlink(own.unfinished.c_str());
+    const bool dropped = !own.made && ::unlink(own.unfinished.c_str()) == 0;
     if (second > 0) endBy(second);
+    // A file that isn't there has not been begun, or has taken its name just now and is about to be told of.
+    if (!dropped) std::this_thread::sleep_for(kUntilTold);
     if (!own.made) giveUp();
   }
 }
