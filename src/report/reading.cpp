@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/cancelled.h"
+
 namespace kestrelix {
 namespace {
 
@@ -92,7 +94,11 @@ bool Reading::fetchEveryPair(const std::vector<std::string>& members,
                              const std::vector<std::string>& arguments) {
   const int pairs = static_cast<int>(source_.pairs.rownum());
   for (int i = 0; i < pairs; ++i) {
-    source_.progress.step(i + 1, pairs);
+    if (!source_.progress.step(i + 1, pairs)) {
+      // As if the pair's first member had been cancelled while it ran.
+      table_.failures.push_back({failureText(object_->className(), members.front()), Cancelled().what()});
+      return false;
+    }
     const auto get = [&](const std::string& member) { return object_->get(member, i); };
     if (!bind(i, arguments) || !std::all_of(members.begin(), members.end(), get) ||
         !object_->unsetBAIND_VALUE())

@@ -36,7 +36,8 @@ ColRequest colRequest(const Section& section, const ReportTable& table, int row)
 /// metrics without figures, unless the figures hold there.
 ReportTable readAll(const ReportSource& source, const Section& section, int pair);
 
-/// One row or metric over all pairs, a row a pair. Nothing is read where the request leads to no series.
+/// One row or metric over all pairs, a row a pair. Nothing is read where the request leads to no series. An
+/// action that the progress ends between two pairs is a failure of the Col view's member.
 ReportTable readCol(const ReportSource& source, const Section& section, const ColRequest& request);
 
 /// Reads Sections; a window reads through one, so that it can stand for another.
