@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <span>
 #include <string_view>
 
@@ -23,6 +24,7 @@ struct Function {
   bool deterministic;  // equal arguments give equal results, however often asked
   Type (*resultType)(ArgumentTypes);
   Value (*call)(Arguments, const Context&);
+  double largest = std::numeric_limits<double>::infinity();  // no absolute value of a result is above
 
   static constexpr int kAnyNumber = 1000;
 };

@@ -23,13 +23,15 @@ Value strict(Arguments arguments, const Context& context) {
 
 constexpr int kAny = Function::kAnyNumber;
 constexpr Implementation kLazy = nullptr;
+// No text is longer, and no year or character code is greater.
+constexpr double kLongest = 1e10;
 
 // In the order of their names: findFunction searches by halves.
 constexpr Function kTable[] = {
     {"ABS", 1, 1, true, types::number, strict<library::absolute>},
     {"ACOS", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Acos>>},
     {"ADD_MONTHS", 2, 2, true, types::date, strict<library::addMonths>},
-    {"ASCII", 1, 1, true, types::wholeNumber, strict<library::ascii>},
+    {"ASCII", 1, 1, true, types::wholeNumber, strict<library::ascii>, kLongest},
     {"ASIN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Asin>>},
     {"ATAN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Atan>>},
     {"ATAN2", 2, 2, true, types::number, strict<library::arcTangent2>},
@@ -43,17 +45,17 @@ constexpr Function kTable[] = {
     {"COSH", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Cosh>>},
     {"DECODE", 3, kAny, true, types::decode, kLazy},
     {"EXP", 1, 1, true, types::number, strict<library::exponential>},
-    {"EXTRACT", 2, 2, true, types::wholeNumber, strict<library::extract>},
+    {"EXTRACT", 2, 2, true, types::wholeNumber, strict<library::extract>, kLongest},
     {"FLOOR", 1, 1, true, types::firstAsNumber, strict<library::floor>},
     {"GREATEST", 1, kAny, true, types::likeFirst, strict<library::greatest>},
     {"HEXTORAW", 1, 1, true, types::raw, strict<library::hexToRaw>},
     {"INITCAP", 1, 1, true, types::sameText, strict<library::initialCapitals>},
-    {"INSTR", 2, 4, true, types::wholeNumber, strict<library::position>},
-    {"INSTRB", 2, 4, true, types::wholeNumber, strict<library::positionBytes>},
+    {"INSTR", 2, 4, true, types::wholeNumber, strict<library::position>, kLongest},
+    {"INSTRB", 2, 4, true, types::wholeNumber, strict<library::positionBytes>, kLongest},
     {"LAST_DAY", 1, 1, true, types::date, strict<library::lastDay>},
     {"LEAST", 1, kAny, true, types::likeFirst, strict<library::least>},
-    {"LENGTH", 1, 1, true, types::wholeNumber, strict<library::length>},
-    {"LENGTHB", 1, 1, true, types::wholeNumber, strict<library::lengthBytes>},
+    {"LENGTH", 1, 1, true, types::wholeNumber, strict<library::length>, kLongest},
+    {"LENGTHB", 1, 1, true, types::wholeNumber, strict<library::lengthBytes>, kLongest},
     {"LN", 1, 1, true, types::number, strict<library::naturalLogarithm>},
     {"LOG", 2, 2, true, types::number, strict<library::logarithm>},
     {"LOWER", 1, 1, true, types::sameText, strict<library::lower>},
@@ -71,8 +73,8 @@ constexpr Function kTable[] = {
     {"NVL2", 3, 3, true, types::nvl2, kLazy},
     {"POWER", 2, 2, true, types::number, strict<library::power>},
     {"RAWTOHEX", 1, 1, true, types::varchar, strict<library::rawToHex>},
-    {"REGEXP_COUNT", 2, 4, true, types::wholeNumber, library::regexpCount},
-    {"REGEXP_INSTR", 2, 7, true, types::wholeNumber, library::regexpPosition},
+    {"REGEXP_COUNT", 2, 4, true, types::wholeNumber, library::regexpCount, kLongest},
+    {"REGEXP_INSTR", 2, 7, true, types::wholeNumber, library::regexpPosition, kLongest},
     {"REGEXP_LIKE", 2, 3, true, types::condition, library::regexpLike},
     {"REGEXP_REPLACE", 2, 6, true, types::varchar, library::regexpReplace},
     {"REGEXP_SUBSTR", 2, 6, true, types::varchar, library::regexpSubstring},
@@ -81,7 +83,7 @@ constexpr Function kTable[] = {
     {"ROUND", 1, 2, true, types::dateOrNumber, strict<library::round>},
     {"RPAD", 2, 3, true, types::varchar, strict<library::padRight>},
     {"RTRIM", 1, 2, true, types::varchar, strict<library::trimRight>},
-    {"SIGN", 1, 1, true, types::wholeNumber, strict<library::sign>},
+    {"SIGN", 1, 1, true, types::wholeNumber, strict<library::sign>, 1},
     {"SIN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Sin>>},
     {"SINH", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Sinh>>},
     {"SOUNDEX", 1, 1, true, types::varchar, strict<library::soundex>},
@@ -100,7 +102,7 @@ constexpr Function kTable[] = {
     {"TRIM", 1, 3, true, types::varchar, strict<library::trim>},
     {"TRUNC", 1, 2, true, types::dateOrNumber, strict<library::truncate>},
     {"UPPER", 1, 1, true, types::sameText, strict<library::upper>},
-    {"VSIZE", 1, 1, true, types::wholeNumber, strict<library::storedSize>},
+    {"VSIZE", 1, 1, true, types::wholeNumber, strict<library::storedSize>, kLongest},
     {"WIDTH_BUCKET", 4, 4, true, types::number, library::widthBucket},
 };
 

@@ -11,7 +11,7 @@
 #include "oracle_sql/token.h"
 #include "platform/cancelled.h"
 #include "platform/embedded/functions.h"
-#include "platform/embedded/lowering/emitter.h"
+#include "platform/embedded/lowering/sqlite_printer.h"
 
 namespace kestrelix::embedded {
 namespace {
@@ -55,14 +55,6 @@ NumberFacts factsOf(char bindClass) {
     default:
       return {};
   }
-}
-
-/// SQLite's own bounds on a statement.
-bool isSizeLimit(const std::string& text) {
-  for (const char* words :
-       {"too many", "too large", "at most", "too complex", "stack overflow", "out of memory"})
-    if (text.find(words) != std::string::npos) return true;
-  return false;
 }
 
 }  // namespace
@@ -138,7 +130,8 @@ std::unique_ptr<PreparedStatement> StatementCache::translate(const std::string& 
   } catch (const Cancelled&) {
     throw;
   } catch (const DatabaseError& error) {
-    if (isSizeLimit(error.what()))
+    const int code = sqlite3_errcode(connection_);
+    if (code == SQLITE_TOOBIG || code == SQLITE_NOMEM || prepared->lowered.nearBounds)
       throw sql::SqlError::unsupported(std::string("a statement of this size (") + error.what() + ")", {});
     throw sql::SqlError::internal(error.what());
   }
@@ -147,7 +140,7 @@ std::unique_ptr<PreparedStatement> StatementCache::translate(const std::string& 
   prepared->names = std::make_shared<const std::vector<std::string>>(std::move(names));
   const int count = sqlite3_bind_parameter_count(prepared->handle.get());
   for (int i = 1; i <= count; ++i)
-    prepared->parameters.push_back({i, bindOfMarker(sqlite3_bind_parameter_name(prepared->handle.get(), i))});
+    prepared->parameters.push_back({i, lite::bindOf(sqlite3_bind_parameter_name(prepared->handle.get(), i))});
   return prepared;
 }
 

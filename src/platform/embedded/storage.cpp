@@ -112,37 +112,4 @@ void bindNumber(sqlite3_stmt* statement, int position, const values::Number& num
   sqlite3_bind_blob(statement, position, bytes.data(), static_cast<int>(size), SQLITE_TRANSIENT);
 }
 
-std::string numberLiteral(const values::Number& number) {
-  if (const auto whole = number.toInt64()) {
-    // SQLite reads the digits of the smallest integer, without its sign, as a floating point number.
-    if (*whole == INT64_MIN) return "(-9223372036854775807 - 1)";
-    return std::to_string(*whole);
-  }
-  static constexpr char kHex[] = "0123456789ABCDEF";
-  NumberBytes bytes;
-  const auto size = number.toBytes(bytes);
-  std::string literal = "x'";
-  for (std::size_t i = 0; i < size; ++i) literal += {kHex[bytes[i] >> 4], kHex[bytes[i] & 15]};
-  return literal + "'";
-}
-
-std::string textLiteral(std::string_view text) {
-  static constexpr char kHex[] = "0123456789ABCDEF";
-  if (text.find('\0') != std::string_view::npos) {
-    // SQLite's parser takes a zero byte for the end of the statement.
-    std::string hex = "CAST(x'";
-    for (const char c : text) {
-      const auto byte = static_cast<unsigned char>(c);
-      hex += {kHex[byte >> 4], kHex[byte & 15]};
-    }
-    return hex + "' AS TEXT)";
-  }
-  std::string literal = "'";
-  for (const char c : text) {
-    if (c == '\'') literal += '\'';
-    literal += c;
-  }
-  return literal + "'";
-}
-
 }  // namespace kestrelix::embedded

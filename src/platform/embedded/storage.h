@@ -25,9 +25,4 @@ void giveNumber(sqlite3_context* context, const values::Number& number);
 void giveValue(sqlite3_context* context, const values::Value& value);
 void bindNumber(sqlite3_stmt* statement, int position, const values::Number& number);
 
-/// The number as a literal of SQLite: 42 or x'C10233'.
-std::string numberLiteral(const values::Number& number);
-/// The text as a literal of SQLite.
-std::string textLiteral(std::string_view text);
-
 }  // namespace kestrelix::embedded

@@ -1,5 +1,6 @@
 // NUMBER is decimal and has no bounds that matter. Where both sides are whole and so small that the result
 // fits 64 bits for sure, SQLite's own operator gives it; else a function does.
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
@@ -8,128 +9,114 @@ namespace {
 using sql::ArithmeticOp;
 using sql::TypeKind;
 
-/// Below 2^63 by more than a double can be wrong.
-constexpr double kFits = 9.2e18;
-
-Piece exactOr(const char* function, char op, const Piece& left, const Piece& right, double largest,
-              sql::Place place) {
-  Piece piece;
-  piece.kind = TypeKind::Number;
+Value exactOr(Lowerer& to, std::string_view function, lite::Operator op, const Value& left,
+              const Value& right, double largest, sql::Place place) {
+  Value value{nullptr, TypeKind::Number};
+  value.present = left.present && right.present;
   if (left.number.integral && right.number.integral && largest <= kFits) {
-    piece.text = bracketed(left) + " " + op + " " + bracketed(right);
-    piece.number = {true, largest};
+    value.node = to.operation(op, {left.node, right.node});
+    value.number = {true, largest};
   } else {
-    piece.text = std::string(function) + "(" + left.text + ", " + right.text + ", " +
-                 std::to_string(place.offset) + ")";
-    piece.atom = true;
+    value.node = to.call(function, {left.node, right.node, to.place(place)});
   }
-  piece.present = left.present && right.present;
-  return piece;
+  return value;
 }
 
-/// The literal's value if it is a power of ten of which 64 bits leave room for another factor, else 0.
-std::int64_t powerOfTen(const Piece& piece) {
-  if (piece.text.size() > 10 || piece.text.front() != '1' ||
-      piece.text.find_first_not_of('0', 1) != std::string::npos)
-    return 0;
-  std::int64_t power = 1;
-  for (std::size_t i = 1; i < piece.text.size(); ++i) power *= 10;
-  return power;
+/// The value if it is a power of ten of which 64 bits leave room for another factor, else 0.
+std::int64_t powerOfTen(const lite::Expr* expr) {
+  const auto* number = lite::as<lite::Integer>(expr);
+  std::int64_t power = number && number->value < 10'000'000'000 ? number->value : 0;
+  while (power > 1 && power % 10 == 0) power /= 10;
+  return power == 1 ? number->value : 0;
 }
 
-Piece dateCall(const char* function, const Piece& left, const Piece& right, TypeKind kind, sql::Place place) {
-  Piece piece;
-  piece.kind = kind;
-  piece.text =
-      std::string(function) + "(" + left.text + ", " + right.text + ", " + std::to_string(place.offset) + ")";
-  piece.atom = true;
-  return piece;
+bool isZero(const lite::Expr* expr) {
+  const auto* number = lite::as<lite::Integer>(expr);
+  return number && number->value == 0;
 }
 
 }  // namespace
 
-Piece divided(Emitter&, const Piece& left, const Piece& right, sql::Place place) {
-  Piece piece;
-  piece.kind = TypeKind::Number;
-  piece.atom = true;
-  const std::int64_t power = powerOfTen(right);
-  std::string dividend = left.text;
-  std::string divisor = right.text;
-  if (!left.quotient.dividend.empty() && right.number.integral &&
-      right.number.largest * static_cast<double>(left.quotient.divisor) <= kFits) {
+Value divided(Lowerer& to, const Value& left, const Value& right, sql::Place place) {
+  Value value{nullptr, TypeKind::Number};
+  const std::int64_t power = powerOfTen(right.node);
+  std::vector<const lite::Expr*> args{left.node, right.node};
+  const ExactQuotient& quotient = left.quotient;
+  if (quotient.dividend && right.number.integral &&
+      right.number.largest * static_cast<double>(quotient.divisor) <= kFits) {
     // (x / 1000) / y is x / (1000 * y), rounded once either way, and two whole numbers are quicker to divide.
-    dividend = left.quotient.dividend;
-    divisor = std::to_string(left.quotient.divisor) + " * " + bracketed(right);
+    args = {quotient.dividend,
+            to.operation(lite::Operator::Multiply, {to.integer(quotient.divisor), right.node})};
   } else if (left.number.integral && power > 0) {
-    piece.quotient = {left.text, power, left.number.largest};
+    value.quotient = {left.node, power, left.number.largest};
   }
   // Only a divisor that may be zero needs the place where the failure is told.
-  const bool literal = right.present && right.cheap && right.number.integral && divisor != "0";
-  piece.text =
-      "num_div(" + dividend + ", " + divisor + (literal ? ")" : ", " + std::to_string(place.offset) + ")");
-  return piece;
+  const bool isLiteral = right.present && right.cheap && right.number.integral;
+  if (!isLiteral || isZero(right.node)) args.push_back(to.place(place));
+  value.node = to.call("num_div", args);
+  return value;
 }
 
 /// A DATE and an INTERVAL literal, which is no value of its own.
-Piece dateAndInterval(Emitter& emitter, const sql::Arithmetic& arithmetic,
-                      const sql::IntervalLiteral& literal) {
-  const sql::Expr& date = arithmetic.left == &literal ? *arithmetic.right : *arithmetic.left;
-  const std::int64_t amount = literal.interval.amount;
-  Piece piece;
-  piece.kind = TypeKind::Date;
-  piece.text = "date_interval(" + emitter.expression(date).text + ", " +
-               std::to_string(arithmetic.op == ArithmeticOp::Subtract ? -amount : amount) + ", " +
-               (literal.interval.months ? "1" : "0") + ", " + std::to_string(arithmetic.place.offset) + ")";
-  piece.atom = true;
-  return piece;
+Lowered lowerDateAndInterval(Lowerer& to, const sql::Arithmetic& arithmetic) {
+  const auto* literal = sql::intervalOf(arithmetic);
+  if (!literal) return {};
+  const sql::Expr& date = arithmetic.left == literal ? *arithmetic.right : *arithmetic.left;
+  const std::int64_t amount = literal->interval.amount;
+  return Value{
+      to.call("date_interval",
+              {to.lower(date).node, to.integer(arithmetic.op == ArithmeticOp::Subtract ? -amount : amount),
+               to.integer(literal->interval.months ? 1 : 0), to.place(arithmetic.place)}),
+      TypeKind::Date};
 }
 
-Piece lowerArithmetic(Emitter& emitter, const sql::Arithmetic& arithmetic) {
-  if (const auto* interval = sql::intervalOf(arithmetic))
-    return dateAndInterval(emitter, arithmetic, *interval);
-  if (isLongChain(arithmetic)) return lowerLongChain(emitter, arithmetic);
-  Piece left = emitter.expression(*arithmetic.left);
-  Piece right = emitter.expression(*arithmetic.right);
-  const sql::Place place = arithmetic.place;
+Lowered lowerDates(Lowerer& to, const sql::Arithmetic& arithmetic) {
+  if (arithmetic.left->type.kind != TypeKind::Date && arithmetic.right->type.kind != TypeKind::Date)
+    return {};
+  Value left = to.lower(*arithmetic.left);
+  Value right = to.lower(*arithmetic.right);
   const bool subtract = arithmetic.op == ArithmeticOp::Subtract;
-  if (left.kind == TypeKind::Date || right.kind == TypeKind::Date) {
-    if (subtract && left.kind == TypeKind::Date && right.kind == TypeKind::Date)
-      return dateCall("date_days", left, right, TypeKind::Number, place);
+  std::string_view function = subtract ? "date_minus" : "date_plus";
+  TypeKind kind = TypeKind::Date;
+  if (subtract && left.kind == TypeKind::Date && right.kind == TypeKind::Date) {
+    function = "date_days";
+    kind = TypeKind::Number;
+  } else {
     if (left.kind != TypeKind::Date) std::swap(left, right);
-    right = emitter.converted(std::move(right), TypeKind::Number, place);
-    return dateCall(subtract ? "date_minus" : "date_plus", left, right, TypeKind::Date, place);
+    right = to.converted(right, TypeKind::Number, arithmetic.place);
   }
-  left = emitter.converted(std::move(left), TypeKind::Number, arithmetic.left->place);
-  right = emitter.converted(std::move(right), TypeKind::Number, arithmetic.right->place);
+  return Value{to.call(function, {left.node, right.node, to.place(arithmetic.place)}), kind};
+}
+
+Lowered lowerArithmetic(Lowerer& to, const sql::Arithmetic& arithmetic) {
+  const Value left = to.lowerAs(*arithmetic.left, TypeKind::Number);
+  const Value right = to.lowerAs(*arithmetic.right, TypeKind::Number);
+  const double sum = left.number.largest + right.number.largest;
+  const double product = left.number.largest * right.number.largest;
   switch (arithmetic.op) {
     case ArithmeticOp::Add:
-      return exactOr("num_add", '+', left, right, left.number.largest + right.number.largest, place);
+      return exactOr(to, "num_add", lite::Operator::Add, left, right, sum, arithmetic.place);
     case ArithmeticOp::Subtract:
-      return exactOr("num_sub", '-', left, right, left.number.largest + right.number.largest, place);
+      return exactOr(to, "num_sub", lite::Operator::Subtract, left, right, sum, arithmetic.place);
     case ArithmeticOp::Multiply:
-      return exactOr("num_mul", '*', left, right, left.number.largest * right.number.largest, place);
+      return exactOr(to, "num_mul", lite::Operator::Multiply, left, right, product, arithmetic.place);
     case ArithmeticOp::Divide:
       break;
   }
-  return divided(emitter, left, right, place);
+  return divided(to, left, right, arithmetic.place);
 }
 
-Piece lowerNegate(Emitter& emitter, const sql::Negate& negate) {
-  Piece piece =
-      emitter.converted(emitter.expression(*negate.operand), TypeKind::Number, negate.operand->place);
-  if (negate.plus) return piece;
-  piece.kind = TypeKind::Number;
-  piece.quotient = {};
-  piece.cheap = false;
-  if (piece.number.integral && piece.number.largest <= kFits) {
-    piece.text = "-" + bracketed(piece);
-    piece.atom = false;
-  } else {
-    piece.text = "num_neg(" + piece.text + ", " + std::to_string(negate.place.offset) + ")";
-    piece.atom = true;
-    piece.number = {};
-  }
-  return piece;
+Lowered lowerNegate(Lowerer& to, const sql::Negate& negate) {
+  Value value = to.lowerAs(*negate.operand, TypeKind::Number);
+  if (negate.plus) return value;
+  const bool exact = value.number.integral && value.number.largest <= kFits;
+  value.node = exact ? to.operation(lite::Operator::Minus, {value.node})
+                     : to.call("num_neg", {value.node, to.place(negate.place)});
+  if (!exact) value.number = {};
+  value.kind = TypeKind::Number;
+  value.quotient = {};
+  value.cheap = false;
+  return value;
 }
 
 }  // namespace kestrelix::embedded

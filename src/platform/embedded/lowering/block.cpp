@@ -1,7 +1,7 @@
-#include <unordered_set>
+#include "platform/embedded/lowering/block.h"
 
 #include "platform/ascii.h"
-#include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/walk.h"
 
 namespace kestrelix::embedded {
@@ -16,96 +16,103 @@ void splitAnd(const sql::Expr* expr, std::vector<const sql::Expr*>& terms) {
   }
 }
 
+void addSources(const sql::FromItem* item, std::unordered_set<const sql::FromItem*>& sources) {
+  sources.insert(item);
+  if (const auto* join = sql::as<sql::JoinItem>(item)) {
+    addSources(join->left, sources);
+    addSources(join->right, sources);
+  }
+}
+
 }  // namespace
 
-QueryText lowerBlock(Emitter& emitter, const sql::SelectBlock& block,
-                     const sql::List<sql::OrderItem>* order) {
-  const std::string rownumAround = std::exchange(emitter.rownum(), {});
-  BlockParts parts = lowerFrom(emitter, block);
-  QueryText text;
-  if (block.usesRownum) {
-    text = lowerRownumBlock(emitter, block, parts, order);
-  } else {
-    std::string where = whereOf(emitter, parts.conjuncts);
-    if (const std::string keys = givenKeyTests(emitter, block); !keys.empty())
-      where += (where.empty() ? " WHERE " : " AND ") + keys;
-    text = assembleBlock(emitter, block, parts.from, where, order);
-  }
-  emitter.rownum() = rownumAround;
-  return text;
+LoweredQuery Lowerer::lower(const sql::SelectBlock& block, const sql::List<sql::OrderItem>* order) {
+  const Within<const lite::Expr*> noRownum(rownum, nullptr);
+  const Within<const lite::Expr*> noFilter(filter, nullptr);
+  std::vector<const sql::Expr*> conjuncts;
+  splitAnd(block.where, conjuncts);
+  passKeyTests(*this, block, conjuncts);
+  BlockParts parts{block, order, lowerFrom(*this, block, conjuncts), {}};
+  if (block.usesRownum) return lowerRownumBlock(*this, std::move(parts), conjuncts);
+  for (const sql::Expr* term : conjuncts) parts.where.push_back(condition(*term));
+  addGivenKeyTests(*this, parts);
+  return assembleBlock(*this, std::move(parts));
 }
 
-std::string whereOf(Emitter& emitter, const std::vector<const sql::Expr*>& conjuncts) {
-  std::vector<std::string> terms;
-  terms.reserve(conjuncts.size());
-  for (const sql::Expr* term : conjuncts) terms.push_back(emitter.condition(*term));
-  return terms.empty() ? "" : " WHERE " + chained(std::move(terms), " AND ");
-}
-
-BlockParts lowerFrom(Emitter& emitter, const sql::SelectBlock& block) {
-  BlockParts parts;
-  splitAnd(block.where, parts.conjuncts);
-  passKeyTests(emitter, block, parts.conjuncts);
-  parts.from = emitter.from(block, parts.conjuncts);
-  return parts;
-}
-
-QueryText assembleList(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
-                       const std::string& where) {
-  QueryText result;
-  std::string list;
-  std::vector<Piece>& outputs = result.outputs;
+LoweredQuery assembleList(Lowerer& to, BlockParts parts) {
+  const sql::SelectBlock& block = parts.block;
+  lite::Select& select = *to.select();
+  select.distinct = block.distinct;
+  select.from = std::move(parts.from);
+  select.where.assign(parts.where.begin(), parts.where.end());
+  LoweredQuery result{to.query(&select)};
   std::unordered_set<std::string> names;
   const bool oneGroup = block.grouped && block.groupBy.empty();
   bool allUsed = true;
   for (std::size_t i = 0; i < block.columns.size(); ++i)
-    allUsed = allUsed && isUsed(emitter.usedColumns(), block, i);
+    allUsed = allUsed && isUsed(to.usedColumns, block, i);
   for (std::size_t i = 0; i < block.columns.size(); ++i) {
     const auto& column = block.columns[i];
     std::string name(column.name);
     for (int n = 2; !names.insert(asciiUpper(name)).second; ++n)
       name = std::string(column.name) + "_" + std::to_string(n);
-    Piece piece;
-    if (isUsed(emitter.usedColumns(), block, i)) {
-      piece = emitter.expression(*column.expr);
+    const std::string_view kept = to.keep(name);
+    Value value;
+    if (isUsed(to.usedColumns, block, i)) {
+      value = to.lower(*column.expr);
+      const lite::Expr* node = value.node;
       // Without GROUP BY SQLite takes the rows for one group only if it sees an aggregate outside windows and
       // HAVING.
-      const bool hidden = list.empty() && oneGroup && (block.having || block.windowed || !allUsed);
-      const std::string text = hidden ? "CASE WHEN count(*) >= 0 THEN " + piece.text + " END" : piece.text;
-      list += (list.empty() ? "" : ", ") + text + " AS " + quoted(name);
+      if (select.items.empty() && oneGroup && (block.having || block.windowed || !allUsed)) {
+        lite::Case& shown = *to.choice();
+        const auto* count = to.call("count", {to.star()});
+        shown.arms.push_back({to.operation(lite::Operator::GreaterEqual, {count, to.integer(0)}), node});
+        node = &shown;
+      }
+      select.items.push_back({node, kept});
     }
-    result.columns.push_back({name, column.type.kind, piece.number});
-    outputs.push_back(std::move(piece));
+    result.columns.push_back({kept, column.type.kind, value.number});
+    result.outputs.push_back(value);
   }
-  if (list.empty()) list = oneGroup ? "count(*) AS \"rows\"" : "1 AS \"rows\"";
-  result.text = std::string("SELECT ") + (block.distinct ? "DISTINCT " : "") + list;
-  result.listEnd = result.text.size();
-  result.text += " FROM " + from + where;
+  if (select.items.empty())
+    select.items.push_back({oneGroup ? to.call("count", {to.star()}) : to.integer(1), "rows"});
   return result;
 }
 
-std::string groupByText(const std::vector<std::string>& keys) {
-  std::string list;
-  for (const std::string& key : keys)
+void addGroupKeys(Lowerer& to, lite::Select& select, const std::vector<const lite::Expr*>& keys) {
+  for (const lite::Expr* key : keys)
     // A constant groups nothing in Oracle; SQLite would take a whole number for the place of a column.
-    if (!isPlainNumber(key)) list += (list.empty() ? "" : ", ") + key;
-  return " GROUP BY " + (list.empty() ? "''||''" : list);
+    if (!isWholeLiteral(key)) select.groupBy.push_back(key);
+  if (select.groupBy.empty())
+    select.groupBy.push_back(to.operation(lite::Operator::Concat, {to.text(""), to.text("")}));
 }
 
-QueryText assembleBlock(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
-                        const std::string& where, const sql::List<sql::OrderItem>* order) {
-  if (readsGroups(block)) return assembleGroups(emitter, block, from, where, order);
-  const std::string anchorAround = emitter.anchor();
-  const std::string anchor = lowerAnchor(emitter, block, order);
-  QueryText result = assembleList(emitter, block, from + anchor, where);
-  std::vector<std::string> keys;
+LoweredQuery assembleBlock(Lowerer& to, BlockParts parts) {
+  const sql::SelectBlock& block = parts.block;
+  if (readsGroups(block)) return assembleGroups(to, std::move(parts));
+  const auto* order = parts.isOrdered() ? parts.order : nullptr;
+  const Within anchor(to.anchor, addAnchor(to, parts));
+  LoweredQuery result = assembleList(to, std::move(parts));
+  lite::Select& select = *result.query->branches.front().select;
+  std::vector<const lite::Expr*> keys;
   for (const sql::Expr* key : block.groupBy)
-    if (!isLiteral(*key)) keys.push_back(emitter.expression(*key).text);
-  if (!block.groupBy.empty()) result.text += groupByText(keys);
-  if (block.having) result.text += " HAVING " + emitter.condition(*block.having);
-  if (order && !order->empty()) result.text += lowerOrder(emitter, *order, &result.outputs);
-  emitter.anchor() = anchorAround;
+    if (!isLiteral(*key)) keys.push_back(to.lower(*key).node);
+  if (!block.groupBy.empty()) addGroupKeys(to, select, keys);
+  if (block.having) select.having = to.condition(*block.having);
+  if (order) result.query->orderBy = lowerOrder(to, *order, &result.outputs);
   return result;
+}
+
+Wrap wrapOf(Lowerer& to, const sql::SelectBlock& block, const char* alias) {
+  Wrap wrap;
+  wrap.alias = to.uniqueAlias(alias);
+  for (const sql::FromItem* item : block.from) addSources(item, wrap.sources);
+  return wrap;
+}
+
+void addExports(Lowerer& to, const Wrap& wrap, lite::Select& select) {
+  for (const auto& [column, name] : wrap.exports)
+    select.items.push_back({to.column(column.first, column.second).node, name});
 }
 
 }  // namespace kestrelix::embedded

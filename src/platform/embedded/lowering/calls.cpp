@@ -4,73 +4,55 @@
 namespace kestrelix::embedded {
 namespace {
 
-/// The functions whose results are whole numbers, with the largest of them.
-struct WholeFunction {
-  std::string_view name;
-  double largest;
-};
-constexpr WholeFunction kWholeFunctions[] = {
-    {"LENGTH", 1e10}, {"LENGTHB", 1e10}, {"INSTR", 1e10},        {"INSTRB", 1e10},
-    {"SIGN", 1},      {"ASCII", 1e10},   {"REGEXP_COUNT", 1e10}, {"REGEXP_INSTR", 1e10},
-};
-
-Piece text(std::string_view value) {
-  Piece piece;
-  piece.text = textLiteral(value);
-  piece.kind = sql::TypeKind::Char;
-  return piece;
-}
-
-bool isConversionToItself(const sql::Call& call, const Piece& argument) {
+bool isConversionToItself(const sql::Call& call, const Value& argument) {
   return call.args.size() == 1 && ((call.name == "TO_NUMBER" && argument.kind == sql::TypeKind::Number) ||
                                    (call.name == "TO_CHAR" && sql::Type{argument.kind}.isText()) ||
                                    (call.name == "TO_DATE" && argument.kind == sql::TypeKind::Date));
 }
 
-/// Of the 127 arguments of a function in SQLite, those that are given to one.
-constexpr std::size_t kMostArguments = 100;
-
 /// GREATEST and LEAST of more arguments than SQLite takes are those of the first ones and the rest.
-void foldExtremes(Emitter& emitter, const sql::Call& call, std::vector<Piece>& arguments) {
+void foldExtremes(Lowerer& to, const sql::Call& call, std::vector<Value>& arguments) {
   if (call.name != "GREATEST" && call.name != "LEAST") return;
-  while (arguments.size() > kMostArguments) {
-    const auto rest = arguments.begin() + kMostArguments;
-    Piece first = emitter.call(call.name, {arguments.begin(), rest}, call.type, call.place);
+  while (arguments.size() > lite::kMostArguments) {
+    const auto rest = arguments.begin() + lite::kMostArguments;
+    const Value first = to.function(call.name, {arguments.begin(), rest}, call.type, call.place);
     arguments.erase(arguments.begin() + 1, rest);
-    arguments.front() = std::move(first);
+    arguments.front() = first;
   }
 }
 
 }  // namespace
 
-Piece lowerCall(Emitter& emitter, const sql::Call& call) {
+Lowered lowerCall(Lowerer& to, const sql::Call& call) {
   const std::string name = call.package.empty() ? std::string(call.name)
                                                 : std::string(call.package) + "." + std::string(call.name);
-  std::vector<Piece> arguments;
-  for (const sql::Expr* argument : call.args) arguments.push_back(emitter.expression(*argument));
+  if (call.role == sql::CallRole::Aggregate || call.role == sql::CallRole::Window)
+    throw sql::SqlError::unsupported("the aggregate " + name, call.place);
+  std::vector<Value> arguments;
+  for (const sql::Expr* argument : call.args) arguments.push_back(to.lower(*argument));
   if (!call.option.empty()) {
     // TRIM(LEADING x FROM y) and EXTRACT(YEAR FROM d): the word goes behind as a text; without an x it is a
     // blank.
-    if (call.name == "TRIM" && arguments.size() == 1) arguments.push_back(text(" "));
-    arguments.push_back(text(call.option));
+    if (call.name == "TRIM" && arguments.size() == 1)
+      arguments.push_back({to.text(" "), sql::TypeKind::Char});
+    arguments.push_back({to.text(call.option), sql::TypeKind::Char});
   }
-  const values::Function* known = values::findFunction(name);
-  if (!known || !known->call) throw sql::SqlError::unsupported("the function " + name, call.place);
-  if (name == "TO_NUMBER" && arguments.front().kind == sql::TypeKind::Null) {
-    arguments.front().kind = sql::TypeKind::Number;
-    arguments.front().number = {true, 0};
-    return arguments.front();
+  if (!call.function || !call.function->call)
+    throw sql::SqlError::unsupported("the function " + name, call.place);
+  Value& first = arguments.front();
+  if (name == "TO_NUMBER" && first.kind == sql::TypeKind::Null) {
+    first.kind = sql::TypeKind::Number;
+    first.number = {true, 0};
+    return first;
   }
-  if (arguments.size() == 1 && isConversionToItself(call, arguments.front())) {
-    arguments.front().kind = call.type.kind;
-    return arguments.front();
+  if (arguments.size() == 1 && isConversionToItself(call, first)) {
+    first.kind = call.type.kind;
+    return first;
   }
-  foldExtremes(emitter, call, arguments);
-  Piece piece = emitter.call(name, arguments, call.type, call.place);
-  piece.number.integral = piece.kind == sql::TypeKind::Number && call.type.integral;
-  for (const auto& whole : kWholeFunctions)
-    if (whole.name == name) piece.number = {true, whole.largest};
-  return piece;
+  foldExtremes(to, call, arguments);
+  Value value = to.function(name, arguments, call.type, call.place);
+  if (call.type.integral) value.number = {true, call.function->largest};
+  return value;
 }
 
 }  // namespace kestrelix::embedded

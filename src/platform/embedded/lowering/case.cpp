@@ -1,30 +1,27 @@
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
 
-Piece lowerCase(Emitter& emitter, const sql::CaseExpr& expr) {
-  Piece result;
-  result.kind = expr.type.kind;
+Lowered lowerCase(Lowerer& to, const sql::CaseExpr& expr) {
+  const sql::TypeKind kind = expr.type.kind;
   CommonFacts facts;
   const auto branch = [&](const sql::Expr& value) {
-    Piece piece = emitter.converted(emitter.expression(value), result.kind, value.place);
-    facts.add(piece);
-    return piece;
+    const Value lowered = to.lowerAs(value, kind);
+    facts.add(lowered);
+    return lowered.node;
   };
-  result.text = "CASE";
+  lite::Case& choice = *to.choice();
+  Value operand;
+  if (expr.operand) operand = to.lower(*expr.operand);
   for (const auto& arm : expr.whens) {
-    const std::string when = expr.operand
-                                 ? compared(emitter, sql::CompareOp::Equal, emitter.expression(*expr.operand),
-                                            emitter.expression(*arm.when), arm.when->place)
-                                 : emitter.condition(*arm.when);
-    result.text += " WHEN " + when + " THEN " + branch(*arm.then).text;
+    const Value when = to.lower(*arm.when);
+    const lite::Expr* test =
+        expr.operand ? compared(to, sql::CompareOp::Equal, operand, when, arm.when->place) : when.node;
+    choice.arms.push_back({test, branch(*arm.then)});
   }
-  if (expr.otherwise) result.text += elseOf(branch(*expr.otherwise));
-  result.text += " END";
-  result.atom = true;
-  result.searched = true;
-  result.number = facts.facts();
-  return result;
+  if (expr.otherwise) to.close(choice, branch(*expr.otherwise));
+  return Value{&choice, kind, facts.facts()};
 }
 
 }  // namespace kestrelix::embedded

@@ -1,44 +1,35 @@
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
+namespace {
 
-Piece lowerCast(Emitter& emitter, const sql::CastExpr& cast) {
-  Piece piece = emitter.expression(*cast.operand);
-  const bool fromText = sql::Type{piece.kind}.isText();
-  piece = emitter.converted(std::move(piece), cast.target, cast.place);
-  const std::string place = std::to_string(cast.place.offset);
-  const std::string length = std::to_string(cast.precision);
-  Piece result;
-  result.kind = cast.type.kind;
-  result.atom = true;
-  switch (cast.target) {
-    case sql::TypeKind::Number:
-      if (cast.binaryDigits > 0) {
-        result.text =
-            "cast_float(" + piece.text + ", " + std::to_string(cast.binaryDigits) + ", " + place + ")";
-        return result;
-      }
-      if (cast.precision < 0 && !cast.integer) {
-        piece.kind = result.kind;
-        return piece;
-      }
-      result.text = "cast_number(" + piece.text + ", " + (cast.integer ? "38" : length) + ", " +
-                    std::to_string(cast.scale) + ", " + place + ")";
-      return result;
-    case sql::TypeKind::Varchar2:
-    case sql::TypeKind::Char:
-      if (cast.precision < 0 && cast.target == sql::TypeKind::Varchar2) {
-        piece.kind = result.kind;
-        return piece;
-      }
-      result.text = std::string(cast.target == sql::TypeKind::Char ? "cast_char(" : "cast_varchar(") +
-                    piece.text + ", " + (cast.precision < 0 ? "1" : length) + ", " +
-                    (cast.inChars ? "1" : "0") + ", " + (fromText ? "1" : "0") + ", " + place + ")";
-      return result;
-    default:
-      piece.kind = result.kind;
-      return piece;
-  }
+const lite::Expr* castNumber(Lowerer& to, const sql::CastExpr& cast, const lite::Expr* operand) {
+  if (cast.binaryDigits > 0)
+    return to.call("cast_float", {operand, to.integer(cast.binaryDigits), to.place(cast.place)});
+  if (cast.precision < 0 && !cast.integer) return operand;
+  return to.call("cast_number", {operand, to.integer(cast.integer ? 38 : cast.precision),
+                                 to.integer(cast.scale), to.place(cast.place)});
+}
+
+const lite::Expr* castText(Lowerer& to, const sql::CastExpr& cast, const lite::Expr* operand, bool fromText) {
+  const bool isChar = cast.target == sql::TypeKind::Char;
+  if (cast.precision < 0 && !isChar) return operand;
+  return to.call(isChar ? "cast_char" : "cast_varchar",
+                 {operand, to.integer(cast.precision < 0 ? 1 : cast.precision),
+                  to.integer(cast.inChars ? 1 : 0), to.integer(fromText ? 1 : 0), to.place(cast.place)});
+}
+
+}  // namespace
+
+Lowered lowerCast(Lowerer& to, const sql::CastExpr& cast) {
+  const Value operand = to.lower(*cast.operand);
+  Value value = to.converted(operand, cast.target, cast.place);
+  const lite::Expr* node = value.node;
+  if (cast.target == sql::TypeKind::Number) node = castNumber(to, cast, node);
+  if (sql::Type{cast.target}.isText()) node = castText(to, cast, node, sql::Type{operand.kind}.isText());
+  if (node != value.node) return Value{node, cast.type.kind};
+  value.kind = cast.type.kind;
+  return value;
 }
 
 }  // namespace kestrelix::embedded

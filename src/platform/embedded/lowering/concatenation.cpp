@@ -3,35 +3,30 @@
 namespace kestrelix::embedded {
 namespace {
 
-void collect(Emitter& emitter, const sql::Expr& expr, std::vector<Piece>& parts) {
+void collect(Lowerer& to, const sql::Expr& expr, std::vector<Value>& parts) {
   if (const auto* concat = sql::as<sql::Concat>(&expr)) {
-    collect(emitter, *concat->left, parts);
-    collect(emitter, *concat->right, parts);
+    collect(to, *concat->left, parts);
+    collect(to, *concat->right, parts);
     return;
   }
-  parts.push_back(emitter.converted(emitter.expression(expr), sql::TypeKind::Varchar2, expr.place));
+  parts.push_back(to.lowerAs(expr, sql::TypeKind::Varchar2));
 }
 
 }  // namespace
 
-Piece lowerConcat(Emitter& emitter, const sql::Concat& concat) {
-  std::vector<Piece> parts;
-  collect(emitter, concat, parts);
-  Piece piece;
-  piece.kind = sql::TypeKind::Varchar2;
-  std::vector<std::string> terms;
-  for (const Piece& part : parts) {
+Lowered lowerConcat(Lowerer& to, const sql::Concat& concat) {
+  std::vector<Value> parts;
+  collect(to, concat, parts);
+  Value value{nullptr, sql::TypeKind::Varchar2};
+  std::vector<const lite::Expr*> terms;
+  for (const Value& part : parts) {
     if (part.kind == sql::TypeKind::Null) continue;
-    terms.push_back(part.present ? bracketed(part) : "coalesce(" + part.text + ", '')");
-    piece.present = piece.present || part.present;
+    terms.push_back(part.present ? part.node : to.coalesce({part.node, to.text("")}));
+    value.present = value.present || part.present;
   }
-  piece.text = chained(std::move(terms), " || ");
-  if (piece.text.empty()) piece.text = "NULL";
-  if (!piece.present) {
-    piece.text = "nullif(" + piece.text + ", '')";
-    piece.atom = true;
-  }
-  return piece;
+  value.node = terms.empty() ? to.null() : to.operation(lite::Operator::Concat, terms);
+  if (!value.present) value.node = to.call("nullif", {value.node, to.text("")});
+  return value;
 }
 
 }  // namespace kestrelix::embedded

@@ -1,6 +1,9 @@
 // DECODE(value, search, result, ..., default) compares in the type of its first search, takes null as equal
 // to null, never pads with blanks, and evaluates no result but the one that it gives.
+#include <algorithm>
+
 #include "oracle_sql/printer.h"
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
@@ -9,13 +12,13 @@ namespace {
 using sql::TypeKind;
 
 struct Arm {
-  Piece search;
-  std::string result;
+  Value search;
+  const lite::Expr* result;
 };
 
 /// The type that DECODE compares in. A null as first search leaves it to the others: text, unless all are
 /// numbers or all are dates, where the comparison as text gives nothing else.
-TypeKind comparisonKind(const Piece& value, const std::vector<Arm>& arms) {
+TypeKind comparisonKind(const Value& value, const std::vector<Arm>& arms) {
   const TypeKind first = arms.front().search.kind;
   if (first == TypeKind::Char) return TypeKind::Varchar2;
   if (first != TypeKind::Null) return first;
@@ -26,9 +29,9 @@ TypeKind comparisonKind(const Piece& value, const std::vector<Arm>& arms) {
   return value.kind;
 }
 
-std::string test(const Piece& value, const Piece& search) {
-  if (search.kind == TypeKind::Null) return bracketed(value) + " IS NULL";
-  return bracketed(value) + (search.present ? " = " : " IS ") + bracketed(search);
+const lite::Expr* test(Lowerer& to, const Value& value, const Value& search) {
+  if (search.kind == TypeKind::Null) return to.operation(lite::Operator::IsNull, {value.node});
+  return to.operation(search.present ? lite::Operator::Equal : lite::Operator::Is, {value.node, search.node});
 }
 
 bool isNullLiteral(const sql::Expr& expr) {
@@ -47,52 +50,42 @@ bool isThereWith(const sql::Expr& expr, const sql::Expr& value) {
   return sql::equal(*call->args.front(), value);
 }
 
-/// DECODE(x, null, ' ', ROUND(x, 2)) is COALESCE(ROUND(x, 2), ' '), which computes x once.
-bool isCoalesce(const sql::Call& call) {
-  return call.args.size() == 4 && isNullLiteral(*call.args[1]) && isThereWith(*call.args[3], *call.args[0]);
-}
-
 }  // namespace
 
-Piece lowerDecode(Emitter& emitter, const sql::Call& call) {
-  if (isCoalesce(call)) return lowerEither(emitter, call, *call.args[3], *call.args[2]);
-  Piece result;
-  result.kind = call.type.kind;
-  result.atom = true;
+/// DECODE(x, null, ' ', ROUND(x, 2)) is COALESCE(ROUND(x, 2), ' '), which computes x once.
+Lowered lowerDecodeOfNull(Lowerer& to, const sql::Call& call) {
+  if (call.args.size() != 4 || !isNullLiteral(*call.args[1]) || !isThereWith(*call.args[3], *call.args[0]))
+    return {};
+  return either(to, call, *call.args[3], *call.args[2]);
+}
+
+Lowered lowerDecode(Lowerer& to, const sql::Call& call) {
+  const TypeKind resultKind = call.type.kind;
   CommonFacts facts;
   const auto resultOf = [&](const sql::Expr& expr) {
-    Piece piece = emitter.converted(emitter.expression(expr), result.kind, expr.place);
-    facts.add(piece);
-    return piece;
+    const Value lowered = to.lowerAs(expr, resultKind);
+    facts.add(lowered);
+    return lowered.node;
   };
   std::vector<Arm> arms;
   std::size_t next = 1;
   for (; next + 1 < call.args.size(); next += 2)
-    arms.push_back({emitter.expression(*call.args[next]), resultOf(*call.args[next + 1]).text});
-  Piece otherwise;
-  if (next < call.args.size()) otherwise = resultOf(*call.args[next]);
+    arms.push_back({to.lower(*call.args[next]), resultOf(*call.args[next + 1])});
+  const lite::Expr* otherwise = next < call.args.size() ? resultOf(*call.args[next]) : nullptr;
 
-  Piece value = emitter.expression(*call.args.front());
+  Value value = to.lower(*call.args.front());
   const TypeKind kind = comparisonKind(value, arms);
-  value = emitter.converted(std::move(value), kind, call.args.front()->place);
-  bool simple = arms.size() > 1 && !value.cheap;
-  for (Arm& arm : arms) {
-    arm.search = emitter.converted(std::move(arm.search), kind, call.place);
-    simple = simple && arm.search.present;
-  }
-  if (simple) {
-    // The value is computed once only in this form, which takes no null as equal to null.
-    result.text = "CASE " + value.text;
-    for (const Arm& arm : arms) result.text += " WHEN " + arm.search.text + " THEN " + arm.result;
-  } else {
-    result.text = "CASE";
-    for (const Arm& arm : arms) result.text += " WHEN " + test(value, arm.search) + " THEN " + arm.result;
-  }
-  result.searched = !simple;
-  if (!otherwise.text.empty()) result.text += simple ? " ELSE " + otherwise.text : elseOf(otherwise);
-  result.text += " END";
-  result.number = facts.facts();
-  return result;
+  value = to.converted(value, kind, call.args.front()->place);
+  for (Arm& arm : arms) arm.search = to.converted(arm.search, kind, call.place);
+  // The value is computed once only in the simple form, which takes no null as equal to null.
+  const bool simple =
+      arms.size() > 1 && !value.cheap &&
+      std::all_of(arms.begin(), arms.end(), [](const Arm& arm) { return arm.search.present; });
+  lite::Case& choice = *to.choice(simple ? value.node : nullptr);
+  for (const Arm& arm : arms)
+    choice.arms.push_back({simple ? arm.search.node : test(to, value, arm.search), arm.result});
+  if (otherwise) to.close(choice, otherwise);
+  return Value{&choice, resultKind, facts.facts()};
 }
 
 }  // namespace kestrelix::embedded

@@ -4,12 +4,12 @@
 
 #include "oracle_sql/function_error.h"
 #include "oracle_sql/number.h"
-#include "platform/embedded/lowering/rules.h"
+#include "oracle_sql/spelling.h"
+#include "platform/embedded/lowering/builders.h"
 
 namespace kestrelix::embedded {
 namespace {
 
-using sql::BoundKind;
 using sql::TypeKind;
 
 /// The value of what is made of literals alone.
@@ -40,9 +40,9 @@ std::optional<values::Number> constantOf(const sql::Expr& expr) {
 /// What a bound of a frame is counted in: rows, the steps between whole keys, or the seconds of a date.
 enum class Unit { Rows, Steps, Seconds };
 
-Unit unitOf(Emitter& emitter, const sql::Window& window, sql::Place place) {
+Unit unitOf(Lowerer& to, const sql::Window& window, sql::Place place) {
   if (window.unit == sql::FrameUnit::Rows) return Unit::Rows;
-  const Piece key = emitter.expression(*window.orderBy.front().expr);
+  const Value key = to.lower(*window.orderBy.front().expr);
   if (key.kind == TypeKind::Date) return Unit::Seconds;
   if (key.kind != TypeKind::Number || !key.number.integral)
     throw sql::SqlError::unsupported("RANGE with an offset over a key that is no date and no whole number",
@@ -53,11 +53,14 @@ Unit unitOf(Emitter& emitter, const sql::Window& window, sql::Place place) {
 /// SQLite takes literals and binds as offsets, and no function of them. `takesIn` if a row at that very
 /// distance is at the near side of the bound: between whole keys a broken distance is then the next lower
 /// one.
-std::string offsetText(Emitter& emitter, Unit unit, const sql::Expr& offset, bool takesIn) {
+const lite::Expr* offsetOf(Lowerer& to, Unit unit, const sql::Expr& offset, bool takesIn) {
   if (const auto* bind = sql::as<sql::BindExpr>(&offset)) {
-    const Piece piece = emitter.expression(*bind);
-    if (piece.kind == TypeKind::Number && piece.number.integral)
-      return unit == Unit::Seconds ? piece.text + " * 86400" : piece.text;
+    const Value value = to.lower(*bind);
+    if (value.kind == TypeKind::Number && value.number.integral) {
+      to.addFrameBind(bind->name);
+      return unit == Unit::Seconds ? to.operation(lite::Operator::Multiply, {value.node, to.integer(86400)})
+                                   : value.node;
+    }
   }
   std::optional<values::Number> number;
   try {
@@ -70,56 +73,43 @@ std::string offsetText(Emitter& emitter, Unit unit, const sql::Expr& offset, boo
   if (unit == Unit::Rows && !number->isInteger())
     throw sql::SqlError::unsupported("a broken number of rows", offset.place);
   if (unit == Unit::Seconds) number = (*number * values::Number(86400)).round();
-  return std::to_string((takesIn ? number->floor() : number->ceil()).clampToInt64());
+  return to.integer((takesIn ? number->floor() : number->ceil()).clampToInt64());
 }
 
-std::string boundText(Emitter& emitter, const sql::Window& window, const sql::FrameBound& bound,
-                      bool isStart) {
-  switch (bound.kind) {
-    case BoundKind::UnboundedPreceding:
-      return "UNBOUNDED PRECEDING";
-    case BoundKind::UnboundedFollowing:
-      return "UNBOUNDED FOLLOWING";
-    case BoundKind::CurrentRow:
-      return "CURRENT ROW";
-    default:
-      break;
-  }
-  const bool before = bound.kind == BoundKind::Preceding;
-  return offsetText(emitter, unitOf(emitter, window, bound.offset->place), *bound.offset, isStart == before) +
-         (before ? " PRECEDING" : " FOLLOWING");
+lite::Bound boundOf(Lowerer& to, const sql::Window& window, const sql::FrameBound& bound, bool isStart) {
+  const lite::Expr* offset = nullptr;
+  if (bound.offset)
+    offset = offsetOf(to, unitOf(to, window, bound.offset->place), *bound.offset,
+                      isStart == (bound.kind == sql::BoundKind::Preceding));
+  return {offset, sql::spelling(bound.kind)};
 }
 
 }  // namespace
 
-std::string rowOffset(Emitter& emitter, const sql::Expr& expr, int least) {
-  const Piece offset = emitter.converted(emitter.expression(expr), TypeKind::Number, expr.place);
+const lite::Expr* rowOffset(Lowerer& to, const sql::Expr& expr, int least) {
+  const Value offset = to.lowerAs(expr, TypeKind::Number);
   const auto* literal = sql::as<sql::NumberLiteral>(&expr);
-  if (literal && offset.number.integral && offset.number.largest >= least) return offset.text;
-  return "row_offset(" + offset.text + ", " + std::to_string(least) + ", " +
-         std::to_string(expr.place.offset) + ")";
+  if (literal && offset.number.integral && offset.number.largest >= least) return offset.node;
+  return to.call("row_offset", {offset.node, to.integer(least), to.place(expr.place)});
 }
 
-std::string partitionText(Emitter& emitter, const sql::Window& window) {
-  std::string text;
-  for (const sql::Expr* key : window.partitionBy)
-    text += (text.empty() ? "PARTITION BY " : ", ") + emitter.expression(*key).text;
-  return text;
+lite::Window* lowerPartition(Lowerer& to, const sql::Window& window) {
+  lite::Window* lowered = to.window();
+  for (const sql::Expr* key : window.partitionBy) lowered->partitionBy.push_back(to.lower(*key).node);
+  return lowered;
 }
 
-std::string overText(Emitter& emitter, const sql::Window& window) {
-  const std::string order = lowerOrder(emitter, window.orderBy, nullptr);
-  std::string text = partitionText(emitter, window) + order;
-  if (window.unit != sql::FrameUnit::None) {
-    const bool offset = window.start.offset || window.end.offset;
-    if (window.unit == sql::FrameUnit::Range && offset && order.empty())
-      throw sql::SqlError::unsupported("RANGE with an offset over a constant", window.orderBy.front().place);
-    text += window.unit == sql::FrameUnit::Rows ? " ROWS " : " RANGE ";
-    const std::string start = boundText(emitter, window, window.start, true);
-    text +=
-        window.between ? "BETWEEN " + start + " AND " + boundText(emitter, window, window.end, false) : start;
-  }
-  return " OVER (" + text + ")";
+const lite::Window* lowerWindow(Lowerer& to, const sql::Window& window) {
+  lite::Window* lowered = lowerPartition(to, window);
+  lowered->orderBy = lowerOrder(to, window.orderBy, nullptr);
+  if (window.unit == sql::FrameUnit::None) return lowered;
+  const bool offset = window.start.offset || window.end.offset;
+  if (window.unit == sql::FrameUnit::Range && offset && lowered->orderBy.empty())
+    throw sql::SqlError::unsupported("RANGE with an offset over a constant", window.orderBy.front().place);
+  lowered->unit = window.unit == sql::FrameUnit::Rows ? "ROWS" : "RANGE";
+  lowered->start = boundOf(to, window, window.start, true);
+  if (window.between) lowered->end = boundOf(to, window, window.end, false);
+  return lowered;
 }
 
 }  // namespace kestrelix::embedded

@@ -3,11 +3,13 @@
 // with ANY or ALL of a subquery. An inner query makes the groups with their keys and aggregates; the block's
 // own expressions read those.
 #include <algorithm>
+#include <functional>
 #include <map>
 
 #include "oracle_sql/same_expression.h"
 #include "oracle_sql/walk.h"
-#include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/block.h"
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/walk.h"
 
 namespace kestrelix::embedded {
@@ -39,9 +41,9 @@ bool hasAggregateBelow(const sql::Expr& expr) {
 /// The columns of the inner query.
 class Groups {
  public:
-  Groups(Emitter& emitter, const sql::SelectBlock& block)
-      : emitter_(emitter), block_(block), alias_(emitter.uniqueAlias("GROUPS")) {
-    for (const sql::Expr* key : block.groupBy) keys_.push_back(emitter.expression(*key));
+  Groups(Lowerer& to, const sql::SelectBlock& block)
+      : to_(to), block_(block), alias_(to.uniqueAlias("GROUPS")) {
+    for (const sql::Expr* key : block.groupBy) keys_.push_back(to.lower(*key));
   }
 
   /// Finds what `expr` takes from the groups; `folds` if its aggregates are over the groups.
@@ -62,11 +64,11 @@ class Groups {
 
   /// From here on what was collected stands for columns of the groups.
   void readThem() {
-    for (const auto& [expr, piece] : read_) emitter_.replacements()[expr] = piece;
+    for (const auto& [expr, value] : read_) to_.replacements[expr] = value;
   }
 
   /// The keys that are columns, for the subqueries of the block.
-  Wrap wrap(Wrap sources) const {
+  Wrap wrap(Wrap sources) {
     sources.alias = alias_;
     for (std::size_t i = 0; i < keys_.size(); ++i) {
       const auto* column = sql::as<sql::ColumnRef>(block_.groupBy[i]);
@@ -76,42 +78,43 @@ class Groups {
     return sources;
   }
 
-  /// The query in FROM: all groupings of the rows that `rows` reads (" FROM ..." with its WHERE).
-  std::string item(const std::string& with, const std::string& rows) const {
+  /// The query in FROM: all groupings of the rows, each of a SELECT that `rows` begins.
+  lite::Source item(const std::function<lite::Select*()>& rows) {
     sql::List<sql::GroupingSet> sets = block_.groupingSets;
     if (block_.grouping.empty()) sets.push_back(~sql::GroupingSet{0});
     std::map<sql::GroupingSet, int> before;
-    std::string text;
-    for (const sql::GroupingSet set : sets)
-      text += (text.empty() ? "" : " UNION ALL ") + grouping(set, before[set]++, rows);
-    return "(" + with + text + ") AS " + quoted(alias_);
+    lite::Query* query = to_.query();
+    for (const sql::GroupingSet set : sets) {
+      lite::Select* select = rows();
+      group(*select, set, before[set]++);
+      query->branches.push_back({query->branches.empty() ? "" : "UNION ALL", select});
+    }
+    return to_.source(alias_, query);
   }
 
  private:
-  static std::string keyName(std::size_t i) { return "k" + std::to_string(i + 1); }
   static bool contains(sql::GroupingSet set, std::size_t key) { return key >= 64 || (set >> key & 1) != 0; }
 
-  void read(const sql::Expr& expr, const Piece& piece, const std::string& name) {
-    Piece column;
-    column.text = quoted(alias_) + "." + quoted(name);
-    column.kind = piece.kind;
-    column.number = piece.number;
-    column.atom = column.cheap = true;
-    read_[&expr] = column;
+  std::string_view keyName(std::size_t i) { return named('k', i + 1); }
+  std::string_view named(char letter, std::size_t number) {
+    return to_.keep(letter + std::to_string(number));
+  }
+
+  void read(const sql::Expr& expr, const Value& value, std::string_view name) {
+    read_[&expr] = to_.column(alias_, {name, value.kind, value.number});
   }
 
   void addAggregate(const sql::Expr& expr) {
-    const Piece piece = emitter_.expression(expr);
-    const auto name = aggregates_.try_emplace(piece.text, "a" + std::to_string(aggregates_.size() + 1)).first;
-    read(expr, piece, name->second);
+    auto found = std::find_if(aggregates_.begin(), aggregates_.end(), [&](const auto& aggregate) {
+      return sql::sameExpression(*aggregate.first, expr);
+    });
+    if (found == aggregates_.end()) found = aggregates_.insert(found, {&expr, to_.lower(expr)});
+    read(expr, found->second, named('a', static_cast<std::size_t>(found - aggregates_.begin()) + 1));
   }
 
   void addMark(const sql::Call& call) {
-    Piece piece;
-    piece.kind = sql::TypeKind::Number;
-    piece.number = {true, 2e18};
     marks_.push_back(&call);
-    read(call, piece, "g" + std::to_string(marks_.size()));
+    read(call, {nullptr, sql::TypeKind::Number, {true, 2e18}}, named('g', marks_.size()));
   }
 
   /// GROUP_ID: how many equal groupings come before. GROUPING and GROUPING_ID: a bit for each argument, 1
@@ -127,29 +130,26 @@ class Groups {
     return bits;
   }
 
-  std::string grouping(sql::GroupingSet set, int before, const std::string& rows) const {
-    std::string list;
-    std::vector<std::string> keys;
-    const auto select = [&](const std::string& text, const std::string& name) {
-      list += (list.empty() ? "" : ", ") + text + " AS " + quoted(name);
-    };
+  void group(lite::Select& select, sql::GroupingSet set, int before) {
+    std::vector<const lite::Expr*> keys;
     for (std::size_t i = 0; i < keys_.size(); ++i) {
-      select(contains(set, i) ? keys_[i].text : "NULL", keyName(i));
-      if (contains(set, i) && !isLiteral(*block_.groupBy[i])) keys.push_back(keys_[i].text);
+      select.items.push_back({contains(set, i) ? keys_[i].node : to_.null(), keyName(i)});
+      if (contains(set, i) && !isLiteral(*block_.groupBy[i])) keys.push_back(keys_[i].node);
     }
-    for (const auto& [text, name] : aggregates_) select(text, name);
+    for (std::size_t i = 0; i < aggregates_.size(); ++i)
+      select.items.push_back({aggregates_[i].second.node, named('a', i + 1)});
     for (std::size_t i = 0; i < marks_.size(); ++i)
-      select(std::to_string(valueOf(*marks_[i], set, before)), "g" + std::to_string(i + 1));
-    return "SELECT " + list + rows + groupByText(keys);
+      select.items.push_back({to_.integer(valueOf(*marks_[i], set, before)), named('g', i + 1)});
+    addGroupKeys(to_, select, keys);
   }
 
-  Emitter& emitter_;
+  Lowerer& to_;
   const sql::SelectBlock& block_;
-  std::string alias_;
-  std::vector<Piece> keys_;
-  std::map<std::string, std::string> aggregates_;  ///< name by text
+  std::string_view alias_;
+  std::vector<Value> keys_;
+  std::vector<std::pair<const sql::Expr*, Value>> aggregates_;
   std::vector<const sql::Call*> marks_;
-  std::map<const sql::Expr*, Piece> read_;
+  std::map<const sql::Expr*, Value> read_;
 };
 
 }  // namespace
@@ -162,48 +162,54 @@ bool readsGroups(const sql::SelectBlock& block) {
                      [](const auto& column) { return comparesAggregate(*column.expr); });
 }
 
-QueryText assembleGroups(Emitter& emitter, const sql::SelectBlock& block, const std::string& from,
-                         const std::string& where, const sql::List<sql::OrderItem>* order) {
-  const std::string rownum = emitter.rownum();
-  const std::string anchorAround = emitter.anchor();
-  const std::string anchor = lowerAnchor(emitter, block, order);
-  std::string with;
-  // Several groupings read the same rows, which are found once.
+LoweredQuery assembleGroups(Lowerer& to, BlockParts parts) {
+  const sql::SelectBlock& block = parts.block;
+  const auto* order = parts.isOrdered() ? parts.order : nullptr;
+  // Several groupings read the same rows, which are found once, by a query that they name.
   const bool several = block.groupingSets.size() > 1;
-  std::string rows = " FROM " + from + (several ? "" : anchor) + where;
-  Wrap read = wrapOf(emitter, block, "ROWS");
-  if (several) {
-    emitter.wraps().push_back(&read);
-    emitter.rownum().clear();
-  }
-  Groups groups(emitter, block);
+  BlockParts anchored{block, parts.order, lite::From(to.memory()), {}};
+  const Within anchor(to.anchor, addAnchor(to, several ? anchored : parts));
+  const Within rownum(to.rownum, several ? nullptr : to.rownum);
+  Wrap read = wrapOf(to, block, "ROWS");
+  if (several) to.wraps.push_back(&read);
+  Groups groups(to, block);
   for (std::size_t i = 0; i < block.columns.size(); ++i)
-    if (isUsed(emitter.usedColumns(), block, i))
-      groups.collect(*block.columns[i].expr, block.nestedAggregates);
+    if (isUsed(to.usedColumns, block, i)) groups.collect(*block.columns[i].expr, block.nestedAggregates);
   if (block.having) groups.collect(*block.having, false);
   if (order)
     for (const auto& item : *order)
       if (item.output < 0) groups.collect(*item.expr, block.nestedAggregates);
+  if (several) to.wraps.pop_back();
+
+  lite::Select* rows = to.select();
+  rows->from = std::move(parts.from);
+  rows->where.assign(parts.where.begin(), parts.where.end());
+  lite::Source item = groups.item([&] {
+    if (!several) return rows;
+    lite::Select* select = to.select();
+    select->from.push_back(to.source({}, nullptr));
+    select->from.back().table = read.alias;
+    for (const lite::Source& one : anchored.from) select->from.push_back(to.source(one.alias, one.query));
+    return select;
+  });
   if (several) {
-    emitter.wraps().pop_back();
-    const std::string list = exportList(emitter, read);
-    with =
-        "WITH " + quoted(read.alias) + " AS (SELECT " + (list.empty() ? "1 AS \"c0\"" : list) + rows + ") ";
-    rows = " FROM " + quoted(read.alias) + anchor;
+    addExports(to, read, *rows);
+    if (rows->items.empty()) rows->items.push_back({to.integer(1), "c0"});
+    item.query->with.push_back({read.alias, to.query(rows)});
   }
 
-  emitter.anchor().clear();
   groups.readThem();
-  Wrap grouped = groups.wrap(wrapOf(emitter, block, "GROUPS"));
+  Wrap grouped = groups.wrap(wrapOf(to, block, "GROUPS"));
   const std::size_t keys = grouped.exports.size();
-  emitter.wraps().push_back(&grouped);
-  emitter.rownum().clear();
-  const std::string kept = block.having ? " WHERE " + emitter.condition(*block.having) : "";
-  QueryText result = assembleList(emitter, block, groups.item(with, rows), kept);
-  if (order && !order->empty()) result.text += lowerOrder(emitter, *order, &result.outputs);
-  emitter.wraps().pop_back();
-  emitter.rownum() = rownum;
-  emitter.anchor() = anchorAround;
+  to.wraps.push_back(&grouped);
+  to.anchor = nullptr;
+  to.rownum = nullptr;
+  BlockParts around{block, order, lite::From(to.memory()), {}};
+  around.from.push_back(std::move(item));
+  if (block.having) around.where.push_back(to.condition(*block.having));
+  LoweredQuery result = assembleList(to, std::move(around));
+  if (order) result.query->orderBy = lowerOrder(to, *order, &result.outputs);
+  to.wraps.pop_back();
   if (grouped.exports.size() > keys)
     throw sql::SqlError::unsupported("a subquery on an expression that groups", block.place);
   return result;

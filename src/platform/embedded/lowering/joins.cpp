@@ -1,39 +1,24 @@
-#include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/builders.h"
 
 namespace kestrelix::embedded {
 namespace {
 
-const char* joinWord(sql::JoinKind kind) {
-  switch (kind) {
-    case sql::JoinKind::Left:
-      return " LEFT JOIN ";
-    case sql::JoinKind::Right:
-      return " RIGHT JOIN ";
-    case sql::JoinKind::Full:
-      return " FULL JOIN ";
-    case sql::JoinKind::Cross:
-      return " CROSS JOIN ";
-    case sql::JoinKind::Inner:
-      break;
-  }
-  return " JOIN ";
-}
+/// By JoinKind.
+constexpr std::string_view kWords[] = {"JOIN", "LEFT JOIN", "RIGHT JOIN", "FULL JOIN", "CROSS JOIN"};
 
 }  // namespace
 
-std::string lowerJoin(Emitter& emitter, const sql::JoinItem& join) {
-  const std::string left = emitter.source(*join.left);
-  std::string right = emitter.source(*join.right);
-  if (join.right->kind == sql::FromKind::Join) right = "(" + right + ")";
-
-  std::string on;
-  for (const auto& merged : join.merged) {
-    const Piece a = emitter.column(merged.leftSource, merged.leftColumn);
-    const Piece b = emitter.column(merged.rightSource, merged.rightColumn);
-    on += (on.empty() ? "" : " AND ") + compared(emitter, sql::CompareOp::Equal, a, b, join.place);
-  }
-  if (join.on) on = emitter.condition(*join.on);
-  return left + joinWord(join.join) + right + (on.empty() ? "" : " ON " + on);
+lite::From lowerJoin(Lowerer& to, const sql::JoinItem& join) {
+  lite::From sources = to.lower(*join.left);
+  lite::From right = to.lower(*join.right);
+  lite::Source& joined = right.size() == 1 ? sources.emplace_back(std::move(right.front()))
+                                           : sources.emplace_back(to.bracketed(std::move(right)));
+  joined.joinedBy = kWords[static_cast<std::size_t>(join.join)];
+  for (const auto& merged : join.merged)
+    joined.on.push_back(compared(to, sql::CompareOp::Equal, to.column(merged.leftSource, merged.leftColumn),
+                                 to.column(merged.rightSource, merged.rightColumn), join.place));
+  if (join.on) joined.on.push_back(to.condition(*join.on));
+  return sources;
 }
 
 }  // namespace kestrelix::embedded

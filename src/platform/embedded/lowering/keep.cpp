@@ -1,6 +1,7 @@
 // KEEP (DENSE_RANK FIRST|LAST ...): SQLite's aggregates know no order, so the sort keys go along, and the
 // aggregate itself drops the rows that another one comes before. The last ones are the first of the order
 // turned round. DISTINCT in a window, which SQLite lacks, keeps all rows of the partition.
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
@@ -10,7 +11,7 @@ using sql::TypeKind;
 
 struct KeptNumber {
   std::string_view name;
-  const char* function;
+  std::string_view function;
 };
 constexpr KeptNumber kKeptNumbers[] = {
     {"SUM", "num_sum"},
@@ -21,19 +22,17 @@ constexpr KeptNumber kKeptNumbers[] = {
 
 }  // namespace
 
-Piece lowerKeep(Emitter& emitter, const sql::Call& call, const std::vector<Piece>& arguments) {
-  Piece result;
-  result.kind = call.type.kind;
-  result.atom = true;
+Lowered lowerKeep(Lowerer& to, const sql::Call& call) {
+  if (!call.keep && !(call.distinct && call.over)) return {};
+  Value result{nullptr, call.type.kind};
+  Value argument{to.integer(1)};
+  if (!call.args.empty()) argument = to.lower(*call.args.front());
   std::string function;
-  std::string value = "1";
-  if (!arguments.empty()) value = arguments.front().text;
   if (call.name == "COUNT") {
     function = "count";
     result.number = {true, 1e15};
     result.present = true;
   } else if (call.name == "MIN" || call.name == "MAX") {
-    const Piece& argument = arguments.front();
     const bool native = argument.kind != TypeKind::Number || argument.number.integral;
     function = std::string(native ? "" : "num_") + (call.name == "MAX" ? "max" : "min");
     result.number = argument.number;
@@ -41,12 +40,13 @@ Piece lowerKeep(Emitter& emitter, const sql::Call& call, const std::vector<Piece
   for (const auto& number : kKeptNumbers) {
     if (number.name != call.name) continue;
     function = number.function;
-    value = emitter.converted(arguments.front(), TypeKind::Number, call.args.front()->place).text;
+    argument = to.converted(argument, TypeKind::Number, call.args.front()->place);
   }
   if (function.empty())
     throw sql::SqlError::unsupported("KEEP of the aggregate " + std::string(call.name), call.place);
-  result.text = "keep_" + function + (call.distinct ? "_distinct(" : "(") + value +
-                (call.keep ? sortKeys(emitter, call.keep->orderBy, call.keep->last) : "") + ")";
+  std::vector<const lite::Expr*> args{argument.node};
+  if (call.keep) addSortKeys(to, call.keep->orderBy, call.keep->last, args);
+  result.node = setCall(to, call, to.keep("keep_" + function + (call.distinct ? "_distinct" : "")), args);
   return result;
 }
 

@@ -2,7 +2,8 @@
 // down by itself, but not past a window or a group, and would compute those for all keys to keep one.
 #include <algorithm>
 
-#include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/block.h"
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/walk.h"
 
 namespace kestrelix::embedded {
@@ -91,37 +92,33 @@ bool standsAlone(const sql::SelectBlock& block, const sql::List<sql::OrderItem>&
 }
 
 /// Hands a test on a view's column to the block that the view is, if it is one.
-void handDown(Emitter& emitter, const sql::SelectBlock& block, const KeyTest& test) {
+void handDown(Lowerer& to, const sql::SelectBlock& block, const KeyTest& test) {
   const auto* view = sql::as<sql::DerivedItem>(test.column->source);
   if (!view || std::find(block.from.begin(), block.from.end(), view) == block.from.end()) return;
   const sql::SelectBlock* inner = view->query->single();
   if (!inner) return;
   const auto* column = ownColumn(inner->columns[static_cast<std::size_t>(test.column->column)].expr);
   if (column && !column->outerMark && standsAlone(*inner, view->query->orderBy, *column))
-    emitter.keyTests()[inner].push_back({column, test.value, test.place});
+    to.keyTests[inner].push_back({column, test.value, test.place});
 }
 
 }  // namespace
 
-void passKeyTests(Emitter& emitter, const sql::SelectBlock& block,
+void passKeyTests(Lowerer& to, const sql::SelectBlock& block,
                   const std::vector<const sql::Expr*>& conjuncts) {
   std::vector<KeyTest> tests = testsOf(conjuncts);
-  const auto given = emitter.keyTests().find(&block);
-  if (given != emitter.keyTests().end())
-    tests.insert(tests.end(), given->second.begin(), given->second.end());
+  const auto given = to.keyTests.find(&block);
+  if (given != to.keyTests.end()) tests.insert(tests.end(), given->second.begin(), given->second.end());
   followEqualities(tests, conjuncts);
-  for (const KeyTest& test : tests) handDown(emitter, block, test);
+  for (const KeyTest& test : tests) handDown(to, block, test);
 }
 
-std::string givenKeyTests(Emitter& emitter, const sql::SelectBlock& block) {
-  const auto given = emitter.keyTests().find(&block);
-  if (given == emitter.keyTests().end()) return {};
-  std::string text;
+void addGivenKeyTests(Lowerer& to, BlockParts& parts) {
+  const auto given = to.keyTests.find(&parts.block);
+  if (given == to.keyTests.end()) return;
   for (const KeyTest& test : given->second)
-    text += (text.empty() ? "" : " AND ") + compared(emitter, sql::CompareOp::Equal,
-                                                     emitter.expression(*test.column),
-                                                     emitter.expression(*test.value), test.place);
-  return text;
+    parts.where.push_back(
+        compared(to, sql::CompareOp::Equal, to.lower(*test.column), to.lower(*test.value), test.place));
 }
 
 }  // namespace kestrelix::embedded

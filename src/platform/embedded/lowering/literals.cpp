@@ -1,5 +1,5 @@
+#include <array>
 #include <cmath>
-#include <cstdlib>
 
 #include "oracle_sql/date_format.h"
 #include "platform/embedded/lowering/rules.h"
@@ -7,60 +7,52 @@
 namespace kestrelix::embedded {
 namespace {
 
-Piece numberPiece(const sql::NumberLiteral& literal) {
+/// A whole number as SQLite's integer, any other one in the byte form that it is stored in.
+Value numberOf(Lowerer& to, const sql::NumberLiteral& literal) {
   const auto number = values::Number::parse(literal.text);
   if (!number) throw sql::SqlError::internal("a number literal that is none", literal.place);
-  Piece piece;
-  piece.kind = sql::TypeKind::Number;
-  piece.text = numberLiteral(*number);
-  piece.atom = true;
-  piece.cheap = true;
-  piece.present = true;
-  if (const auto whole = number->toInt64()) piece.number = {true, std::fabs(static_cast<double>(*whole))};
-  return piece;
+  if (const auto whole = number->toInt64())
+    return {to.integer(*whole), sql::TypeKind::Number, {true, std::fabs(static_cast<double>(*whole))}};
+  std::array<std::uint8_t, values::Number::kMaxBytes> bytes;
+  const auto size = number->toBytes(bytes);
+  return {to.blob(to.keep({reinterpret_cast<const char*>(bytes.data()), size})), sql::TypeKind::Number};
 }
 
-Piece datePiece(const sql::DateLiteral& literal) {
-  Piece piece;
-  piece.kind = sql::TypeKind::Date;
+Value dateOf(Lowerer& to, const sql::DateLiteral& literal) {
   const values::Date date =
       literal.timestamp ? values::timestampOfLiteral(literal.value) : values::dateOfLiteral(literal.value);
-  piece.text = std::to_string(date.seconds);
-  piece.atom = true;
-  piece.cheap = true;
-  piece.present = true;
-  return piece;
+  return {to.integer(date.seconds), sql::TypeKind::Date};
+}
+
+Value valueOf(Lowerer& to, const sql::Expr& expr) {
+  switch (expr.kind) {
+    case sql::ExprKind::Number:
+      return numberOf(to, static_cast<const sql::NumberLiteral&>(expr));
+    case sql::ExprKind::DateLiteral:
+      return dateOf(to, static_cast<const sql::DateLiteral&>(expr));
+    case sql::ExprKind::String: {
+      const auto value = static_cast<const sql::StringLiteral&>(expr).value;
+      if (!value.empty()) return {to.text(value), sql::TypeKind::Char};
+      break;
+    }
+    case sql::ExprKind::Bind: {
+      const auto name = static_cast<const sql::BindExpr&>(expr).name;
+      const bool number = expr.type.kind == sql::TypeKind::Number;
+      return {to.parameter(name), expr.type.kind, number ? to.facts.bind(name) : NumberFacts{}};
+    }
+    default:
+      break;
+  }
+  return {to.null()};
 }
 
 }  // namespace
 
-Piece lowerLiteral(Emitter& emitter, const sql::Expr& expr) {
-  Piece piece;
-  piece.atom = true;
-  piece.cheap = true;
-  switch (expr.kind) {
-    case sql::ExprKind::Number:
-      return numberPiece(*sql::as<sql::NumberLiteral>(&expr));
-    case sql::ExprKind::DateLiteral:
-      return datePiece(*sql::as<sql::DateLiteral>(&expr));
-    case sql::ExprKind::String: {
-      const auto value = sql::as<sql::StringLiteral>(&expr)->value;
-      piece.text = value.empty() ? "NULL" : textLiteral(value);
-      piece.kind = value.empty() ? sql::TypeKind::Null : sql::TypeKind::Char;
-      piece.present = !value.empty();
-      return piece;
-    }
-    case sql::ExprKind::Bind: {
-      const auto name = sql::as<sql::BindExpr>(&expr)->name;
-      piece.text = bindMarker(name);
-      piece.kind = expr.type.kind;
-      if (piece.kind == sql::TypeKind::Number) piece.number = emitter.facts().bind(name);
-      return piece;
-    }
-    default:
-      piece.text = "NULL";
-      return piece;
-  }
+Lowered lowerLiteral(Lowerer& to, const sql::Expr& expr) {
+  Value value = valueOf(to, expr);
+  value.cheap = true;
+  value.present = expr.kind != sql::ExprKind::Bind && value.kind != sql::TypeKind::Null;
+  return value;
 }
 
 }  // namespace kestrelix::embedded

@@ -37,7 +37,9 @@ struct LoweredStatement {
   std::string text;
   std::vector<LoweredColumn> columns;
   std::set<FunctionUse> functions;
-  int rownumCounters = 0;  ///< how many ROWNUMs are counted while it runs
+  int rownumCounters = 0;               ///< how many ROWNUMs are counted while it runs
+  std::vector<std::string> frameBinds;  ///< the binds that are offsets of frames, which SQLite checks itself
+  bool nearBounds = false;              ///< may be more than SQLite takes at once
 };
 
 /// What the lowering asks of its surroundings.

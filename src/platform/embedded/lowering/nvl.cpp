@@ -2,14 +2,11 @@
 // given, so that a division by zero or a text that is no number fails although nobody asks for its value.
 #include <algorithm>
 
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
 namespace {
-
-Piece argument(Emitter& emitter, const sql::Expr& expr, sql::TypeKind kind) {
-  return emitter.converted(emitter.expression(expr), kind, expr.place);
-}
 
 /// Whether computing `expr` as a value of `kind` cannot fail: a literal, a bind or a column that needs no
 /// conversion, or none but to text, and the first one that is there of several such.
@@ -37,81 +34,72 @@ bool cannotFail(const sql::Expr& expr, sql::TypeKind kind) {
   }
 }
 
+/// Several values of which one is given.
+class Choices {
+ public:
+  void add(const Value& value) {
+    facts.add(value);
+    present = present || value.present;
+    if (value.node->kind != lite::Kind::Coalesce) return nodes.push_back(value.node);
+    const auto& inner = static_cast<const lite::Values&>(*value.node).values;
+    nodes.insert(nodes.end(), inner.begin(), inner.end());
+  }
+
+  std::vector<const lite::Expr*> nodes;  ///< those of a COALESCE among them one by one
+  CommonFacts facts;
+  bool present = false;
+};
+
 }  // namespace
 
-Piece lowerCoalesce(Emitter& emitter, const sql::Call& call) {
-  Piece result;
-  result.kind = call.type.kind;
-  result.atom = true;
-  CommonFacts facts;
-  std::vector<std::string> values;
+Lowered lowerCoalesce(Lowerer& to, const sql::Call& call) {
+  Choices choices;
   for (const sql::Expr* expr : call.args) {
-    const Piece piece = argument(emitter, *expr, result.kind);
-    if (piece.kind == sql::TypeKind::Null) continue;
-    facts.add(piece);
-    for (auto& value : alternativesOf(piece)) values.push_back(std::move(value));
-    result.present = result.present || piece.present;
+    const Value value = to.lowerAs(*expr, call.type.kind);
+    if (value.kind != sql::TypeKind::Null) choices.add(value);
   }
-  setAlternatives(result, std::move(values));
-  result.number = facts.facts();
-  return result;
+  return Value{to.coalesce(choices.nodes), call.type.kind, choices.facts.facts(), false, choices.present};
 }
 
-Piece lowerEither(Emitter& emitter, const sql::Call& call, const sql::Expr& first, const sql::Expr& second,
-                  bool computesBoth) {
-  Piece result;
-  result.kind = call.type.kind;
-  result.atom = true;
-  const Piece value = argument(emitter, first, result.kind);
-  const Piece otherwise = argument(emitter, second, result.kind);
-  CommonFacts facts;
-  facts.add(value);
-  facts.add(otherwise);
-  if (computesBoth) {
-    result.text = "nvl_of_both(" + value.text + ", " + otherwise.text + ")";
-  } else {
-    std::vector<std::string> values = alternativesOf(value);
-    for (auto& other : alternativesOf(otherwise)) values.push_back(std::move(other));
-    setAlternatives(result, std::move(values));
-  }
-  result.number = facts.facts();
-  result.present = value.present || otherwise.present;
-  return result;
+Value either(Lowerer& to, const sql::Call& call, const sql::Expr& first, const sql::Expr& second,
+             bool computesBoth) {
+  const Value value = to.lowerAs(first, call.type.kind);
+  const Value otherwise = to.lowerAs(second, call.type.kind);
+  Choices choices;
+  choices.add(value);
+  choices.add(otherwise);
+  const lite::Expr* node =
+      computesBoth ? to.call("nvl_of_both", {value.node, otherwise.node}) : to.coalesce(choices.nodes);
+  return {node, call.type.kind, choices.facts.facts(), false, choices.present};
 }
 
-Piece lowerNvl(Emitter& emitter, const sql::Call& call) {
-  return lowerEither(emitter, call, *call.args[0], *call.args[1], !cannotFail(*call.args[1], call.type.kind));
+Lowered lowerNvl(Lowerer& to, const sql::Call& call) {
+  return either(to, call, *call.args[0], *call.args[1], !cannotFail(*call.args[1], call.type.kind));
 }
 
-Piece lowerNvl2(Emitter& emitter, const sql::Call& call) {
-  Piece result;
-  result.kind = call.type.kind;
-  result.atom = true;
-  const Piece there = argument(emitter, *call.args[1], result.kind);
-  const Piece missing = argument(emitter, *call.args[2], result.kind);
+Lowered lowerNvl2(Lowerer& to, const sql::Call& call) {
+  const sql::TypeKind kind = call.type.kind;
+  const Value there = to.lowerAs(*call.args[1], kind);
+  const Value missing = to.lowerAs(*call.args[2], kind);
   CommonFacts facts;
   facts.add(there);
   facts.add(missing);
-  result.searched = true;
-  const std::string isThere = bracketed(emitter.expression(*call.args[0])) + " IS NOT NULL";
-  if (cannotFail(*call.args[1], result.kind) && cannotFail(*call.args[2], result.kind))
-    result.text = "CASE WHEN " + isThere + " THEN " + there.text + elseOf(missing) + " END";
-  else
-    result.text = "nvl2_of_all(" + isThere + ", " + there.text + ", " + missing.text + ")";
-  result.number = facts.facts();
-  return result;
+  const auto* isThere = to.operation(lite::Operator::IsNotNull, {to.lower(*call.args[0]).node});
+  if (!cannotFail(*call.args[1], kind) || !cannotFail(*call.args[2], kind))
+    return Value{to.call("nvl2_of_all", {isThere, there.node, missing.node}), kind, facts.facts()};
+  lite::Case& choice = *to.choice();
+  choice.arms.push_back({isThere, there.node});
+  to.close(choice, missing.node);
+  return Value{&choice, kind, facts.facts()};
 }
 
-Piece lowerNullif(Emitter& emitter, const sql::Call& call) {
-  Piece result = emitter.expression(*call.args[0]);
-  const std::string equal =
-      compared(emitter, sql::CompareOp::Equal, result, emitter.expression(*call.args[1]), call.place);
-  result.text = "CASE WHEN " + equal + " THEN NULL ELSE " + result.text + " END";
-  result.atom = true;
-  result.cheap = false;
-  result.present = false;
-  result.quotient = {};
-  return result;
+Lowered lowerNullif(Lowerer& to, const sql::Call& call) {
+  const Value value = to.lower(*call.args[0]);
+  lite::Case& choice = *to.choice();
+  choice.arms.push_back(
+      {compared(to, sql::CompareOp::Equal, value, to.lower(*call.args[1]), call.place), to.null()});
+  choice.otherwise = value.node;
+  return Value{&choice, value.kind, value.number};
 }
 
 }  // namespace kestrelix::embedded

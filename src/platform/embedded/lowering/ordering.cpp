@@ -1,6 +1,4 @@
-#include <utility>
-
-#include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/sort_keys.h"
 
 namespace kestrelix::embedded {
@@ -11,46 +9,43 @@ constexpr std::size_t kMaxKeysOfAggregate = 60;
 
 }  // namespace
 
-bool isPlainNumber(const std::string& text) {
-  return text.find_first_not_of("0123456789+-() ") == std::string::npos;
+bool isWholeLiteral(const lite::Expr* expr) {
+  const auto* operation = lite::as<lite::Operation>(expr);
+  if (operation && operation->op == lite::Operator::Minus) return isWholeLiteral(operation->operands.front());
+  return expr->kind == lite::Kind::Integer;
 }
 
-std::string sortKey(const Piece& piece) {
+const lite::Expr* sortKey(Lowerer& to, const Value& value) {
   // A quotient sorts as its dividend does.
-  if (!piece.quotient.dividend.empty()) return piece.quotient.dividend;
-  if (piece.kind == sql::TypeKind::Number && !piece.number.integral) return "num_key(" + piece.text + ")";
-  return piece.text;
+  if (value.quotient.dividend) return value.quotient.dividend;
+  if (value.kind == sql::TypeKind::Number && !value.number.integral) return to.call("num_key", {value.node});
+  return value.node;
 }
 
-std::string sortKeys(Emitter& emitter, const sql::List<sql::OrderItem>& items, bool backwards) {
+void addSortKeys(Lowerer& to, const sql::List<sql::OrderItem>& items, bool backwards,
+                 std::vector<const lite::Expr*>& args) {
   if (items.size() > kMaxKeysOfAggregate)
     throw sql::SqlError::unsupported("an aggregate with so many sort keys", items.front().place);
-  std::string text;
   for (const auto& item : items) {
     const bool descending = item.descending != backwards;
     const bool nullsFirst = item.nullsFirst() != backwards;
-    text += ", " + sortKey(emitter.expression(*item.expr)) + ", " +
-            std::to_string((descending ? kDescending : 0) + (nullsFirst ? kNullsFirst : 0));
+    args.push_back(sortKey(to, to.lower(*item.expr)));
+    args.push_back(to.integer((descending ? kDescending : 0) + (nullsFirst ? kNullsFirst : 0)));
   }
-  return text;
 }
 
-std::string lowerOrder(Emitter& emitter, const sql::List<sql::OrderItem>& items,
-                       const std::vector<Piece>* outputs) {
-  std::string text;
-  const auto* around = std::exchange(emitter.outputs(), outputs ? outputs : emitter.outputs());
+lite::List<lite::Order> lowerOrder(Lowerer& to, const sql::List<sql::OrderItem>& items,
+                                   const std::vector<Value>* outputs) {
+  lite::List<lite::Order> order(to.memory());
+  const Within named(to.outputs, outputs ? outputs : to.outputs);
   for (const auto& item : items) {
     const bool isOutput = outputs && item.output >= 0;
-    const Piece piece =
-        isOutput ? outputs->at(static_cast<std::size_t>(item.output)) : emitter.expression(*item.expr);
+    const Value value = isOutput ? outputs->at(static_cast<std::size_t>(item.output)) : to.lower(*item.expr);
     // A constant sorts nothing, and SQLite would take it for the place of a column.
-    if (isPlainNumber(piece.text)) continue;
-    const std::string key = sortKey(piece);
-    text += (text.empty() ? " ORDER BY " : ", ") + key + (item.descending ? " DESC" : "") +
-            (item.nullsFirst() ? " NULLS FIRST" : " NULLS LAST");
+    if (!isWholeLiteral(value.node))
+      order.push_back({sortKey(to, value), item.descending, item.nullsFirst()});
   }
-  emitter.outputs() = around;
-  return text;
+  return order;
 }
 
 }  // namespace kestrelix::embedded

@@ -1,7 +1,8 @@
 // An aggregate belongs to the block that it stands in, even if it names nothing but columns of the blocks
 // around. SQLite takes such a one for theirs, unless it names something of its own block as well.
 #include "oracle_sql/walk.h"
-#include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/block.h"
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/walk.h"
 
 namespace kestrelix::embedded {
@@ -32,18 +33,17 @@ void look(const sql::Expr& expr, int level, Named& named) {
   sql::forEachOperand(expr, [&](const sql::Expr& operand) { look(operand, level, named); });
 }
 
+}  // namespace
+
 bool namesOnlyOuter(const sql::Call& call) {
   Named named;
   sql::forEachOperand(call, [&](const sql::Expr& operand) { look(operand, 0, named); });
   return named.outer && !named.own;
 }
 
-}  // namespace
-
-std::string lowerAnchor(Emitter& emitter, const sql::SelectBlock& block,
-                        const sql::List<sql::OrderItem>* order) {
-  emitter.anchor().clear();
-  if (!block.grouped) return {};
+const lite::Expr* addAnchor(Lowerer& to, BlockParts& parts) {
+  const sql::SelectBlock& block = parts.block;
+  if (!block.grouped) return nullptr;
   bool wanted = false;
   const auto visit = [&](const sql::Expr& expr) {
     const auto* call = sql::as<sql::Call>(&expr);
@@ -51,19 +51,12 @@ std::string lowerAnchor(Emitter& emitter, const sql::SelectBlock& block,
   };
   for (const auto& column : block.columns) walkExpressions(*column.expr, visit);
   if (block.having) walkExpressions(*block.having, visit);
-  if (order)
-    for (const auto& item : *order) walkExpressions(*item.expr, visit);
-  if (!wanted) return {};
-  const std::string alias = quoted(emitter.uniqueAlias("OWN"));
-  emitter.anchor() = alias + ".\"row\"";
-  return ", (SELECT 1 AS \"row\") AS " + alias;
-}
-
-Piece lowerOwnAggregate(Emitter& emitter, const sql::Call& call) {
-  Piece piece = lowerAggregate(emitter, call);
-  if (!emitter.anchor().empty() && namesOnlyOuter(call))
-    piece.text += " FILTER (WHERE " + emitter.anchor() + " OR 1)";
-  return piece;
+  if (parts.order)
+    for (const auto& item : *parts.order) walkExpressions(*item.expr, visit);
+  if (!wanted) return nullptr;
+  const std::string_view alias = to.uniqueAlias("OWN");
+  parts.from.push_back(to.source(alias, to.oneRow(to.integer(1), "row")));
+  return to.name(alias, "row");
 }
 
 }  // namespace kestrelix::embedded

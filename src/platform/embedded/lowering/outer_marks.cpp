@@ -1,9 +1,9 @@
 // "(+)" behind the columns of a table makes it the optional side of a join: every condition that bears the
 // mark goes to the join, the others filter behind it.
 #include <algorithm>
-#include <map>
+#include <iterator>
 
-#include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/block.h"
 #include "platform/embedded/lowering/walk.h"
 
 namespace kestrelix::embedded {
@@ -22,12 +22,16 @@ bool needsBrackets(const sql::FromItem* item) {
 
 }  // namespace
 
-std::string Emitter::from(const sql::SelectBlock& block, std::vector<const sql::Expr*>& conjuncts) {
-  std::unordered_map<const sql::FromItem*, std::string> texts;
+lite::From lowerFrom(Lowerer& to, const sql::SelectBlock& block, std::vector<const sql::Expr*>& conjuncts) {
+  std::unordered_map<const sql::FromItem*, lite::From> lowered;
   for (const sql::FromItem* item : block.from) {
-    std::string text = source(*item);
-    if (block.from.size() > 1 && needsBrackets(item)) text = "(" + text + ")";
-    texts[item] = std::move(text);
+    lite::From sources = to.lower(*item);
+    if (block.from.size() > 1 && needsBrackets(item)) {
+      lite::Source brackets = to.bracketed(std::move(sources));
+      sources = lite::From(to.memory());
+      sources.push_back(std::move(brackets));
+    }
+    lowered.emplace(item, std::move(sources));
   }
 
   std::unordered_map<const sql::FromItem*, OptionalTable> optional;
@@ -63,13 +67,16 @@ std::string Emitter::from(const sql::SelectBlock& block, std::vector<const sql::
     });
   }
 
-  std::string text;
+  lite::From from(to.memory());
   std::unordered_set<const sql::FromItem*> placed;
-  for (const sql::FromItem* item : block.from) {
-    if (optional.count(item)) continue;
-    text += (text.empty() ? "" : ", ") + texts[item];
+  const auto place = [&](const sql::FromItem* item) -> lite::Source& {
+    auto& sources = lowered.at(item);
+    std::move(sources.begin(), sources.end(), std::back_inserter(from));
     placed.insert(item);
-  }
+    return from.back();
+  };
+  for (const sql::FromItem* item : block.from)
+    if (!optional.count(item)) place(item);
   for (std::size_t left = optional.size(); left > 0; --left) {
     const auto next = std::find_if(block.from.begin(), block.from.end(), [&](const sql::FromItem* item) {
       if (placed.count(item)) return false;
@@ -78,13 +85,11 @@ std::string Emitter::from(const sql::SelectBlock& block, std::vector<const sql::
     });
     if (next == block.from.end())
       throw sql::SqlError::wrong(1416, "two tables cannot be outer-joined to each other", block.place);
-    std::string on;
-    for (const sql::Expr* term : optional.at(*next).conditions)
-      on += (on.empty() ? "" : " AND ") + condition(*term);
-    text += " LEFT JOIN " + texts[*next] + " ON " + on;
-    placed.insert(*next);
+    lite::Source& joined = place(*next);
+    joined.joinedBy = "LEFT JOIN";
+    for (const sql::Expr* term : optional.at(*next).conditions) joined.on.push_back(to.condition(*term));
   }
-  return text;
+  return from;
 }
 
 }  // namespace kestrelix::embedded

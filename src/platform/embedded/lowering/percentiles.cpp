@@ -1,38 +1,31 @@
 // MEDIAN, PERCENTILE_CONT and PERCENTILE_DISC: SQLite has none of them.
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {
+namespace {
 
-using sql::TypeKind;
-
-bool isPercentile(const sql::Call& call) {
-  return call.name == "MEDIAN" || call.name == "PERCENTILE_CONT" || call.name == "PERCENTILE_DISC";
+std::string_view continuous(const sql::Call& call) {
+  return call.type.kind == sql::TypeKind::Date ? "date_percentile" : "num_percentile";
 }
 
-Piece lowerPercentile(Emitter& emitter, const sql::Call& call) {
-  const bool median = call.name == "MEDIAN";
-  const sql::Expr& operand = median ? *call.args.front() : *call.withinGroup.front().expr;
-  const Piece value = emitter.converted(emitter.expression(operand), call.type.kind, operand.place);
-  Piece result;
-  result.kind = call.type.kind;
-  result.atom = true;
-  const std::string continuous = call.type.kind == TypeKind::Date ? "date_percentile(" : "num_percentile(";
-  if (median) {
-    result.text = continuous + value.text + ")";
-    return result;
-  }
-  const std::string share =
-      emitter.converted(emitter.expression(*call.args.front()), TypeKind::Number, call.args.front()->place)
-          .text;
+}  // namespace
+
+Lowered lowerMedian(Lowerer& to, const sql::Call& call) {
+  const Value value = to.lowerAs(*call.args.front(), call.type.kind);
+  return Value{setCall(to, call, continuous(call), {value.node}), call.type.kind};
+}
+
+Lowered lowerPercentile(Lowerer& to, const sql::Call& call) {
+  const auto& order = call.withinGroup.front();
+  const Value value = to.lowerAs(*order.expr, call.type.kind);
+  std::vector<const lite::Expr*> args{value.node, to.lowerAs(*call.args.front(), sql::TypeKind::Number).node};
   if (call.name == "PERCENTILE_CONT") {
-    const bool descending = call.withinGroup.front().descending;
-    result.text = continuous + value.text + ", " + share + (descending ? ", 1)" : ", 0)");
-    return result;
+    args.push_back(to.integer(order.descending ? 1 : 0));
+    return Value{setCall(to, call, continuous(call), args), call.type.kind};
   }
-  result.text =
-      "percentile_disc(" + value.text + ", " + share + sortKeys(emitter, call.withinGroup, false) + ")";
-  result.number = value.number;
-  return result;
+  addSortKeys(to, call.withinGroup, false, args);
+  return Value{setCall(to, call, "percentile_disc", args), call.type.kind, value.number};
 }
 
 }  // namespace kestrelix::embedded

@@ -1,41 +1,34 @@
 // PIVOT groups by every column of its source that it does not name; each value of its list is an aggregate
 // over the rows that bear it.
-#include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/builders.h"
 
 namespace kestrelix::embedded {
 
-std::string lowerPivot(Emitter& emitter, const sql::PivotItem& pivot) {
-  const std::string from = emitter.source(*pivot.source);
-  Source source;
-  source.alias = emitter.uniqueAlias(pivot.alias.empty() ? std::string_view("PIVOT") : pivot.alias);
-  std::string list;
-  std::string keys;
-  const auto add = [&](const Piece& piece) {
-    const std::string name = "p" + std::to_string(source.columns.size() + 1);
-    list += (list.empty() ? "" : ", ") + piece.text + " AS " + quoted(name);
-    source.columns.push_back({name, piece.kind, piece.number});
+lite::Source lowerPivot(Lowerer& to, const sql::PivotItem& pivot) {
+  lite::Select& select = *to.select();
+  select.from = to.lower(*pivot.source);
+  Source source{to.uniqueAlias(pivot.alias.empty() ? std::string_view("PIVOT") : pivot.alias), {}};
+  const auto add = [&](const Value& value) {
+    const std::string_view name = to.keep("p" + std::to_string(source.columns.size() + 1));
+    select.items.push_back({value.node, name});
+    source.columns.push_back({name, value.kind, value.number});
   };
   for (const int index : pivot.groupColumns) {
-    const Piece key = emitter.column(pivot.source, index);
-    keys += (keys.empty() ? "" : ", ") + key.text;
+    const Value key = to.column(pivot.source, index);
+    select.groupBy.push_back(key.node);
     add(key);
   }
   for (const auto& value : pivot.values) {
-    std::string bears;
+    std::vector<const lite::Expr*> bears;
     for (std::size_t i = 0; i < value.values.size(); ++i)
-      bears += (bears.empty() ? "" : " AND ") + compared(emitter, sql::CompareOp::Equal,
-                                                         emitter.expression(*pivot.forColumns[i]),
-                                                         emitter.expression(*value.values[i]), pivot.place);
-    for (const auto& aggregate : pivot.aggregates) {
-      Piece piece = emitter.expression(*aggregate.call);
-      piece.text += " FILTER (WHERE " + bears + ")";
-      add(piece);
-    }
+      bears.push_back(compared(to, sql::CompareOp::Equal, to.lower(*pivot.forColumns[i]),
+                               to.lower(*value.values[i]), pivot.place));
+    const Within filter(to.filter, to.allOf(bears));
+    for (const auto& aggregate : pivot.aggregates) add(to.lower(*aggregate.call));
   }
-  std::string text = "(SELECT " + list + " FROM " + from + (keys.empty() ? "" : " GROUP BY " + keys) +
-                     ") AS " + quoted(source.alias);
-  emitter.define(&pivot, std::move(source));
-  return text;
+  lite::Source lowered = to.source(source.alias, to.query(&select));
+  to.define(&pivot, std::move(source));
+  return lowered;
 }
 
 }  // namespace kestrelix::embedded

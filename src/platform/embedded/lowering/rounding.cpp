@@ -10,21 +10,15 @@ bool isWholeLiteral(const sql::Expr& expr) {
 
 }  // namespace
 
-Piece lowerRound(Emitter& emitter, const sql::Call& call) {
-  if (call.type.kind == sql::TypeKind::Date) return lowerCall(emitter, call);
-  Piece value =
-      emitter.converted(emitter.expression(*call.args[0]), sql::TypeKind::Number, call.args[0]->place);
-  const bool noPlacesBefore = call.args.size() == 1 || isWholeLiteral(*call.args[1]);
-  if (value.number.integral && noPlacesBefore) return value;
-  const Piece places = call.args.size() == 1 ? Piece{"0"}
-                                             : emitter.converted(emitter.expression(*call.args[1]),
-                                                                 sql::TypeKind::Number, call.args[1]->place);
-  Piece result;
-  result.kind = sql::TypeKind::Number;
-  result.atom = true;
-  result.text = std::string(call.name == "ROUND" ? "num_round(" : "num_trunc(") + value.text + ", " +
-                places.text + ", " + std::to_string(call.place.offset) + ")";
-  return result;
+Lowered lowerRound(Lowerer& to, const sql::Call& call) {
+  if (call.type.kind == sql::TypeKind::Date) return {};
+  const bool toWhole = call.args.size() == 1;
+  const Value value = to.lowerAs(*call.args[0], sql::TypeKind::Number);
+  if (value.number.integral && (toWhole || isWholeLiteral(*call.args[1]))) return value;
+  const auto* places = toWhole ? to.integer(0) : to.lowerAs(*call.args[1], sql::TypeKind::Number).node;
+  return Value{
+      to.call(call.name == "ROUND" ? "num_round" : "num_trunc", {value.node, places, to.place(call.place)}),
+      sql::TypeKind::Number};
 }
 
 }  // namespace kestrelix::embedded

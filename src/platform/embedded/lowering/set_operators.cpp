@@ -2,32 +2,11 @@
 // branches of its own is put into a subquery.
 #include <algorithm>
 
-#include "platform/embedded/lowering/rules.h"
+#include "oracle_sql/spelling.h"
+#include "platform/embedded/lowering/builders.h"
 
 namespace kestrelix::embedded {
 namespace {
-
-const char* setWord(sql::SetOp op) {
-  switch (op) {
-    case sql::SetOp::UnionAll:
-      return " UNION ALL ";
-    case sql::SetOp::Union:
-      return " UNION ";
-    case sql::SetOp::Intersect:
-      return " INTERSECT ";
-    case sql::SetOp::Minus:
-      return " EXCEPT ";
-    case sql::SetOp::None:
-      break;
-  }
-  return "";
-}
-
-/// Fewer than the 500 terms that SQLite takes.
-constexpr std::size_t kTermsOfCompound = 400;
-
-/// Below 2^63 by more than a double can be wrong.
-constexpr double kFitsWhole = 9.2e18;
 
 /// The facts of a column that takes its values from two branches. NULL in one leaves those of the other.
 void joinFacts(SourceColumn& column, const SourceColumn& other) {
@@ -41,80 +20,76 @@ void joinFacts(SourceColumn& column, const SourceColumn& other) {
   column.kind = other.kind;
 }
 
-/// The columns of a branch, without the keys that it may be sorted by.
-std::string nameList(const QueryText& branch) {
-  std::string list;
-  for (const auto& column : branch.columns) list += (list.empty() ? "" : ", ") + quoted(column.name);
-  return list;
-}
-
 /// What every branch sorts the column by. Exact quotients are brought to one divisor and sort as whole
 /// numbers.
-std::vector<std::string> keysOf(const std::vector<QueryText>& branches, std::size_t column) {
+std::vector<const lite::Expr*> keysOf(Lowerer& to, const std::vector<LoweredQuery>& branches,
+                                      std::size_t column) {
   std::int64_t divisor = 1;
   for (const auto& branch : branches) divisor = std::max(divisor, branch.outputs[column].quotient.divisor);
-  std::vector<std::string> keys;
-  std::vector<std::string> whole;
+  std::vector<const lite::Expr*> keys;
+  std::vector<const lite::Expr*> whole;
   for (const auto& branch : branches) {
-    const Piece& piece = branch.outputs[column];
-    const bool null = piece.kind == sql::TypeKind::Null;
-    keys.push_back(null ? "NULL" : "num_key(" + piece.text + ")");
-    const bool isQuotient = !piece.quotient.dividend.empty();
+    const Value& value = branch.outputs[column];
+    if (value.kind == sql::TypeKind::Null) {
+      keys.push_back(to.null());
+      whole.push_back(to.null());
+      continue;
+    }
+    keys.push_back(to.call("num_key", {value.node}));
+    const ExactQuotient& quotient = value.quotient;
     // Both are powers of ten.
-    const std::int64_t quotient = divisor / piece.quotient.divisor;
-    const std::string factor = std::to_string(quotient);
-    if (null)
-      whole.push_back("NULL");
-    else if (isQuotient && piece.quotient.largest * static_cast<double>(quotient) <= kFitsWhole)
-      whole.push_back("(" + piece.quotient.dividend + ") * " + factor);
-    else if (!isQuotient && piece.number.integral &&
-             piece.number.largest * static_cast<double>(divisor) <= kFitsWhole)
-      whole.push_back("(" + piece.text + ") * " + factor);
+    const std::int64_t factor = divisor / quotient.divisor;
+    const bool isWhole = quotient.dividend || value.number.integral;
+    const double largest = quotient.dividend ? quotient.largest : value.number.largest;
+    if (isWhole && largest * static_cast<double>(factor) <= kFits)
+      whole.push_back(to.operation(lite::Operator::Multiply,
+                                   {quotient.dividend ? quotient.dividend : value.node, to.integer(factor)}));
   }
   return whole.size() == keys.size() ? whole : keys;
 }
 
-/// The branches with their sort keys selected behind their columns, and the ORDER BY of the whole. SQLite
-/// then sorts each branch and merges them, and no row is handed on once more to be sorted.
-std::string mergedInOrder(const sql::Query& query, std::vector<QueryText> branches, const QueryText& whole) {
-  std::string order;
+/// Selects sort keys behind the columns of every branch and sorts the whole by its places. SQLite then sorts
+/// each branch and merges them, and no row is handed on once more to be sorted.
+void mergeInOrder(Lowerer& to, const sql::Query& query, const std::vector<LoweredQuery>& branches,
+                  LoweredQuery& whole) {
   std::size_t columns = whole.columns.size();
   for (const auto& item : query.orderBy) {
     const auto output = static_cast<std::size_t>(item.output);
     std::size_t place = output + 1;
     if (whole.columns[output].kind == sql::TypeKind::Number && !whole.columns[output].number.integral) {
-      const auto keys = keysOf(branches, output);
+      const auto keys = keysOf(to, branches, output);
       place = ++columns;
-      for (std::size_t i = 0; i < branches.size(); ++i) {
-        const std::string key = ", " + keys[i] + " AS \"sort key " + std::to_string(place) + "\"";
-        branches[i].text.insert(branches[i].listEnd, key);
-        branches[i].listEnd += key.size();
-      }
+      const std::string_view name = to.keep("sort key " + std::to_string(place));
+      for (std::size_t i = 0; i < branches.size(); ++i)
+        whole.query->branches[i].select->items.push_back({keys[i], name});
     }
-    order += (order.empty() ? " ORDER BY " : ", ") + std::to_string(place) +
-             (item.descending ? " DESC" : "") + (item.nullsFirst() ? " NULLS FIRST" : " NULLS LAST");
+    whole.query->orderBy.push_back(
+        {to.integer(static_cast<std::int64_t>(place)), item.descending, item.nullsFirst()});
   }
-  std::string text;
-  for (std::size_t i = 0; i < branches.size(); ++i) text += setWord(query.terms[i].op) + branches[i].text;
-  return text + order;
+}
+
+/// The columns of a branch, without the keys that it may be sorted by.
+lite::Select* columnsOf(Lowerer& to, const LoweredQuery& branch) {
+  lite::Select* select = to.select();
+  for (const auto& column : branch.columns) select->items.push_back({to.name({}, column.name), {}});
+  select->from.push_back(to.source({}, branch.query));
+  return select;
 }
 
 }  // namespace
 
-QueryText lowerSetOperators(Emitter& emitter, const sql::Query& query) {
-  QueryText result;
-  std::vector<QueryText> branches;
+LoweredQuery lowerSetOperators(Lowerer& to, const sql::Query& query) {
+  LoweredQuery result{to.query()};
+  std::vector<LoweredQuery> branches;
   // Minus and intersect compare what is selected, so keys may stand beside it only where the keys follow from
   // it.
-  bool mergeable = query.terms.size() <= kTermsOfCompound;
+  bool mergeable = true;
   for (const auto& term : query.terms) {
-    if (!branches.empty() && branches.size() % kTermsOfCompound == 0)
-      result.text = "SELECT " + nameList(result) + " FROM (" + result.text + ")";
-    QueryText branch = term.block ? lowerBlock(emitter, *term.block, nullptr) : emitter.query(*term.query);
-    const bool alone = term.block && !term.block->usesRownum && branch.listEnd > 0;
+    LoweredQuery branch = term.block ? to.lower(*term.block, nullptr) : to.lower(*term.query);
+    const bool alone = term.block && !term.block->usesRownum;
     mergeable = mergeable && alone;
-    if (!alone) branch.text = "SELECT " + nameList(branch) + " FROM (" + branch.text + ")";
-    result.text += setWord(term.op) + branch.text;
+    result.query->branches.push_back({term.op == sql::SetOp::Minus ? "EXCEPT" : sql::spelling(term.op),
+                                      alone ? branch.query->branches.front().select : columnsOf(to, branch)});
     if (term.op == sql::SetOp::None)
       result.columns = branch.columns;
     else
@@ -125,23 +100,18 @@ QueryText lowerSetOperators(Emitter& emitter, const sql::Query& query) {
   if (query.orderBy.empty()) return result;
   for (const auto& item : query.orderBy) mergeable = mergeable && item.output >= 0;
   if (mergeable) {
-    result.text = mergedInOrder(query, std::move(branches), result);
+    mergeInOrder(to, query, branches, result);
     return result;
   }
 
-  std::vector<Piece> outputs;
-  const std::string alias = emitter.uniqueAlias("U");
-  for (const auto& column : result.columns) {
-    Piece piece;
-    piece.text = quoted(alias) + "." + quoted(column.name);
-    piece.kind = column.kind;
-    piece.number = column.number;
-    piece.atom = true;
-    piece.cheap = true;
-    outputs.push_back(std::move(piece));
-  }
-  result.text = "SELECT * FROM (" + result.text + ") AS " + quoted(alias) +
-                lowerOrder(emitter, query.orderBy, &outputs);
+  const std::string_view alias = to.uniqueAlias("U");
+  std::vector<Value> outputs;
+  for (const auto& column : result.columns) outputs.push_back(to.column(alias, column));
+  lite::Select* sorted = to.select();
+  sorted->items.push_back({to.star(), {}});
+  sorted->from.push_back(to.source(alias, result.query));
+  result.query = to.query(sorted);
+  result.query->orderBy = lowerOrder(to, query.orderBy, &outputs);
   return result;
 }
 

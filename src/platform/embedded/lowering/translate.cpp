@@ -10,17 +10,12 @@ bool isOneByte(const sql::Expr& expr) {
 
 }  // namespace
 
-Piece lowerTranslate(Emitter& emitter, const sql::Call& call) {
-  if (call.args.size() != 3 || !isOneByte(*call.args[1]) || !isOneByte(*call.args[2]))
-    return lowerCall(emitter, call);
+Lowered lowerTranslate(Lowerer& to, const sql::Call& call) {
+  if (call.args.size() != 3 || !isOneByte(*call.args[1]) || !isOneByte(*call.args[2])) return {};
   const auto text = [&](int i) {
-    return emitter.converted(emitter.expression(*call.args[i]), sql::TypeKind::Varchar2, call.place).text;
+    return to.converted(to.lower(*call.args[i]), sql::TypeKind::Varchar2, call.place).node;
   };
-  Piece piece;
-  piece.text = "replace(" + text(0) + ", " + text(1) + ", " + text(2) + ")";
-  piece.kind = call.type.kind;
-  piece.atom = true;
-  return piece;
+  return Value{to.call("replace", {text(0), text(1), text(2)}), call.type.kind};
 }
 
 }  // namespace kestrelix::embedded

@@ -1,7 +1,7 @@
 // What nobody reads is not selected: a column of an inline view that no block around it names is left out,
 // and with it the windows and functions that it would take.
 #include "oracle_sql/walk.h"
-#include "platform/embedded/lowering/rules.h"
+#include "platform/embedded/lowering/builders.h"
 
 namespace kestrelix::embedded {
 namespace {

@@ -1,4 +1,6 @@
-// Window functions that rank rows, and aggregates over a frame.
+// Window functions that rank rows or take their share.
+#include "platform/ascii.h"
+#include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/rules.h"
 #include "platform/embedded/lowering/walk.h"
 
@@ -7,65 +9,43 @@ namespace {
 
 using sql::TypeKind;
 
-Piece rankPiece(std::string text) {
-  Piece piece;
-  piece.text = std::move(text);
-  piece.kind = TypeKind::Number;
-  piece.number = {true, 1e15};
-  piece.atom = true;
-  piece.present = true;
-  return piece;
-}
+Value rank(const lite::Expr* node) { return {node, TypeKind::Number, {true, 1e15}, false, true}; }
 
-Piece ratioToReport(Emitter& emitter, const sql::Call& call) {
-  const Piece value =
-      emitter.converted(emitter.expression(*call.args[0]), TypeKind::Number, call.args[0]->place);
-  Piece total;
-  total.kind = TypeKind::Number;
-  // The share in a total of zero is NULL, no error.
-  total.text = "nullif(num_sum(" + value.text + ") OVER (" + partitionText(emitter, *call.over) + "), 0)";
-  total.atom = true;
-  return divided(emitter, value, total, call.place);
-}
-
-/// The share of the rows of the partition in front of the row (PERCENT_RANK) or up to its peers (CUME_DIST).
-Piece rankShare(Emitter& emitter, const sql::Call& call) {
-  const std::string over = overText(emitter, *call.over);
-  const std::string all = "count(*) OVER (" + partitionText(emitter, *call.over) + ")";
-  if (call.name == "CUME_DIST")
-    return divided(emitter, rankPiece("count(*)" + over), rankPiece(all), call.place);
-  return divided(emitter, rankPiece("(rank()" + over + " - 1)"), rankPiece("max(" + all + " - 1, 1)"),
-                 call.place);
-}
-
-Piece ntile(Emitter& emitter, const sql::Call& call) {
-  const sql::Expr& buckets = *call.args[0];
-  if (!isRowFree(buckets)) throw sql::SqlError::unsupported("NTILE with a count of each row", buckets.place);
-  return rankPiece("ntile(" + rowOffset(emitter, buckets, 1) + ")" + overText(emitter, *call.over));
+lite::Call* overPartition(Lowerer& to, const sql::Call& call, std::string_view name, const lite::Expr* arg) {
+  lite::Call* lowered = to.call(name, {arg});
+  lowered->over = lowerPartition(to, *call.over);
+  return lowered;
 }
 
 }  // namespace
 
-Piece lowerWindow(Emitter& emitter, const sql::Call& call) {
-  const std::string_view name = call.name;
-  if (name == "RATIO_TO_REPORT") return ratioToReport(emitter, call);
-  if (name == "ROW_NUMBER") return rankPiece("row_number()" + overText(emitter, *call.over));
-  if (name == "RANK") return rankPiece("rank()" + overText(emitter, *call.over));
-  if (name == "DENSE_RANK") return rankPiece("dense_rank()" + overText(emitter, *call.over));
-  if (name == "NTILE") return ntile(emitter, call);
-  if (name == "PERCENT_RANK" || name == "CUME_DIST") return rankShare(emitter, call);
-  if (givesOtherRow(call)) return lowerOtherRow(emitter, call);
-  Piece result = lowerAggregate(emitter, call);
-  // The extreme of a frame that moves needs every value in it.
-  for (const char* extreme : {"num_min(", "num_max("})
-    if (result.text.rfind(extreme, 0) == 0) result.text.insert(7, "_moving");
-  const sql::Window& window = *call.over;
-  const bool beginMoves =
-      window.unit != sql::FrameUnit::None && window.start.kind != sql::BoundKind::UnboundedPreceding;
-  for (const char* sum : {"num_sum(", "num_avg("})
-    if (beginMoves && result.text.rfind(sum, 0) == 0) result.text.insert(7, "_moving");
-  result.text += overText(emitter, *call.over);
-  return result;
+Lowered lowerRank(Lowerer& to, const sql::Call& call) {
+  return rank(setCall(to, call, to.keep(asciiLower(call.name)), {}));
+}
+
+Lowered lowerRatioToReport(Lowerer& to, const sql::Call& call) {
+  const Value value = to.lowerAs(*call.args[0], TypeKind::Number);
+  // The share in a total of zero is NULL, no error.
+  const auto* total = to.call("nullif", {overPartition(to, call, "num_sum", value.node), to.integer(0)});
+  return divided(to, value, {total, TypeKind::Number}, call.place);
+}
+
+/// The share of the rows of the partition in front of the row (PERCENT_RANK) or up to its peers (CUME_DIST).
+Lowered lowerRankShare(Lowerer& to, const sql::Call& call) {
+  const auto* all = overPartition(to, call, "count", to.star());
+  if (call.name == "CUME_DIST")
+    return divided(to, rank(setCall(to, call, "count", {to.star()})), rank(all), call.place);
+  const auto lessOne = [&](const lite::Expr* count) {
+    return to.operation(lite::Operator::Subtract, {count, to.integer(1)});
+  };
+  return divided(to, rank(lessOne(setCall(to, call, "rank", {}))),
+                 rank(to.call("max", {lessOne(all), to.integer(1)})), call.place);
+}
+
+Lowered lowerNtile(Lowerer& to, const sql::Call& call) {
+  const sql::Expr& buckets = *call.args[0];
+  if (!isRowFree(buckets)) throw sql::SqlError::unsupported("NTILE with a count of each row", buckets.place);
+  return rank(setCall(to, call, "ntile", {rowOffset(to, buckets, 1)}));
 }
 
 }  // namespace kestrelix::embedded
