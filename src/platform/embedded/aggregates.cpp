@@ -58,6 +58,33 @@ void addMoving(sqlite3* connection, const char* name, Evaluation& evaluation) {
                     name);
 }
 
+/// The sum of whole numbers, in place of SQLite's own, which tells only in words that it left 64 bits.
+struct WholeSum {
+  std::int64_t sum;
+  std::int64_t count;
+};
+
+/// `Sign` 1 for a row that comes, -1 for one that leaves the window.
+template <int Sign>
+void wholeStep(sqlite3_context* context, int, Values arguments) {
+  auto* whole = inPlace<WholeSum>(context, true);
+  if (!whole) return sqlite3_result_error_nomem(context);
+  if (isNull(arguments[0])) return;
+  const std::int64_t value = sqlite3_value_int64(arguments[0]);
+  whole->count += Sign;
+  if (!(Sign > 0 ? __builtin_add_overflow(whole->sum, value, &whole->sum)
+                 : __builtin_sub_overflow(whole->sum, value, &whole->sum)))
+    return;
+  evaluationOf(context).sumTooLarge = true;
+  sqlite3_result_error(context, "a sum of whole numbers leaves 64 bits", -1);
+}
+
+void wholeResult(sqlite3_context* context) {
+  const auto* whole = inPlace<WholeSum>(context, false);
+  if (!whole || whole->count == 0) return sqlite3_result_null(context);
+  sqlite3_result_int64(context, whole->sum);
+}
+
 /// The extreme of a group; `Sign` 1 for the greatest.
 struct Extreme {
   bool any;
@@ -167,6 +194,9 @@ void onlyRowFinal(sqlite3_context* context) {
 void registerAggregates(sqlite3* connection, Evaluation& evaluation) {
   using values::SumAccumulator;
   using values::VarianceAccumulator;
+  checkRegistration(sqlite3_create_window_function(connection, "sum", 1, kPure, &evaluation, wholeStep<1>,
+                                                   wholeResult, wholeResult, wholeStep<-1>, nullptr),
+                    "sum");
   addMoving<SumAccumulator, &SumAccumulator::sum>(connection, "num_sum", evaluation);
   addMoving<SumAccumulator, &SumAccumulator::average>(connection, "num_avg", evaluation);
   addMoving<VarianceAccumulator, &VarianceAccumulator::variance>(connection, "num_variance", evaluation);

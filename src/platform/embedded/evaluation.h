@@ -21,6 +21,8 @@ struct EvaluationFailure {
 struct Evaluation {
   values::Context context;
   std::optional<EvaluationFailure> failure;
+  /// A sum of whole numbers left 64 bits: the statement has to run with sums of NUMBER.
+  bool sumTooLarge = false;
   /// The rows that each counted ROWNUM has let pass so far.
   std::vector<std::int64_t> rownums;
 };

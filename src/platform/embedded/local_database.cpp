@@ -163,6 +163,7 @@ class LocalDatabase::Engine {
     PreparedStatement& statement = prepared(text, binds, wideSums);
     sqlite3_stmt* handle = statement.handle.get();
     evaluation_.failure.reset();
+    evaluation_.sumTooLarge = false;
     evaluation_.rownums.assign(static_cast<std::size_t>(statement.lowered.rownumCounters), 0);
     if (statement.asksClock) evaluation_.context.now = wallClock();
     bind(statement, binds);
@@ -173,7 +174,7 @@ class LocalDatabase::Engine {
 
     const auto& columns = statement.lowered.columns;
     Row row(columns.size());
-    while (next(handle, text, wideSums)) {
+    while (next(statement, text, binds)) {
       for (std::size_t i = 0; i < columns.size(); ++i)
         row[i] = cellText(handle, static_cast<int>(i), columns[i].type);
       sink(*statement.names, row);
@@ -182,10 +183,10 @@ class LocalDatabase::Engine {
   }
 
   /// Whether there is a row; an error is told in Oracle's terms and with its place.
-  bool next(sqlite3_stmt* handle, const std::string& text, bool wideSums) {
+  bool next(const PreparedStatement& statement, const std::string& text, const Parameters& binds) {
     running_.check(text);
     try {
-      return step(handle);
+      return step(statement.handle.get());
     } catch (const Cancelled&) {
       throw Cancelled(text);
     } catch (const DatabaseError& error) {
@@ -197,14 +198,21 @@ class LocalDatabase::Engine {
                          : sql::SqlError::wrong(failure.code, failure.message, place),
              text);
       }
-      if (!wideSums && std::string_view(error.what()).find("integer overflow") != std::string_view::npos)
-        throw SumTooLarge();
-      // "frame starting offset must be a non-negative integer", and "ending": of a bind, since literals are
-      // looked at before.
-      if (std::string_view(error.what()).find("ing offset must be") != std::string_view::npos)
+      if (evaluation_.sumTooLarge) throw SumTooLarge();
+      if (hasFrameOutOfRange(statement, binds))
         fail(sql::SqlError::wrong(1428, "the offset of a frame is out of range", {}), text);
       throw DatabaseError(error.sqlState(), error.nativeCode(), error.what(), text);
     }
+  }
+
+  /// SQLite refuses a frame whose offset is null or negative, if it comes to a row: of a bind, since literals
+  /// are looked at before.
+  static bool hasFrameOutOfRange(const PreparedStatement& statement, const Parameters& binds) {
+    const auto& offsets = statement.lowered.frameBinds;
+    return std::any_of(offsets.begin(), offsets.end(), [&](const std::string& name) {
+      const std::string& value = binds.find(name)->value();
+      return value.empty() || values::Number::parse(value)->isNegative();
+    });
   }
 
   void bind(PreparedStatement& statement, const Parameters& binds) {
