@@ -183,6 +183,14 @@ TEST_F(OracleSemantics, decodeOfNullGivesTheValueOrTheBlank) {
               ElementsAre("none", "x"));
 }
 
+TEST_F(OracleSemantics, decodeTakesANullSearchForEqualToANullValue) {
+  // V is 10, 2.5, -0.25, null and 9: the search is null beside 10 and beside the null.
+  EXPECT_THAT(rows("select decode(v, nullif(v, 10), 'same', 'other') from stats$n order by id"),
+              ElementsAre("other", "same", "same", "same", "same"));
+  EXPECT_THAT(rows("select decode(v, 9, 'nine', nullif(v, 10), 'same', 'other') from stats$n order by id"),
+              ElementsAre("other", "same", "same", "same", "nine"));
+}
+
 TEST_F(OracleSemantics, scalarSubqueryOfTwoRowsFails) {
   EXPECT_THAT(rows("select (select t from stats$n where id = 1) from dual"), ElementsAre("10"));
   EXPECT_THAT(rows("select (select t from stats$n where id = 99) from dual"), ElementsAre("-"));

@@ -210,6 +210,15 @@ TEST_F(QueryShape, manyBranchesRun) {
   EXPECT_THAT(rows(all + " minus select n from (" + all + ") where n <> 7"), ElementsAre("7"));
 }
 
+TEST_F(QueryShape, whatIsTooMuchForSqliteIsNotSupported) {
+  const auto failing = HasSubstr("not supported: a statement of this size");
+  std::string deep = "v";
+  for (int i = 0; i < 60; ++i) deep = "abs(" + deep + ")";
+  EXPECT_THAT(failure("select " + deep + " from readings"), failing);
+  EXPECT_THAT(failure("select " + repeated(2001, "id", ", ") + " from readings"), failing);
+  EXPECT_THAT(failure("select count(*) from " + repeated(65, "readings", ", ")), failing);
+}
+
 // https://docs.oracle.com/en/error-help/db/ora-01795
 TEST_F(QueryShape, listOfMoreThanAThousandValuesIsRefused) {
   EXPECT_THAT(rows("select count(*) from emp where deptno in (" + repeated(1000, "10", ", ") + ")"),

@@ -48,8 +48,9 @@ class Printer {
     }
     levels_ = 0;
     body(query);
+    const int rules = std::max(mostRules_, rules_);
     if (!front_.empty()) text_ = "WITH " + front_ + " " + text_;
-    return {std::move(text_), rules_ > kMostRules || columns_ > kManyColumns || tables_ > kManyTables};
+    return {std::move(text_), rules > kMostRules || columns_ > kManyColumns || tables_ > kManyTables};
   }
 
  private:
@@ -57,6 +58,7 @@ class Printer {
   void moveToFront(std::string_view name, std::size_t begin) {
     front_ += (front_.empty() ? "" : ", ") + quoted(name) + " AS (" + text_.substr(begin) + ")";
     text_.resize(begin);
+    mostRules_ = std::max(mostRules_, std::exchange(rules_, 0));
   }
 
   template <class Items, class Write>
@@ -81,10 +83,9 @@ class Printer {
 
   void expr(const Expr& e) {
     const std::size_t begin = text_.size();
-    openRules_ += kRulesOfExpression;
-    rules_ = std::max(rules_, openRules_);
+    const int rulesAround = std::exchange(rules_, 0);
     write(e);
-    openRules_ -= kRulesOfExpression;
+    rules_ = std::max(rules_ + kRulesOfExpression, rulesAround);
     if (text_.size() > begin + kMostBytes) throw sql::SqlError::unsupported("an expression of this size", {});
   }
 
@@ -289,7 +290,7 @@ class Printer {
     text_ += '(';
     const std::size_t begin = text_.size();
     const int levelsAround = std::exchange(levels_, 0);
-    const int rulesAround = std::exchange(openRules_, openRules_ + kRulesOfQuery);
+    const int rulesAround = std::exchange(rules_, 0);
     if (!query.with.empty()) text_ += "WITH ";
     commas(query.with, [&](const Named& named) {
       text_ += quoted(named.name) + " AS ";
@@ -304,7 +305,7 @@ class Printer {
       levels_ = 1;
     }
     levels_ = std::max(levels_, levelsAround);
-    openRules_ = rulesAround;
+    rules_ = std::max(rules_ + kRulesOfQuery, rulesAround);
     text_ += ')';
   }
 
@@ -367,8 +368,8 @@ class Printer {
   std::string front_;  ///< the queries in front of the statement
   int levels_ = 0;     ///< queries inside each other in what has been written of the current one
   int views_ = 0;
-  int openRules_ = 0;
-  int rules_ = 0;  ///< the most that were open at once
+  int rules_ = 0;  ///< of the parser, open at once in it
+  int mostRules_ = 0;
   int tables_ = 0;
   std::size_t columns_ = 0;
 };
