@@ -87,11 +87,4 @@ struct Lnnvl : Expr {
   Expr* operand = nullptr;
 };
 
-/// A function that is a condition: REGEXP_LIKE(a, b).
-struct CallTest : Expr {
-  static constexpr ExprKind kKind = ExprKind::CallTest;
-  CallTest() : Expr(kKind) {}
-  Expr* call = nullptr;
-};
-
 }  // namespace oracle_sql

@@ -136,10 +136,6 @@ void Dump::expr(const Expr& e) {
       head(e, "lnnvl");
       below({static_cast<const Lnnvl&>(e).operand});
       break;
-    case ExprKind::CallTest:
-      head(e, "test");
-      below({static_cast<const CallTest&>(e).call});
-      break;
     case ExprKind::Exists:
       head(e, "exists");
       below(static_cast<const Exists&>(e).query);

@@ -47,7 +47,6 @@ enum class ExprKind : std::uint8_t {
   IsNull,
   Exists,
   Lnnvl,
-  CallTest,
 };
 
 /// Base of every node of an expression. Nodes live in the arena of their Tree and are never destroyed one by

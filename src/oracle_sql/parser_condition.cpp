@@ -128,14 +128,7 @@ Expr* Parser::predicate() {
     expectRightParen();
     return node;
   }
-  if (isWord("REGEXP_LIKE") && is(Symbol::LeftParen, 1)) {
-    const Deeper deeper(*this);
-    auto* node = this->node<CallTest>(now().place);
-    const std::string_view name = nameOf(take());
-    node->call = call({}, name, node->place);
-    above(*node, node->call);
-    return node;
-  }
+  if (isWord("REGEXP_LIKE") && is(Symbol::LeftParen, 1)) unsupported("function REGEXP_LIKE");
   Expr* left = additive(true);
   if (isCondition(*left)) return left;
 

@@ -180,9 +180,6 @@ void Printer::bare(const Expr& e) {
       expr(*static_cast<const Lnnvl&>(e).operand);
       out_ += ')';
       break;
-    case ExprKind::CallTest:
-      expr(*static_cast<const CallTest&>(e).call);
-      break;
     case ExprKind::Exists:
       out_ += "EXISTS ";
       bracketed(*static_cast<const Exists&>(e).query);

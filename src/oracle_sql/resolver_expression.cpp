@@ -113,13 +113,8 @@ Type Resolver::resolved(Expr& e, const Env& env) {
       return {TypeKind::Varchar2};
     case ExprKind::Case:
       return caseType(static_cast<CaseExpr&>(e), env);
-    case ExprKind::Call: {
-      auto& c = static_cast<Call&>(e);
-      const Type type = call(c, env);
-      if (type.kind == TypeKind::Condition)
-        fail(904, "\"" + std::string(c.name) + "\": invalid identifier", e.place);
-      return type;
-    }
+    case ExprKind::Call:
+      return call(static_cast<Call&>(e), env);
     case ExprKind::Cast: {
       auto& c = static_cast<CastExpr&>(e);
       const Type from = c.target == TypeKind::Date ? operand(*c.operand, env) : value(*c.operand, env);
@@ -239,11 +234,6 @@ void Resolver::condition(Expr& e, const Env& env) {
     case ExprKind::Not:
       condition(*static_cast<NotExpr&>(e).operand, env);
       return;
-    case ExprKind::CallTest: {
-      auto& test = static_cast<CallTest&>(e);
-      test.call->type = call(static_cast<Call&>(*test.call), env);
-      return;
-    }
     case ExprKind::Lnnvl:
       condition(*static_cast<Lnnvl&>(e).operand, env);
       return;

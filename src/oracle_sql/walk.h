@@ -89,9 +89,6 @@ void forEachOperand(E& e, Visit&& visit) {
     case ExprKind::Lnnvl:
       one(as<Lnnvl>(&e)->operand);
       break;
-    case ExprKind::CallTest:
-      one(as<CallTest>(&e)->call);
-      break;
     case ExprKind::Between: {
       auto& b = *as<Between>(&e);
       one(b.operand);

@@ -429,14 +429,6 @@ TEST_F(OracleSemantics, whatAFunctionLacksIsRefusedByItsName) {
   }
 }
 
-TEST_F(OracleSemantics, regularExpressionsChooseRows) {
-  EXPECT_THAT(
-      rows("select c from (select 'sql*net more data' c from dual union all select 'log file sync' from "
-           "dual union all select null from dual) where regexp_like(c, '^(SQL|db)', 'i')"),
-      testing::ElementsAre("sql*net more data"));
-  EXPECT_THAT(rows("select 'x' from dual where not regexp_like(null, 'a')"), testing::IsEmpty());
-}
-
 TEST_F(OracleSemantics, intervalsMoveDates) {
   EXPECT_THAT(
       rows("select to_char(date '2020-03-01' - interval '1 12:30' day to minute, 'YYYY-MM-DD HH24:MI'), "

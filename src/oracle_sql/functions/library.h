@@ -91,12 +91,6 @@ ORACLE_SQL_FUNCTION(monthsBetween);
 ORACLE_SQL_FUNCTION(lastDay);
 ORACLE_SQL_FUNCTION(nextDay);
 ORACLE_SQL_FUNCTION(extract);
-// regular_expressions.cpp
-ORACLE_SQL_FUNCTION(regexpLike);
-ORACLE_SQL_FUNCTION(regexpCount);
-ORACLE_SQL_FUNCTION(regexpPosition);
-ORACLE_SQL_FUNCTION(regexpSubstring);
-ORACLE_SQL_FUNCTION(regexpReplace);
 // statspack.cpp
 ORACLE_SQL_FUNCTION(statspackV1024);
 #undef ORACLE_SQL_FUNCTION

@@ -29,8 +29,6 @@ Type sameText(ArgumentTypes types) { return types[0].kind == TypeKind::Char ? ty
 
 Type date(ArgumentTypes) { return {TypeKind::Date}; }
 
-Type condition(ArgumentTypes) { return {TypeKind::Condition}; }
-
 Type raw(ArgumentTypes) { return {TypeKind::Raw}; }
 
 Type firstAsNumber(ArgumentTypes types) { return {TypeKind::Number, types[0].integral}; }

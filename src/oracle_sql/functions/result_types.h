@@ -12,8 +12,6 @@ Type varchar(ArgumentTypes types);
 // CHAR of CHAR, else VARCHAR2.
 Type sameText(ArgumentTypes types);
 Type date(ArgumentTypes types);
-// True or false as 1 or 0: stands where a condition does.
-Type condition(ArgumentTypes types);
 Type raw(ArgumentTypes types);
 // NUMBER; whole if the first argument is.
 Type firstAsNumber(ArgumentTypes types);

@@ -30,6 +30,5 @@ Lowered lowerLnnvl(Lowerer& to, const sql::Lnnvl& test) {
   return Value{to.operation(Operator::IsNotTrue, {to.condition(*test.operand)})};
 }
 
-Lowered lowerCallTest(Lowerer& to, const sql::CallTest& test) { return to.lower(*test.call); }
 
 }  // namespace kestrelix::embedded

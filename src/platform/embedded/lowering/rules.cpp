@@ -90,7 +90,6 @@ constexpr Rule kRules[] = {
     on<lowerIsNull>(),
     on<lowerExists>(),
     on<lowerLnnvl>(),
-    on<lowerCallTest>(),
 };
 static_assert(std::ranges::is_sorted(kRules, {}, &Rule::kind));
 

@@ -76,7 +76,6 @@ Lowered lowerOr(Lowerer& to, const sql::OrExpr& either);
 Lowered lowerNot(Lowerer& to, const sql::NotExpr& negation);
 Lowered lowerIsNull(Lowerer& to, const sql::IsNull& test);
 Lowered lowerLnnvl(Lowerer& to, const sql::Lnnvl& test);
-Lowered lowerCallTest(Lowerer& to, const sql::CallTest& test);
 /// subqueries: against the rows of a query, with all three truth values.
 Lowered lowerExists(Lowerer& to, const sql::Exists& exists);
 Lowered lowerInQuery(Lowerer& to, const sql::InExpr& in);
