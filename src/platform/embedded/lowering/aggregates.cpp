@@ -24,10 +24,6 @@ constexpr NumberAggregate kNumberAggregates[] = {
     {"AVG", "num_avg", "num_avg_moving"},
     {"STDDEV", "num_stddev", "num_stddev"},
     {"VARIANCE", "num_variance", "num_variance"},
-    {"VAR_SAMP", "num_var_samp", "num_var_samp"},
-    {"VAR_POP", "num_var_pop", "num_var_pop"},
-    {"STDDEV_POP", "num_stddev_pop", "num_stddev_pop"},
-    {"STDDEV_SAMP", "num_stddev_samp", "num_stddev_samp"},
 };
 
 bool beginMoves(const sql::Call& call) {

@@ -57,19 +57,6 @@ Value divided(Lowerer& to, const Value& left, const Value& right, sql::Place pla
   return value;
 }
 
-/// A DATE and an INTERVAL literal, which is no value of its own.
-Lowered lowerDateAndInterval(Lowerer& to, const sql::Arithmetic& arithmetic) {
-  const auto* literal = sql::intervalOf(arithmetic);
-  if (!literal) return {};
-  const sql::Expr& date = arithmetic.left == literal ? *arithmetic.right : *arithmetic.left;
-  const std::int64_t amount = literal->interval.amount;
-  return Value{
-      to.call("date_interval",
-              {to.lower(date).node, to.integer(arithmetic.op == ArithmeticOp::Subtract ? -amount : amount),
-               to.integer(literal->interval.months ? 1 : 0), to.place(arithmetic.place)}),
-      TypeKind::Date};
-}
-
 Lowered lowerDates(Lowerer& to, const sql::Arithmetic& arithmetic) {
   if (arithmetic.left->type.kind != TypeKind::Date && arithmetic.right->type.kind != TypeKind::Date)
     return {};

@@ -60,7 +60,7 @@ void addSortKeys(Lowerer& to, const sql::List<sql::OrderItem>& items, bool backw
 
 /// set_operators: UNION, MINUS and INTERSECT, one precedence, left to right.
 LoweredQuery lowerSetOperators(Lowerer& to, const sql::Query& query);
-/// joins: ANSI joins, with USING and NATURAL.
+/// joins: ANSI joins, with USING.
 lite::From lowerJoin(Lowerer& to, const sql::JoinItem& join);
 /// pivot: PIVOT to grouped CASE aggregates.
 lite::Source lowerPivot(Lowerer& to, const sql::PivotItem& pivot);

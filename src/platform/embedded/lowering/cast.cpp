@@ -4,8 +4,6 @@ namespace kestrelix::embedded {
 namespace {
 
 const lite::Expr* castNumber(Lowerer& to, const sql::CastExpr& cast, const lite::Expr* operand) {
-  if (cast.binaryDigits > 0)
-    return to.call("cast_float", {operand, to.integer(cast.binaryDigits), to.place(cast.place)});
   if (cast.precision < 0 && !cast.integer) return operand;
   return to.call("cast_number", {operand, to.integer(cast.integer ? 38 : cast.precision),
                                  to.integer(cast.scale), to.place(cast.place)});

@@ -109,16 +109,6 @@ const lite::Expr* compared(Lowerer& to, CompareOp op, const Value& left, const V
   return to.operation(operatorOf(op), {sides.left.node, sides.right.node});
 }
 
-Lowered lowerQuantified(Lowerer& to, const sql::Compare& compare) {
-  if (compare.quantifier == sql::Quantifier::None) return {};
-  const auto left = lowerRow(to, *compare.left);
-  std::vector<const lite::Expr*> terms;
-  for (const sql::Expr* item : compare.list)
-    terms.push_back(comparedRows(to, compare.op, left, lowerRow(to, *item), compare.place));
-  return Value{
-      to.operation(compare.quantifier == sql::Quantifier::Any ? Operator::Or : Operator::And, terms)};
-}
-
 Lowered lowerCompare(Lowerer& to, const sql::Compare& compare) {
   return Value{
       comparedRows(to, compare.op, lowerRow(to, *compare.left), lowerRow(to, *compare.right), compare.place)};

@@ -2,7 +2,7 @@
 // to null, never pads with blanks, and evaluates no result but the one that it gives.
 #include <algorithm>
 
-#include "oracle_sql/printer.h"
+#include "oracle_sql/same_expression.h"
 #include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/rules.h"
 
@@ -44,10 +44,10 @@ bool isThereWith(const sql::Expr& expr, const sql::Expr& value) {
   const auto* call = sql::as<sql::Call>(&expr);
   if (!call || call->args.empty() || (call->name != "ROUND" && call->name != "TRUNC") ||
       !call->package.empty())
-    return sql::equal(expr, value);
+    return sql::sameExpression(expr, value);
   for (std::size_t i = 1; i < call->args.size(); ++i)
     if (call->args[i]->kind != sql::ExprKind::Number) return false;
-  return sql::equal(*call->args.front(), value);
+  return sql::sameExpression(*call->args.front(), value);
 }
 
 }  // namespace

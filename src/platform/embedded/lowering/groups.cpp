@@ -1,7 +1,6 @@
 // A block whose groups are rows themselves: an aggregate over aggregates, as in SUM(AVG(x)), folds them once
-// more, ROLLUP and its like lay the groups of several groupings over each other, and an aggregate is compared
-// with ANY or ALL of a subquery. An inner query makes the groups with their keys and aggregates; the block's
-// own expressions read those.
+// more, ROLLUP lays the groups of several groupings over each other. An inner query makes the groups with
+// their keys and aggregates; the block's own expressions read those.
 #include <algorithm>
 #include <functional>
 #include <map>
@@ -18,18 +17,6 @@ namespace {
 bool isAggregate(const sql::Expr& expr) {
   const auto* call = sql::as<sql::Call>(&expr);
   return call && call->role == sql::CallRole::Aggregate;
-}
-
-/// `aggregate` op ANY|ALL (subquery): the comparison is made inside a subquery, where SQLite takes no
-/// aggregate of the block around.
-bool comparesAggregate(const sql::Expr& expr) {
-  bool found = false;
-  walkExpressions(expr, [&](const sql::Expr& e) {
-    const auto* compare = sql::as<sql::Compare>(&e);
-    if (!compare || compare->quantifier == sql::Quantifier::None || !compare->query) return;
-    walkExpressions(*compare->left, [&](const sql::Expr& operand) { found = found || isAggregate(operand); });
-  });
-  return found;
 }
 
 bool hasAggregateBelow(const sql::Expr& expr) {
@@ -82,11 +69,10 @@ class Groups {
   lite::Source item(const std::function<lite::Select*()>& rows) {
     sql::List<sql::GroupingSet> sets = block_.groupingSets;
     if (block_.grouping.empty()) sets.push_back(~sql::GroupingSet{0});
-    std::map<sql::GroupingSet, int> before;
     lite::Query* query = to_.query();
     for (const sql::GroupingSet set : sets) {
       lite::Select* select = rows();
-      group(*select, set, before[set]++);
+      group(*select, set);
       query->branches.push_back({query->branches.empty() ? "" : "UNION ALL", select});
     }
     return to_.source(alias_, query);
@@ -114,23 +100,17 @@ class Groups {
 
   void addMark(const sql::Call& call) {
     marks_.push_back(&call);
-    read(call, {nullptr, sql::TypeKind::Number, {true, 2e18}}, named('g', marks_.size()));
+    read(call, {nullptr, sql::TypeKind::Number, {true, 1}}, named('g', marks_.size()));
   }
 
-  /// GROUP_ID: how many equal groupings come before. GROUPING and GROUPING_ID: a bit for each argument, 1
-  /// where the grouping leaves it out.
-  std::int64_t valueOf(const sql::Call& call, sql::GroupingSet set, int before) const {
-    if (call.name == "GROUP_ID") return before;
-    std::int64_t bits = 0;
-    for (const sql::Expr* argument : call.args) {
-      std::size_t key = 0;
-      while (!sql::sameExpression(*block_.groupBy[key], *argument)) ++key;
-      bits = bits * 2 + (contains(set, key) ? 0 : 1);
-    }
-    return bits;
+  /// GROUPING: 1 where the grouping leaves the argument out.
+  int valueOf(const sql::Call& call, sql::GroupingSet set) const {
+    std::size_t key = 0;
+    while (!sql::sameExpression(*block_.groupBy[key], *call.args.front())) ++key;
+    return contains(set, key) ? 0 : 1;
   }
 
-  void group(lite::Select& select, sql::GroupingSet set, int before) {
+  void group(lite::Select& select, sql::GroupingSet set) {
     std::vector<const lite::Expr*> keys;
     for (std::size_t i = 0; i < keys_.size(); ++i) {
       select.items.push_back({contains(set, i) ? keys_[i].node : to_.null(), keyName(i)});
@@ -139,7 +119,7 @@ class Groups {
     for (std::size_t i = 0; i < aggregates_.size(); ++i)
       select.items.push_back({aggregates_[i].second.node, named('a', i + 1)});
     for (std::size_t i = 0; i < marks_.size(); ++i)
-      select.items.push_back({to_.integer(valueOf(*marks_[i], set, before)), named('g', i + 1)});
+      select.items.push_back({to_.integer(valueOf(*marks_[i], set)), named('g', i + 1)});
     addGroupKeys(to_, select, keys);
   }
 
@@ -154,13 +134,7 @@ class Groups {
 
 }  // namespace
 
-bool readsGroups(const sql::SelectBlock& block) {
-  if (block.nestedAggregates || !block.grouping.empty()) return true;
-  if (block.groupBy.empty()) return false;
-  return (block.having && comparesAggregate(*block.having)) ||
-         std::any_of(block.columns.begin(), block.columns.end(),
-                     [](const auto& column) { return comparesAggregate(*column.expr); });
-}
+bool readsGroups(const sql::SelectBlock& block) { return block.nestedAggregates || !block.grouping.empty(); }
 
 LoweredQuery assembleGroups(Lowerer& to, BlockParts parts) {
   const sql::SelectBlock& block = parts.block;

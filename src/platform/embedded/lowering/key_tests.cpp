@@ -28,8 +28,7 @@ bool isFixed(const sql::Expr* expr) {
 /// otherwise.
 const sql::Compare* plainEquality(const sql::Expr& term) {
   const auto* compare = sql::as<sql::Compare>(&term);
-  if (!compare || compare->op != sql::CompareOp::Equal || compare->quantifier != sql::Quantifier::None)
-    return nullptr;
+  if (!compare || compare->op != sql::CompareOp::Equal) return nullptr;
   return compare->left->type.kind == compare->right->type.kind ? compare : nullptr;
 }
 

@@ -19,9 +19,7 @@ Value numberOf(Lowerer& to, const sql::NumberLiteral& literal) {
 }
 
 Value dateOf(Lowerer& to, const sql::DateLiteral& literal) {
-  const values::Date date =
-      literal.timestamp ? values::timestampOfLiteral(literal.value) : values::dateOfLiteral(literal.value);
-  return {to.integer(date.seconds), sql::TypeKind::Date};
+  return {to.integer(values::dateOfLiteral(literal.value).seconds), sql::TypeKind::Date};
 }
 
 Value valueOf(Lowerer& to, const sql::Expr& expr) {

@@ -18,7 +18,7 @@ bool isOne(const sql::Expr& expr) {
 /// The LIMIT that `term` sets, or null where it is more than a bound from above.
 const lite::Expr* limitOf(Lowerer& to, const sql::Expr& term) {
   const auto* compare = sql::as<sql::Compare>(&term);
-  if (!compare || compare->quantifier != sql::Quantifier::None) return nullptr;
+  if (!compare) return nullptr;
   const sql::Expr* bound = compare->right;
   CompareOp op = compare->op;
   if (bound->kind == sql::ExprKind::Rownum) {

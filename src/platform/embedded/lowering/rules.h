@@ -20,7 +20,6 @@ Lowered lowerColumn(Lowerer& to, const sql::ColumnRef& ref);
 Lowered lowerRownum(Lowerer& to, const sql::RownumExpr& rownum);
 /// arithmetic: decimal, exact where SQLite's integers are.
 Lowered lowerNegate(Lowerer& to, const sql::Negate& negate);
-Lowered lowerDateAndInterval(Lowerer& to, const sql::Arithmetic& arithmetic);
 Lowered lowerDates(Lowerer& to, const sql::Arithmetic& arithmetic);
 Lowered lowerArithmetic(Lowerer& to, const sql::Arithmetic& arithmetic);
 /// chains: many operators in a row, with less depth than they have terms.
@@ -79,11 +78,8 @@ Lowered lowerLnnvl(Lowerer& to, const sql::Lnnvl& test);
 /// subqueries: against the rows of a query, with all three truth values.
 Lowered lowerExists(Lowerer& to, const sql::Exists& exists);
 Lowered lowerInQuery(Lowerer& to, const sql::InExpr& in);
-Lowered lowerQuantifiedIn(Lowerer& to, const sql::Compare& compare);
-Lowered lowerQuantifiedQuery(Lowerer& to, const sql::Compare& compare);
 Lowered lowerRowAgainstQuery(Lowerer& to, const sql::Compare& compare);
 /// comparison: by the type that Oracle compares in.
-Lowered lowerQuantified(Lowerer& to, const sql::Compare& compare);
 Lowered lowerCompare(Lowerer& to, const sql::Compare& compare);
 Lowered lowerBetween(Lowerer& to, const sql::Between& between);
 Lowered lowerIn(Lowerer& to, const sql::InExpr& in);

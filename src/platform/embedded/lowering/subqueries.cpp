@@ -83,43 +83,6 @@ Lowered lowerInQuery(Lowerer& to, const sql::InExpr& in) {
   return inQuery(to, lowerRow(to, *in.operand), in.negated, *in.query, in.place);
 }
 
-/// = ANY and <> ALL.
-Lowered lowerQuantifiedIn(Lowerer& to, const sql::Compare& compare) {
-  const bool any = compare.quantifier == sql::Quantifier::Any;
-  if (!compare.query || compare.op != (any ? sql::CompareOp::Equal : sql::CompareOp::NotEqual)) return {};
-  return inQuery(to, lowerRow(to, *compare.left), !any, *compare.query, compare.place);
-}
-
-Lowered lowerQuantifiedQuery(Lowerer& to, const sql::Compare& compare) {
-  if (!compare.query) return {};
-  const auto operand = lowerRow(to, *compare.left);
-  if (operand.size() > 1) throw sql::SqlError::unsupported("a row against ANY or ALL", compare.place);
-  walkExpressions(*compare.left, [&](const sql::Expr& e) {
-    const auto* call = sql::as<sql::Call>(&e);
-    if (call && call->over)
-      throw sql::SqlError::unsupported("a window against ANY or ALL of a subquery", e.place);
-    if (call && call->role == sql::CallRole::Aggregate && !to.replacements.count(&e))
-      throw sql::SqlError::unsupported("an aggregate of all rows against ANY or ALL of a subquery", e.place);
-  });
-  const LoweredQuery lowered = to.lower(*compare.query);
-  lite::Select* tests = selectFrom(to, lowered.query);
-  tests->items.push_back(
-      {compared(to, compare.op, operand.front(), to.column({}, lowered.columns.front()), compare.place),
-       "test"});
-  // One row decides; else a row that is neither true nor false leaves the whole so.
-  const auto* test = to.name({}, "test");
-  const bool any = compare.quantifier == sql::Quantifier::Any;
-  const auto* decided = any ? to.call("max", {test}) : to.negatedIf(true, to.call("min", {test}));
-  lite::Case& verdict = *to.choice();
-  verdict.arms.push_back({decided, to.integer(any ? 1 : 0)});
-  verdict.arms.push_back(
-      {to.operation(Operator::Equal, {to.call("count", {to.star()}), to.call("count", {test})}),
-       to.integer(any ? 0 : 1)});
-  lite::Select* whole = selectFrom(to, to.query(tests));
-  whole->items.push_back({&verdict, {}});
-  return Value{to.subquery(to.query(whole))};
-}
-
 /// (a, b) = or <> the only row of a query, unknown without one.
 Lowered lowerRowAgainstQuery(Lowerer& to, const sql::Compare& compare) {
   const auto* subquery = sql::as<sql::SubqueryExpr>(compare.right);
