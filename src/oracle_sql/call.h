@@ -51,7 +51,7 @@ struct Keep {
 };
 
 enum class NullTreatment : std::uint8_t { Default, Respect, Ignore };
-/// Grouping: GROUPING, GROUPING_ID and GROUP_ID, which tell of the grouping that a row belongs to.
+/// Grouping: GROUPING, which tells of the grouping that a row belongs to.
 enum class CallRole : std::uint8_t { Unresolved, Scalar, Aggregate, Window, Grouping };
 
 /// A function of any sort: NVL(a, b), COUNT(*), SUM(x) OVER (...), STATSPACK.V1024(...), SYSDATE.

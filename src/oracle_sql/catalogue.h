@@ -9,6 +9,8 @@
 
 namespace oracle_sql {
 
+struct Function;
+
 struct CatalogueColumn {
   std::string name;  ///< as Oracle stores it: upper case
   Type type;
@@ -28,10 +30,8 @@ class Catalogue {
   /// The table or view of that name (upper case unless it was quoted), or null. `schema` is empty where the
   /// statement names none.
   virtual const CatalogueTable* table(std::string_view schema, std::string_view name) const = 0;
-  /// Whether a function of a package is there, as STATSPACK.V1024 is from release 11 on.
-  virtual bool hasPackageFunction(std::string_view /*package*/, std::string_view /*name*/) const {
-    return true;
-  }
+  /// A function of a package by its upper-case name, as "STATSPACK.V1024", or null.
+  virtual const Function* packageFunction(std::string_view /*name*/) const { return nullptr; }
 };
 
 }  // namespace oracle_sql

@@ -6,18 +6,14 @@
 namespace oracle_sql {
 
 enum class CompareOp : std::uint8_t { Equal, NotEqual, Less, LessEqual, Greater, GreaterEqual };
-enum class Quantifier : std::uint8_t { None, Any, All };
 
-/// a < b; a < ANY (list or query).
+/// a < b.
 struct Compare : Expr {
   static constexpr ExprKind kKind = ExprKind::Compare;
-  explicit Compare(std::pmr::memory_resource* m) : Expr(kKind), list(m) {}
+  Compare() : Expr(kKind) {}
   CompareOp op = CompareOp::Equal;
   Expr* left = nullptr;
-  Expr* right = nullptr;  ///< null with a quantifier
-  Quantifier quantifier = Quantifier::None;
-  ExprList list;           ///< with a quantifier: its values, unless `query` is set
-  Query* query = nullptr;  ///< with a quantifier: its subquery
+  Expr* right = nullptr;
 };
 
 /// Two or more terms.

@@ -2,12 +2,11 @@
 
 #include "oracle_sql/ascii_case.h"
 #include "oracle_sql/date_model.h"
-#include "oracle_sql/spelled_number.h"
 
 namespace oracle_sql {
 namespace {
 
-// Year and week by ISO 8601: the week belongs to the year of its Thursday.
+/// Year and week by ISO 8601: the week belongs to the year of its Thursday.
 struct IsoWeekDate {
   int year;
   int week;
@@ -23,9 +22,7 @@ IsoWeekDate isoWeekOf(const Date& date) {
 
 int powerOfTen(int exponent) {
   int power = 1;
-  for (int i = 0; i < exponent; ++i) {
-    power *= 10;
-  }
+  for (int i = 0; i < exponent; ++i) power *= 10;
   return power;
 }
 
@@ -39,11 +36,8 @@ class Formatter {
       case DateElement::Punctuation:
         out += item.text;
         return;
-      case DateElement::Radix:
-        out += '.';
-        return;
       case DateElement::Era:
-        appendMark(out, item, fields_.year < 0 ? 'B' : 'A', fields_.year < 0 ? 'C' : 'D');
+        appendMark(out, item, 'A', 'D');
         return;
       case DateElement::Meridian:
         appendMark(out, item, fields_.hour < 12 ? 'A' : 'P', 'M');
@@ -60,38 +54,21 @@ class Formatter {
       case DateElement::MonthAbbreviation:
         appendName(out, item, kMonthNames[fields_.month - 1].substr(0, 3), 3);
         return;
-      case DateElement::RomanMonth:
-        appendName(out, item, kRomanMonths[fields_.month - 1], 4);
-        return;
-      case DateElement::SpelledYear:
-        out += inCase(spelledYear(yearSize()), item.letters);
-        return;
-      case DateElement::SignedSpelledYear:
-        appendSign(out, item);
-        out += inCase(spelledYear(yearSize()), item.letters);
-        return;
       case DateElement::YearWithComma:
-        appendNumber(out, item, yearSize() / 1000, 1);
+        appendNumber(out, item, fields_.year / 1000, 1);
         out += ',';
-        appendNumber(out, {.element = item.element, .digits = 3}, yearSize() % 1000, 3);
+        appendNumber(out, {.element = item.element, .digits = 3}, fields_.year % 1000, 3);
         return;
-      case DateElement::SignedYear:
-      case DateElement::SignedCentury:
-        appendSign(out, item);
-        [[fallthrough]];
       default:
         appendNumber(out, item, numberOf(item), item.digits);
     }
   }
 
  private:
-  int yearSize() const { return fields_.year < 0 ? -fields_.year : fields_.year; }
-
   std::int64_t numberOf(const DateItem& item) const {
     switch (item.element) {
       case DateElement::Century:
-      case DateElement::SignedCentury:
-        return (yearSize() + 99) / 100;
+        return (fields_.year + 99) / 100;
       case DateElement::WeekdayNumber:
         return date_.weekday() + 1;
       case DateElement::Day:
@@ -123,7 +100,7 @@ class Formatter {
       case DateElement::WeekOfMonth:
         return (fields_.day + 6) / 7;
       default:
-        return yearSize() % powerOfTen(item.digits);
+        return fields_.year % powerOfTen(item.digits);
     }
   }
 
@@ -131,48 +108,27 @@ class Formatter {
     return date_.day() - Date::fromFields({fields_.year, 1, 1, 0, 0, 0}).day() + 1;
   }
 
-  void appendSign(std::string& out, const DateItem& item) const {
-    if (fields_.year < 0) {
-      out += '-';
-    } else if (item.padded) {
-      out += ' ';
-    }
-  }
-
   static void appendMark(std::string& out, const DateItem& item, char first, char second) {
     std::string mark(1, first);
     mark += item.dotted ? "." : "";
     mark += second;
     mark += item.dotted ? "." : "";
-    if (item.letters == LetterCase::Lower) {
+    if (item.letters == LetterCase::Lower)
       mark = inCase(mark, LetterCase::Lower);
-    } else if (item.letters == LetterCase::Capital) {
+    else if (item.letters == LetterCase::Capital)
       mark[item.dotted ? 2 : 1] = asciiLower(second);
-    }
     out += mark;
   }
 
   static void appendName(std::string& out, const DateItem& item, std::string_view name, std::size_t width) {
     out += inCase(name, item.letters);
-    if (item.padded && name.size() < width) {
-      out.append(width - name.size(), ' ');
-    }
+    if (item.padded && name.size() < width) out.append(width - name.size(), ' ');
   }
 
   static void appendNumber(std::string& out, const DateItem& item, std::int64_t number, std::size_t width) {
-    if (item.spelled) {
-      out += inCase(item.ordinal ? spelledOrdinal(number) : spelledNumber(number), item.letters);
-      return;
-    }
     const std::string digits = Number(number).toText();
-    if (item.padded && digits.size() < width) {
-      out.append(width - digits.size(), '0');
-    }
+    if (item.padded && digits.size() < width) out.append(width - digits.size(), '0');
     out += digits;
-    if (item.ordinal) {
-      out += inCase(ordinalSuffix(number),
-                    item.letters == LetterCase::Upper ? LetterCase::Upper : LetterCase::Lower);
-    }
   }
 
   Date date_;

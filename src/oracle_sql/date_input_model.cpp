@@ -7,13 +7,12 @@
 namespace oracle_sql {
 namespace {
 
-// Elements that tell the same part of a date.
+/// Elements that tell the same part of a date.
 enum class Part : std::uint8_t { None, Year, Month, Weekday, Hour };
 
 Part partOf(DateElement element) {
   switch (element) {
     case DateElement::Year:
-    case DateElement::SignedYear:
     case DateElement::YearWithComma:
     case DateElement::RoundedYear2:
     case DateElement::RoundedYear4:
@@ -21,7 +20,6 @@ Part partOf(DateElement element) {
     case DateElement::Month:
     case DateElement::MonthAbbreviation:
     case DateElement::MonthName:
-    case DateElement::RomanMonth:
       return Part::Month;
     case DateElement::WeekdayNumber:
     case DateElement::DayName:
@@ -38,33 +36,27 @@ Part partOf(DateElement element) {
 bool isOnlyWritten(const DateItem& item) {
   switch (item.element) {
     case DateElement::Century:
-    case DateElement::SignedCentury:
     case DateElement::IsoWeek:
     case DateElement::IsoYear:
     case DateElement::Quarter:
     case DateElement::WeekOfYear:
     case DateElement::WeekOfMonth:
-    case DateElement::SpelledYear:
-    case DateElement::SignedSpelledYear:
       return true;
     default:
-      return item.spelled;
+      return false;
   }
 }
 
 bool isText(const DateItem& item) {
-  return item.element == DateElement::Literal || item.element == DateElement::Punctuation ||
-         item.element == DateElement::Radix;
+  return item.element == DateElement::Literal || item.element == DateElement::Punctuation;
 }
 
 [[noreturn]] void raiseTwice(const DateItem& a, const DateItem& b) {
   if (a.element == b.element && a.digits == b.digits) {
-    if (a.element == DateElement::Meridian && a.dotted != b.dotted) {
+    if (a.element == DateElement::Meridian && a.dotted != b.dotted)
       throw FunctionError(1814, "AM/PM conflicts with use of A.M./P.M.");
-    }
-    if (a.element == DateElement::Era && a.dotted != b.dotted) {
+    if (a.element == DateElement::Era && a.dotted != b.dotted)
       throw FunctionError(1815, "BC/AD conflicts with use of B.C./A.D.");
-    }
     throw FunctionError(1810, "format code appears twice");
   }
   switch (partOf(a.element)) {
@@ -83,29 +75,19 @@ void refuseTogether(const DateItem& a, const DateItem& b) {
   const auto pair = [&](DateElement x, DateElement y) {
     return (a.element == x && b.element == y) || (a.element == y && b.element == x);
   };
-  if (a.element == b.element || (partOf(a.element) != Part::None && partOf(a.element) == partOf(b.element))) {
+  if (a.element == b.element || (partOf(a.element) != Part::None && partOf(a.element) == partOf(b.element)))
     raiseTwice(a, b);
-  }
-  if (pair(DateElement::Julian, DateElement::DayOfYear)) {
+  if (pair(DateElement::Julian, DateElement::DayOfYear))
     throw FunctionError(1811, "Julian date precludes use of day of year");
-  }
-  if (pair(DateElement::Hour24, DateElement::Meridian)) {
+  if (pair(DateElement::Hour24, DateElement::Meridian))
     throw FunctionError(1818, "'HH24' precludes use of meridian indicator");
-  }
-  if (pair(DateElement::SignedYear, DateElement::Era)) {
-    throw FunctionError(1819, "signed year precludes use of BC/AD");
-  }
 }
 
 DateModel checked(std::string_view text) {
   const DateModel& model = dateModel(text);
   for (std::size_t i = 0; i < model.size(); ++i) {
-    if (isOnlyWritten(model[i])) {
-      throw FunctionError(1820, "format code cannot appear in date input format");
-    }
-    for (std::size_t j = 0; j < i && !isText(model[i]); ++j) {
-      refuseTogether(model[j], model[i]);
-    }
+    if (isOnlyWritten(model[i])) throw FunctionError(1820, "format code cannot appear in date input format");
+    for (std::size_t j = 0; j < i && !isText(model[i]); ++j) refuseTogether(model[j], model[i]);
   }
   return model;
 }

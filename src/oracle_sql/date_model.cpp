@@ -13,7 +13,7 @@ struct Name {
   std::uint8_t digits;
 };
 
-// A longer name stands before its own beginning.
+/// A longer name stands before its own beginning.
 constexpr Name kNames[] = {
     {"A.D.", DateElement::Era, 0},
     {"B.C.", DateElement::Era, 0},
@@ -23,7 +23,6 @@ constexpr Name kNames[] = {
     {"P.M.", DateElement::Meridian, 0},
     {"AM", DateElement::Meridian, 0},
     {"PM", DateElement::Meridian, 0},
-    {"SCC", DateElement::SignedCentury, 2},
     {"CC", DateElement::Century, 2},
     {"DAY", DateElement::DayName, 0},
     {"DDD", DateElement::DayOfYear, 3},
@@ -46,87 +45,60 @@ constexpr Name kNames[] = {
     {"Q", DateElement::Quarter, 1},
     {"RRRR", DateElement::RoundedYear4, 4},
     {"RR", DateElement::RoundedYear2, 2},
-    {"RM", DateElement::RomanMonth, 0},
-    {"SYYYY", DateElement::SignedYear, 4},
-    {"SYEAR", DateElement::SignedSpelledYear, 0},
     {"SSSSS", DateElement::SecondOfDay, 5},
     {"SS", DateElement::Second, 2},
     {"WW", DateElement::WeekOfYear, 2},
     {"W", DateElement::WeekOfMonth, 1},
-    {"X", DateElement::Radix, 0},
     {"Y,YYY", DateElement::YearWithComma, 4},
-    {"YEAR", DateElement::SpelledYear, 0},
     {"YYYY", DateElement::Year, 4},
     {"YYY", DateElement::Year, 3},
     {"YY", DateElement::Year, 2},
     {"Y", DateElement::Year, 1},
 };
 
-// What the territory AMERICA writes for the short and long forms.
-struct Shorthand {
-  std::string_view name;
-  std::string_view model;
-};
-
-constexpr Shorthand kShorthands[] = {
-    {"DL", "fmDay, Month DD, YYYYfm"}, {"DS", "fmMM/DD/RRRRfm"}, {"TS", "fmHH12fm:MI:SS AM"}};
+/// Elements of the server's that nobody asks for here.
+constexpr std::string_view kRefused[] = {"DL", "DS", "FX", "RM", "SCC", "SYEAR", "SYYYY", "TS", "X", "YEAR"};
 
 bool isUpper(char c) { return c >= 'A' && c <= 'Z'; }
 
 LetterCase lettersOf(std::string_view name) {
-  if (!isUpper(name[0])) {
-    return LetterCase::Lower;
-  }
+  if (!isUpper(name[0])) return LetterCase::Lower;
   const char second = name.size() < 2 ? name[0] : name[1] == '.' ? name[2] : name[1];
   return isAsciiLetter(second) && !isUpper(second) ? LetterCase::Capital : LetterCase::Upper;
+}
+
+[[noreturn]] void raiseUnsupported(std::string_view element) {
+  throw FunctionError(FunctionError::kUnsupported, "the date format element " + std::string(element));
 }
 
 class Parser {
  public:
   DateModel parse(std::string_view text) {
-    append(text);
+    while (!text.empty()) text.remove_prefix(takeOne(text));
     return std::move(items_);
   }
 
  private:
-  void append(std::string_view text) {
-    while (!text.empty()) {
-      text.remove_prefix(takeOne(text));
-    }
-  }
-
-  // How many characters were understood.
+  /// How many characters were understood.
   std::size_t takeOne(std::string_view text) {
     if (startsWithAnyCase(text, "FM")) {
       padded_ = !padded_;
       return 2;
     }
-    if (startsWithAnyCase(text, "FX")) {
-      exact_ = !exact_;
-      return 2;
-    }
     if (text[0] == '"') {
       const std::size_t end = text.find('"', 1);
-      if (end == std::string_view::npos) {
-        throw FunctionError(1821, "date format not recognized");
-      }
+      if (end == std::string_view::npos) throw FunctionError(1821, "date format not recognized");
       add(DateElement::Literal).text = text.substr(1, end - 1);
       return end + 1;
     }
-    for (const Shorthand& shorthand : kShorthands) {
-      if (startsWithAnyCase(text, shorthand.name) && !startsWithAnyCase(text, "DSP")) {
-        append(shorthand.model);
-        return shorthand.name.size();
-      }
+    for (const std::string_view name : kRefused) {
+      if (startsWithAnyCase(text, name)) raiseUnsupported(name);
     }
     for (const Name& name : kNames) {
-      if (startsWithAnyCase(text, name.name)) {
-        return takeElement(text, name);
-      }
+      if (startsWithAnyCase(text, name.name)) return takeElement(text, name);
     }
-    if (isAsciiLetter(text[0]) || isAsciiDigit(text[0]) || static_cast<unsigned char>(text[0]) >= 0x80) {
+    if (isAsciiLetter(text[0]) || isAsciiDigit(text[0]) || static_cast<unsigned char>(text[0]) >= 0x80)
       throw FunctionError(1821, "date format not recognized");
-    }
     add(DateElement::Punctuation).text = text.substr(0, 1);
     return 1;
   }
@@ -136,31 +108,23 @@ class Parser {
     item.digits = name.digits;
     item.letters = lettersOf(text.substr(0, name.name.size()));
     item.dotted = name.name.find('.') != std::string_view::npos;
-    std::size_t size = name.name.size();
-    for (int suffixes = 0; name.digits != 0 && suffixes < 2; ++suffixes) {
-      if (!item.ordinal && startsWithAnyCase(text.substr(size), "TH")) {
-        item.ordinal = true;
-        size += 2;
-      } else if (!item.spelled && startsWithAnyCase(text.substr(size), "SP")) {
-        item.spelled = true;
-        size += 2;
-      }
+    for (const char* suffix : {"TH", "SP"}) {
+      if (name.digits != 0 && startsWithAnyCase(text.substr(name.name.size()), suffix))
+        raiseUnsupported(std::string(name.name) + suffix);
     }
-    return size;
+    return name.name.size();
   }
 
   DateItem& add(DateElement element) {
     DateItem item;
     item.element = element;
     item.padded = padded_;
-    item.exact = exact_;
     items_.push_back(std::move(item));
     return items_.back();
   }
 
   DateModel items_;
   bool padded_ = true;
-  bool exact_ = false;
 };
 
 }  // namespace

@@ -10,6 +10,8 @@
 namespace oracle_sql {
 namespace {
 
+constexpr std::int64_t kFirstJulianDay = 1721424;  // of 0001-01-01
+
 bool isNumeric(const DateItem& item) { return item.digits != 0; }
 
 bool isTimeOfDay(DateElement element) {
@@ -28,9 +30,7 @@ bool isTimeOfDay(DateElement element) {
 }
 
 int inRange(std::int64_t value, int low, int high, int code, const char* message) {
-  if (value < low || value > high) {
-    throw FunctionError(code, message);
-  }
+  if (value < low || value > high) throw FunctionError(code, message);
   return static_cast<int>(value);
 }
 
@@ -44,15 +44,13 @@ class Reader {
     for (std::size_t i = 0; i < model.size(); ++i) {
       const DateItem& item = model[i];
       const DateItem* const next = i + 1 < model.size() ? &model[i + 1] : nullptr;
-      if (!item.exact && !mayBeBlank(item)) {
-        skipBlanks();
-      }
+      if (!mayBeBlank(item)) skipBlanks();
       if (rest_.empty()) {
         requireOptional(model, i);
         return found_;
       }
       if (item.element == DateElement::Punctuation) {
-        readPunctuation(item, next);
+        readPunctuation();
         marked = true;
         continue;
       }
@@ -61,9 +59,8 @@ class Reader {
       lastEnd = rest_.size();
     }
     skipBlanks();
-    if (!rest_.empty()) {
+    if (!rest_.empty())
       throw FunctionError(1830, "date format picture ends before converting entire input string");
-    }
     return found_;
   }
 
@@ -74,22 +71,19 @@ class Reader {
   }
 
   void skipBlanks() {
-    while (!rest_.empty() && rest_[0] == ' ') {
-      rest_.remove_prefix(1);
-    }
+    while (!rest_.empty() && rest_[0] == ' ') rest_.remove_prefix(1);
   }
 
-  // A text may end before the time of day.
+  /// A text may end before the time of day.
   static void requireOptional(const DateModel& model, std::size_t from) {
     for (std::size_t i = from; i < model.size(); ++i) {
-      if (!isTimeOfDay(model[i].element) || model[i].exact) {
+      if (!isTimeOfDay(model[i].element))
         throw FunctionError(1840, "input value not long enough for date format");
-      }
     }
   }
 
-  // `joined`: the text lacks the marks that the model has in front of this value. Then a number must have all
-  // its digits, and whatever does not fit is taken for the missing mark.
+  /// `joined`: the text lacks the marks that the model has in front of this value. Then a number must have
+  /// all its digits, and whatever does not fit is taken for the missing mark.
   void readValue(const DateItem& item, const DateItem* next, bool joined) {
     if (!joined) {
       readItem(item, next);
@@ -117,55 +111,37 @@ class Reader {
       case DateElement::Literal:
         readLiteral(item.text);
         return;
-      case DateElement::Radix:
-        readLiteral(".");
-        return;
       case DateElement::Era:
-        found_.beforeChrist = readMark(item, 'B', 'A', "CD", 1856, "BC/B.C. or AD/A.D. required");
+        if (readMark(item, 'B', 'A', "CD", 1856, "BC/B.C. or AD/A.D. required")) raiseBeforeChrist();
         return;
       case DateElement::Meridian:
         found_.afternoon = readMark(item, 'P', 'A', "MM", 1855, "AM/A.M. or PM/P.M. required");
         return;
       case DateElement::DayName:
       case DateElement::DayAbbreviation:
-        found_.weekday = readName(item, kDayNames, 1846, "not a valid day of the week");
+        found_.weekday = readName(kDayNames, 1846, "not a valid day of the week");
         return;
       case DateElement::MonthName:
       case DateElement::MonthAbbreviation:
-        found_.month = readName(item, kMonthNames, 1843, "not a valid month") + 1;
-        return;
-      case DateElement::RomanMonth:
-        found_.month = readRoman();
+        found_.month = readName(kMonthNames, 1843, "not a valid month") + 1;
         return;
       default:
         break;
     }
-    if (item.element == DateElement::Month && isAsciiLetter(rest_[0]) && !item.exact) {
-      found_.month = readName(item, kMonthNames, 1843, "not a valid month") + 1;
+    if (item.element == DateElement::Month && isAsciiLetter(rest_[0])) {
+      found_.month = readName(kMonthNames, 1843, "not a valid month") + 1;
       return;
     }
     readNumber(item, next);
   }
 
   void readLiteral(std::string_view literal) {
-    if (!startsWithAnyCase(rest_, asciiUpper(literal))) {
-      raiseLiteral();
-    }
+    if (!startsWithAnyCase(rest_, asciiUpper(literal))) raiseLiteral();
     rest_.remove_prefix(literal.size());
   }
 
-  // Any mark does for any other, and none at all before a digit or a letter. The sign of a year is no mark
-  // where the model has a blank.
-  void readPunctuation(const DateItem& item, const DateItem* next) {
-    const char c = rest_[0];
-    if (item.exact) {
-      readLiteral(item.text);
-    } else if (!isAsciiLetter(c) && !isAsciiDigit(c)) {
-      const bool sign = (c == '-' || c == '+') && item.text == " " && next != nullptr &&
-                        next->element == DateElement::SignedYear;
-      rest_.remove_prefix(sign ? 0 : 1);
-    }
-  }
+  /// Any mark does for any other, and none at all before a digit or a letter.
+  void readPunctuation() { rest_.remove_prefix(isAsciiLetter(rest_[0]) || isAsciiDigit(rest_[0]) ? 0 : 1); }
 
   bool readMark(const DateItem& item, char yes, char no, const char* second, int code, const char* message) {
     std::string wanted = item.dotted ? "Y.Z." : "YZ";
@@ -180,14 +156,12 @@ class Reader {
     throw FunctionError(code, message);
   }
 
-  // A full name or its first three letters, whichever the model asks for; under FX just that.
+  /// A full name or its first three letters, whichever the model asks for.
   template <std::size_t N>
-  int readName(const DateItem& item, const std::string_view (&names)[N], int code, const char* message) {
-    const bool full = item.element == DateElement::MonthName || item.element == DateElement::DayName;
+  int readName(const std::string_view (&names)[N], int code, const char* message) {
     for (std::size_t i = 0; i < N; ++i) {
       for (const std::string_view name : {names[i], names[i].substr(0, 3)}) {
-        if (startsWithAnyCase(rest_, name) &&
-            (!item.exact || full == (name == names[i]) || names[i].size() == 3)) {
+        if (startsWithAnyCase(rest_, name)) {
           rest_.remove_prefix(name.size());
           return static_cast<int>(i);
         }
@@ -196,28 +170,12 @@ class Reader {
     throw FunctionError(code, message);
   }
 
-  int readRoman() {
-    std::size_t size = 0;
-    while (size < rest_.size() && isAsciiLetter(rest_[size])) {
-      ++size;
-    }
-    const std::string word = asciiUpper(rest_.substr(0, size));
-    const auto* const month = std::find(std::begin(kRomanMonths), std::end(kRomanMonths), word);
-    if (month == std::end(kRomanMonths)) {
-      throw FunctionError(1843, "not a valid month");
-    }
-    rest_.remove_prefix(size);
-    return static_cast<int>(month - std::begin(kRomanMonths)) + 1;
-  }
-
-  // Digits up to the width of the element; four for YY and RR that nothing numeric follows directly.
+  /// Digits up to the width of the element; four for YY and RR that nothing numeric follows directly.
   std::pair<std::int64_t, int> readDigits(const DateItem& item, const DateItem* next) {
     int width = item.digits;
     const bool shortYear =
         (item.element == DateElement::Year && width == 2) || item.element == DateElement::RoundedYear2;
-    if (shortYear && !item.exact && (next == nullptr || !isNumeric(*next))) {
-      width = 4;
-    }
+    if (shortYear && (next == nullptr || !isNumeric(*next))) width = 4;
     std::int64_t value = 0;
     int count = 0;
     while (count < width && !rest_.empty() && isAsciiDigit(rest_[0])) {
@@ -225,24 +183,9 @@ class Reader {
       ++count;
       rest_.remove_prefix(1);
     }
-    if (count == 0) {
+    if (count == 0)
       throw FunctionError(1858, "a non-numeric character was found where a numeric was expected");
-    }
-    if (item.exact && item.padded && count < item.digits) {
-      throw FunctionError(1862, "the numeric value does not match the length of the format item");
-    }
-    if (item.ordinal && rest_.size() >= 2 && isAsciiLetter(rest_[0])) {
-      rest_.remove_prefix(2);
-    }
     return {value, count};
-  }
-
-  bool readSign() {
-    const bool negative = rest_[0] == '-';
-    if (negative || rest_[0] == '+') {
-      rest_.remove_prefix(1);
-    }
-    return negative;
   }
 
   void readNumber(const DateItem& item, const DateItem* next) {
@@ -250,14 +193,10 @@ class Reader {
       readYearWithComma();
       return;
     }
-    const bool negative = item.element == DateElement::SignedYear && readSign();
     const auto [value, count] = readDigits(item, next);
     switch (item.element) {
       case DateElement::Year:
         found_.year = count >= 4 ? enteredYear(value) : completedYear(value, item.digits);
-        return;
-      case DateElement::SignedYear:
-        found_.year = enteredYear(negative ? -value : value);
         return;
       case DateElement::RoundedYear2:
       case DateElement::RoundedYear4:
@@ -292,8 +231,8 @@ class Reader {
         found_.weekday = inRange(value, 1, 7, 1846, "not a valid day of the week") - 1;
         return;
       case DateElement::Julian:
-        inRange(value, 1, 5373484, 1854, "julian date must be between 1 and 5373484");
-        found_.julian = value;
+        found_.julian = inRange(value, 1, 5373484, 1854, "julian date must be between 1 and 5373484");
+        if (value < kFirstJulianDay) raiseBeforeChrist();
         return;
       default:
         throw FunctionError(1820, "format code cannot appear in date input format");
@@ -307,29 +246,25 @@ class Reader {
       value = rest_[0] == ',' ? value : value * 10 + (rest_[0] - '0');
       rest_.remove_prefix(1);
     }
-    if (count == 0) {
+    if (count == 0)
       throw FunctionError(1858, "a non-numeric character was found where a numeric was expected");
-    }
     found_.year = enteredYear(value);
   }
 
-  // The digits that are missing in front come from the current year.
+  /// The digits that are missing in front come from the current year.
   int completedYear(std::int64_t value, int digits) const {
     int unit = 1;
-    for (int i = 0; i < digits; ++i) {
-      unit *= 10;
-    }
+    for (int i = 0; i < digits; ++i) unit *= 10;
     return enteredYear(now_.year / unit * unit + value);
   }
 
-  // Of the half century nearest to now.
+  /// Of the half century nearest to now.
   int roundedYear(std::int64_t value) const {
     int century = now_.year / 100;
-    if (value < 50 && now_.year % 100 >= 50) {
+    if (value < 50 && now_.year % 100 >= 50)
       ++century;
-    } else if (value >= 50 && now_.year % 100 < 50) {
+    else if (value >= 50 && now_.year % 100 < 50)
       --century;
-    }
     return enteredYear(std::int64_t{100} * century + value);
   }
 

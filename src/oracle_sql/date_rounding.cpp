@@ -45,13 +45,9 @@ constexpr UnitName kUnits[] = {
 Unit unitOf(std::string_view model) {
   const std::string upper = asciiUpper(model);
   for (const UnitName& entry : kUnits) {
-    if (entry.name == upper) {
-      return entry.unit;
-    }
+    if (entry.name == upper) return entry.unit;
   }
-  if (dateModel(model).size() > 1) {
-    throw FunctionError(1898, "too many precision specifiers");
-  }
+  if (dateModel(model).size() > 1) throw FunctionError(1898, "too many precision specifiers");
   throw FunctionError(1899, "bad precision specifier");
 }
 
@@ -61,7 +57,7 @@ Date plusDays(const Date& date, std::int64_t days) { return {date.seconds + days
 
 Date midnight(const Date& date) { return {date.seconds - date.timeOfDay()}; }
 
-// Midnight of the last day of that weekday, the day itself included.
+/// Midnight of the last day of that weekday, the day itself included.
 Date backTo(int weekday, const Date& date) {
   return plusDays(midnight(date), -((date.weekday() - weekday + 7) % 7));
 }
@@ -72,13 +68,11 @@ Date start(const Date& date, Unit unit) {
   const DateFields f = date.fields();
   switch (unit) {
     case Unit::Century:
-      return dayOf((f.year + 4799) / 100 * 100 - 4799, 1, 1);  // whole numbers, also before Christ
+      return dayOf((f.year - 1) / 100 * 100 + 1, 1, 1);
     case Unit::Year:
       return dayOf(f.year, 1, 1);
     case Unit::IsoYear: {
-      if (f.year < 9999 && date >= isoYearStart(f.year + 1)) {
-        return isoYearStart(f.year + 1);
-      }
+      if (f.year < 9999 && date >= isoYearStart(f.year + 1)) return isoYearStart(f.year + 1);
       const Date begin = isoYearStart(f.year);
       return date >= begin ? begin : isoYearStart(f.year - 1);
     }
@@ -132,9 +126,9 @@ Date next(const Date& begin, Unit unit) {
   return begin;
 }
 
-// Whether `date` belongs to the unit that follows. The turn is no plain middle for the long units: years turn
-// on July 1, quarters on the sixteenth of their second month, months on their sixteenth day, centuries in
-// their fifty-first year.
+/// Whether `date` belongs to the unit that follows. The turn is no plain middle for the long units: years
+/// turn on July 1, quarters on the sixteenth of their second month, months on their sixteenth day, centuries
+/// in their fifty-first year.
 bool roundsUp(const Date& date, const Date& begin, Unit unit) {
   const DateFields f = date.fields();
   switch (unit) {

@@ -6,7 +6,7 @@ namespace oracle_sql {
 
 namespace {
 
-// Characters of a line that are shown on either side of the place.
+/// Characters of a line that are shown on either side of the place.
 constexpr std::size_t kWindow = 50;
 
 bool continuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
@@ -29,7 +29,7 @@ std::size_t characterOn(std::string_view line, std::size_t at) {
   return at;
 }
 
-// Characters of East Asian scripts take two columns of a fixed-pitch font.
+/// Characters of East Asian scripts take two columns of a fixed-pitch font.
 bool isWide(std::string_view line, std::size_t at) {
   if (at + 2 >= line.size() || (static_cast<unsigned char>(line[at]) & 0xF0) != 0xE0) return false;
   const unsigned code = (static_cast<unsigned char>(line[at]) & 0x0FU) << 12 |

@@ -1,3 +1,4 @@
+// The table of functions, and the operators.
 #pragma once
 
 #include <limits>
@@ -18,9 +19,9 @@ using ArgumentTypes = std::span<const Type>;
 /// words inside some calls become text arguments behind the others: TRIM(LEADING x FROM y) is called as
 /// TRIM(y, x, 'LEADING'), EXTRACT(YEAR FROM d) as EXTRACT(d, 'YEAR').
 struct Function {
-  std::string_view name;  ///< upper case; a packaged one as "STATSPACK.V1024"
+  std::string_view name;  ///< upper case; one of a package as "STATSPACK.V1024"
   int minArguments;
-  int maxArguments;    // kAnyNumber: no limit
+  int maxArguments;    ///< kAnyNumber: no limit
   bool deterministic;  ///< equal arguments give equal results, however often asked
   Type (*resultType)(ArgumentTypes);
   Value (*call)(Arguments, const Context&);

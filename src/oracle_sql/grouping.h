@@ -5,15 +5,12 @@
 
 namespace oracle_sql {
 
-enum class GroupingKind : std::uint8_t { Keys, Rollup, Cube, Sets };
-
-/// A term of GROUP BY: (a, b), ROLLUP(a, (b, c)), CUBE(a, b), GROUPING SETS((a, b), a, ()). What stands in
-/// the brackets of the last three are terms again.
+/// A term of GROUP BY: (a, b), or ROLLUP(a, (b, c)), in whose brackets are terms again.
 struct GroupingTerm {
   explicit GroupingTerm(std::pmr::memory_resource* m) : keys(m), terms(m) {}
-  GroupingKind kind = GroupingKind::Keys;
+  bool rollup = false;
   Place place;
-  ExprList keys;  ///< of Keys: none is the empty set, all rows together
+  ExprList keys;  ///< without rollup: none is the empty set, all rows together
   List<GroupingTerm*> terms;
 };
 

@@ -8,7 +8,7 @@ namespace oracle_sql {
 
 namespace {
 
-// Bytes of characters beyond ASCII count as letters, as Oracle takes the letters of its character set.
+/// Bytes of characters beyond ASCII count as letters, as Oracle takes the letters of its character set.
 bool isLetter(char c) { return isAsciiLetter(c) || static_cast<unsigned char>(c) >= 0x80; }
 bool isNamePart(char c) { return isLetter(c) || isAsciiDigit(c) || c == '_' || c == '$' || c == '#'; }
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f' || c == '\v'; }
@@ -45,19 +45,18 @@ class Lexer {
     while (n-- > 0) step();
   }
 
-  // Skips blanks and comments; a hint behind SELECT becomes a token.
+  /// Skips blanks and comments; a hint behind SELECT becomes a token.
   bool skipToToken() {
     while (!atEnd()) {
       const char c = at();
-      if (isBlank(c)) {
+      if (isBlank(c))
         step();
-      } else if (c == '-' && at(1) == '-') {
+      else if (c == '-' && at(1) == '-')
         comment(2, "\n");
-      } else if (c == '/' && at(1) == '*') {
+      else if (c == '/' && at(1) == '*')
         comment(2, "*/");
-      } else {
+      else
         return true;
-      }
     }
     return false;
   }
@@ -181,7 +180,7 @@ class Lexer {
     add(TokenKind::Bind);
   }
 
-  // Two-character operators may have blanks inside, as in Oracle.
+  /// Two-character operators may have blanks inside, as in Oracle.
   bool followedBy(char second) {
     std::size_t ahead = 1;
     while (isBlank(at(ahead))) ++ahead;

@@ -1,3 +1,4 @@
+// Format models, each parsed once.
 #pragma once
 
 #include <array>
@@ -8,17 +9,15 @@
 
 namespace oracle_sql {
 
-// The format models used last, parsed: a statement formats every row with the same few. One per thread.
+/// The format models used last, parsed: a statement formats every row with the same few. One per thread.
 template <typename Model>
 class ModelCache {
  public:
-  // Valid until the next call. `parse` may throw; nothing is kept then.
+  /// Valid until the next call. `parse` may throw; nothing is kept then.
   template <typename Parse>
   const Model& get(std::string_view text, Parse parse) {
     for (const auto& entry : entries_) {
-      if (entry.first == text && !text.empty()) {
-        return entry.second;
-      }
+      if (entry.first == text && !text.empty()) return entry.second;
     }
     Model model = parse(text);
     auto& entry = entries_[next_];

@@ -24,7 +24,6 @@ enum class ExprKind : std::uint8_t {
   Number,
   String,
   DateLiteral,
-  IntervalLiteral,
   Column,
   Rownum,
   Bind,

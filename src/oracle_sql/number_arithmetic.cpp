@@ -25,12 +25,12 @@ Number fromWide(Wide value) {
   return Number::fromDigits({digits + at, static_cast<std::size_t>(20 - at)}, 19 - at, value < 0);
 }
 
-// |a| + |b| or |a| - |b|, with the sign of a. Beyond a distance of 22 digits b cannot move the rounding of a.
+/// |a| + |b| or |a| - |b|, with the sign of a. Beyond a distance of 22 digits b cannot move the rounding of
+/// a.
 Number combine(const NumberParts& a, const NumberParts& b, bool subtract) {
   const int distance = a.exponent - b.exponent;
-  if (distance > 21) {
+  if (distance > 21)
     return Number::fromDigits({a.digit, static_cast<std::size_t>(a.count)}, a.exponent, a.negative);
-  }
   std::uint8_t out[1 + 20 + 22] = {};  // the first for a carry
   std::memcpy(out + 1, a.digit, static_cast<std::size_t>(a.count));
   const int last = std::max(a.count, distance + b.count);
@@ -47,34 +47,28 @@ Number combine(const NumberParts& a, const NumberParts& b, bool subtract) {
       carry = 1;
     }
     out[i] = static_cast<std::uint8_t>(sum);
-    if (carry == 0 && i <= distance + 1) {
-      break;
-    }
+    if (carry == 0 && i <= distance + 1) break;
   }
   out[0] = static_cast<std::uint8_t>(carry);
   return Number::fromDigits({out, static_cast<std::size_t>(last + 1)}, a.exponent + 1, a.negative);
 }
 
 bool smallerMagnitude(const NumberParts& a, const NumberParts& b) {
-  if (a.exponent != b.exponent) {
-    return a.exponent < b.exponent;
-  }
+  if (a.exponent != b.exponent) return a.exponent < b.exponent;
   const int order = std::memcmp(a.digit, b.digit, static_cast<std::size_t>(std::min(a.count, b.count)));
   return order != 0 ? order < 0 : a.count < b.count;
 }
 
 Number add(const NumberParts& a, const NumberParts& b) {
-  if (a.count == 0) {
+  if (a.count == 0)
     return Number::fromDigits({b.digit, static_cast<std::size_t>(b.count)}, b.exponent, b.negative);
-  }
-  if (b.count == 0) {
+  if (b.count == 0)
     return Number::fromDigits({a.digit, static_cast<std::size_t>(a.count)}, a.exponent, a.negative);
-  }
   const bool subtract = a.negative != b.negative;
   return smallerMagnitude(a, b) ? combine(b, a, subtract) : combine(a, b, subtract);
 }
 
-// Four base-100 digits to a limb: a magnitude as 0.L0L1L2.. in base 10^8.
+/// Four base-100 digits to a limb: a magnitude as 0.L0L1L2.. in base 10^8.
 constexpr std::uint64_t kBase = 100000000;
 constexpr int kLimbs = 5;
 
@@ -100,9 +94,7 @@ void unpack(std::uint64_t limb, std::uint8_t* out) {
 }
 
 Number multiply(const NumberParts& a, const NumberParts& b) {
-  if (a.count == 0 || b.count == 0) {
-    return Number();
-  }
+  if (a.count == 0 || b.count == 0) return Number();
   std::uint64_t x[kLimbs];
   std::uint64_t y[kLimbs];
   const int m = pack(a, x);
@@ -118,25 +110,21 @@ Number multiply(const NumberParts& a, const NumberParts& b) {
     columns[i] %= kBase;
   }
   std::uint8_t digits[8 * kLimbs];
-  for (int i = 0; i < m + n; ++i) {
-    unpack(columns[i], digits + static_cast<std::ptrdiff_t>(4) * i);
-  }
+  for (int i = 0; i < m + n; ++i) unpack(columns[i], digits + static_cast<std::ptrdiff_t>(4) * i);
   return Number::fromDigits({digits, static_cast<std::size_t>(4 * (m + n))}, a.exponent + b.exponent + 1,
                             a.negative != b.negative);
 }
 
-// The digits of a number that has few of them, as one whole number.
+/// The digits of a number that has few of them, as one whole number.
 constexpr int kShortDigits = 9;
 
 std::uint64_t shortDigits(const NumberParts& p) {
   std::uint64_t value = 0;
-  for (int i = 0; i < p.count; ++i) {
-    value = value * 100 + p.digit[i];
-  }
+  for (int i = 0; i < p.count; ++i) value = value * 100 + p.digit[i];
   return value;
 }
 
-// Of two whole numbers, times 100^shift: the quotient, then nine digits of the fraction at a time.
+/// Of two whole numbers, times 100^shift: the quotient, then nine digits of the fraction at a time.
 Number divideWhole(std::uint64_t a, std::uint64_t b, int shift, bool negative) {
   constexpr std::uint64_t kStep = 1000000000000000000;  // 100^9
   constexpr int kSignificant = 21;                      // one more than kept: it decides the rounding
@@ -172,7 +160,7 @@ Number divideWhole(std::uint64_t a, std::uint64_t b, int shift, bool negative) {
   return Number::fromDigits({digits, static_cast<std::size_t>(count)}, exponent, negative);
 }
 
-// Long division in base 10^8 (Knuth's algorithm D): 23 digits of the quotient at least.
+/// Long division in base 10^8 (Knuth's algorithm D): 23 digits of the quotient at least.
 Number divide(const NumberParts& a, const NumberParts& b) {
   constexpr int kFraction = 6;  // limbs of the quotient behind its point
   std::uint64_t x[kLimbs] = {};
@@ -205,9 +193,7 @@ Number divide(const NumberParts& a, const NumberParts& b) {
     if (n > 1) {
       while (true) {
         const std::uint64_t left = top - guess * divisor[0];
-        if (left >= kBase || guess * divisor[1] <= left * kBase + r[2]) {
-          break;
-        }
+        if (left >= kBase || guess * divisor[1] <= left * kBase + r[2]) break;
         --guess;
       }
     }
@@ -243,9 +229,7 @@ Number divide(const NumberParts& a, const NumberParts& b) {
 Number operator+(const Number& a, const Number& b) {
   if (a.form_ == 0 && b.form_ == 0) {
     std::int64_t sum = 0;
-    if (!__builtin_add_overflow(a.whole_, b.whole_, &sum)) {
-      return sum;
-    }
+    if (!__builtin_add_overflow(a.whole_, b.whole_, &sum)) return sum;
     return fromWide(static_cast<Wide>(a.whole_) + b.whole_);
   }
   return add(a.parts(), b.parts());
@@ -254,9 +238,7 @@ Number operator+(const Number& a, const Number& b) {
 Number operator-(const Number& a, const Number& b) {
   if (a.form_ == 0 && b.form_ == 0) {
     std::int64_t difference = 0;
-    if (!__builtin_sub_overflow(a.whole_, b.whole_, &difference)) {
-      return difference;
-    }
+    if (!__builtin_sub_overflow(a.whole_, b.whole_, &difference)) return difference;
     return fromWide(static_cast<Wide>(a.whole_) - b.whole_);
   }
   NumberParts negated = b.parts();
@@ -267,24 +249,17 @@ Number operator-(const Number& a, const Number& b) {
 Number operator*(const Number& a, const Number& b) {
   if (a.form_ == 0 && b.form_ == 0) {
     std::int64_t product = 0;
-    if (!__builtin_mul_overflow(a.whole_, b.whole_, &product)) {
-      return product;
-    }
+    if (!__builtin_mul_overflow(a.whole_, b.whole_, &product)) return product;
     return fromWide(static_cast<Wide>(a.whole_) * b.whole_);
   }
   return multiply(a.parts(), b.parts());
 }
 
 Number operator/(const Number& a, const Number& b) {
-  if (b.isZero()) {
-    raiseDivisionByZero();
-  }
-  if (a.isZero()) {
-    return a;
-  }
-  if (a.form_ == 0 && b.form_ == 0) {
+  if (b.isZero()) raiseDivisionByZero();
+  if (a.isZero()) return a;
+  if (a.form_ == 0 && b.form_ == 0)
     return divideWhole(magnitude(a.whole_), magnitude(b.whole_), 0, a.isNegative() != b.isNegative());
-  }
   const NumberParts x = a.parts();
   const NumberParts y = b.parts();
   if (x.count <= kShortDigits && y.count <= kShortDigits) {

@@ -7,29 +7,24 @@
 namespace oracle_sql {
 namespace {
 
-// Far more digits than NUMBER keeps, so that one rounding at the end is the only one that shows.
+/// Far more digits than NUMBER keeps, so that one rounding at the end is the only one that shows.
 using Real = boost::multiprecision::number<boost::multiprecision::cpp_dec_float<100>>;
 using Integer = boost::multiprecision::cpp_int;
 
 Real toReal(const Number& n) { return Real(n.toPlainText()); }
 
 Number fromReal(const Real& value) {
-  if (!boost::multiprecision::isfinite(value) || boost::multiprecision::abs(value) > Real("1e130")) {
+  if (!boost::multiprecision::isfinite(value) || boost::multiprecision::abs(value) > Real("1e130"))
     raiseNumericOverflow();
-  }
   const auto number = Number::parse(value.str(60, std::ios_base::scientific));
   return number ? *number : Number();
 }
 
-// n = result * 100^exponent
+/// n = result * 100^exponent
 Integer scaled(const NumberParts& p, int exponent) {
   Integer value = 0;
-  for (int i = 0; i < p.count; ++i) {
-    value = value * 100 + p.digit[i];
-  }
-  for (int i = p.exponent - p.count + 1; i > exponent; --i) {
-    value *= 100;
-  }
+  for (int i = 0; i < p.count; ++i) value = value * 100 + p.digit[i];
+  for (int i = p.exponent - p.count + 1; i > exponent; --i) value *= 100;
   return value;
 }
 
@@ -44,8 +39,8 @@ Number fromInteger(Integer value, int exponent, bool negative) {
   return Number::fromDigits({digits + at, count}, exponent + static_cast<int>(count) - 1, negative);
 }
 
-// What is left of |n| over |m|, both scaled to whole numbers. `nearest` counts back from the nearest
-// multiple.
+/// What is left of |n| over |m|, both scaled to whole numbers. `nearest` counts back from the nearest
+/// multiple.
 Number rest(const Number& n, const Number& m, bool nearest) {
   const NumberParts a = n.parts();
   const NumberParts b = m.parts();
@@ -65,23 +60,11 @@ Number rest(const Number& n, const Number& m, bool nearest) {
   return fromInteger(left, exponent, negative);
 }
 
-// Within 128 bits and a sign.
-Integer bitsOf(const Number& whole) {
-  static const Integer limit = Integer(1) << 127;
-  const Integer size = scaled(whole.parts(), 0);
-  if (size > limit || (size == limit && !whole.isNegative())) {
-    raiseArgumentOutOfRange(whole.toText());
-  }
-  return whole.isNegative() ? Integer(-size) : size;
-}
-
-// Beyond this power of e every result has left the range of NUMBER: no need to compute it.
+/// Beyond this power of e every result has left the range of NUMBER: no need to compute it.
 constexpr int kLargestExponential = 400;
 
 Number exponentialOf(const Real& x) {
-  if (x > kLargestExponential) {
-    raiseNumericOverflow();
-  }
+  if (x > kLargestExponential) raiseNumericOverflow();
   return x < -kLargestExponential ? Number() : fromReal(boost::multiprecision::exp(x));
 }
 
@@ -89,48 +72,17 @@ Number byLogarithm(const Number& base, const Number& exponent) {
   return exponentialOf(toReal(exponent) * boost::multiprecision::log(toReal(base)));
 }
 
-void requireWithinExponential(const Number& n) {
-  if (n.abs() > Number(kLargestExponential)) {
-    raiseNumericOverflow();
-  }
-}
-
-// The angle less whole turns, which the largest numbers need more digits for than they have.
-Real withinTurn(const Number& n) {
-  using Wide = boost::multiprecision::number<boost::multiprecision::cpp_dec_float<300>>;
-  static const Wide turn = 8 * boost::multiprecision::atan(Wide(1));
-  const Wide x(n.toPlainText());
-  return Real(x - turn * boost::multiprecision::trunc(x / turn));
-}
-
-void requireOneOrLess(const Number& n) {
-  if (compare(n.abs(), Number(1)) > 0) {
-    raiseArgumentOutOfRange(n.toText());
-  }
-}
-
 }  // namespace
 
 Number mod(const Number& n, const Number& m) {
-  if (m.isZero() || n.isZero()) {
-    return n;
-  }
-  if (n.isInt64() && m.isInt64()) {
-    return *m.toInt64() == -1 ? Number() : Number(*n.toInt64() % *m.toInt64());
-  }
+  if (m.isZero() || n.isZero()) return n;
+  if (n.isInt64() && m.isInt64()) return *m.toInt64() == -1 ? Number() : Number(*n.toInt64() % *m.toInt64());
   return rest(n, m, false);
 }
 
 Number remainder(const Number& n, const Number& m) {
-  if (m.isZero()) {
-    raiseDivisionByZero();
-  }
+  if (m.isZero()) raiseDivisionByZero();
   return n.isZero() ? n : rest(n, m, true);
-}
-
-Number bitAnd(const Number& a, const Number& b) {
-  const Integer common = bitsOf(a) & bitsOf(b);
-  return fromInteger(boost::multiprecision::abs(common), 0, common < 0);
 }
 
 std::string hexadecimal(const Number& whole) {
@@ -138,18 +90,12 @@ std::string hexadecimal(const Number& whole) {
 }
 
 Number power(const Number& base, const Number& exponent) {
-  if (exponent.isZero()) {
-    return Number(1);
-  }
+  if (exponent.isZero()) return Number(1);
   if (base.isZero()) {
-    if (exponent.isNegative()) {
-      raiseArgumentOutOfRange(base.toText());
-    }
+    if (exponent.isNegative()) raiseArgumentOutOfRange(base.toText());
     return base;
   }
-  if (base.isNegative() && !exponent.isInteger()) {
-    raiseArgumentOutOfRange(base.toText());
-  }
+  if (base.isNegative() && !exponent.isInteger()) raiseArgumentOutOfRange(base.toText());
   constexpr std::int64_t kBySquaring = 1000000000;
   if (!exponent.isInt64() || exponent.abs() > Number(kBySquaring)) {
     const bool odd = !mod(exponent, Number(2)).isZero();
@@ -161,79 +107,30 @@ Number power(const Number& base, const Number& exponent) {
   Real factor = toReal(base);
   Real result = 1;
   while (left != 0) {
-    if ((left & 1) != 0) {
-      result *= factor;
-    }
+    if ((left & 1) != 0) result *= factor;
     left >>= 1;
-    if (left != 0) {
-      factor *= factor;
-    }
+    if (left != 0) factor *= factor;
   }
-  if (!exponent.isNegative()) {
-    return fromReal(result);
-  }
+  if (!exponent.isNegative()) return fromReal(result);
   return boost::multiprecision::isfinite(result) ? fromReal(1 / result) : Number();
 }
 
 Number sqrt(const Number& n) {
-  if (n.isNegative()) {
-    raiseArgumentOutOfRange(n.toText());
-  }
+  if (n.isNegative()) raiseArgumentOutOfRange(n.toText());
   return n.isZero() ? n : fromReal(boost::multiprecision::sqrt(toReal(n)));
 }
 
 Number exp(const Number& n) { return exponentialOf(toReal(n)); }
 
 Number ln(const Number& n) {
-  if (n.sign() <= 0) {
-    raiseArgumentOutOfRange(n.toText());
-  }
+  if (n.sign() <= 0) raiseArgumentOutOfRange(n.toText());
   return fromReal(boost::multiprecision::log(toReal(n)));
 }
 
 Number log(const Number& base, const Number& n) {
   const bool badBase = base.sign() <= 0 || compare(base, Number(1)) == 0;
-  if (badBase || n.sign() <= 0) {
-    raiseArgumentOutOfRange((badBase ? base : n).toText());
-  }
+  if (badBase || n.sign() <= 0) raiseArgumentOutOfRange((badBase ? base : n).toText());
   return fromReal(boost::multiprecision::log(toReal(n)) / boost::multiprecision::log(toReal(base)));
-}
-
-Number trigonometric(Trigonometric function, const Number& n) {
-  namespace math = boost::multiprecision;
-  const Real x = toReal(n);
-  switch (function) {
-    case Trigonometric::Sin:
-      return fromReal(math::sin(withinTurn(n)));
-    case Trigonometric::Cos:
-      return fromReal(math::cos(withinTurn(n)));
-    case Trigonometric::Tan:
-      return fromReal(math::tan(withinTurn(n)));
-    case Trigonometric::Asin:
-      requireOneOrLess(n);
-      return fromReal(math::asin(x));
-    case Trigonometric::Acos:
-      requireOneOrLess(n);
-      return fromReal(math::acos(x));
-    case Trigonometric::Atan:
-      return fromReal(math::atan(x));
-    case Trigonometric::Sinh:
-      requireWithinExponential(n);
-      return fromReal(math::sinh(x));
-    case Trigonometric::Cosh:
-      requireWithinExponential(n);
-      return fromReal(math::cosh(x));
-    case Trigonometric::Tanh:
-      return n.abs() > Number(kLargestExponential) ? Number(n.sign()) : fromReal(math::tanh(x));
-  }
-  return Number();
-}
-
-Number atan2(const Number& y, const Number& x) {
-  if (y.isZero() && x.isZero()) {
-    raiseArgumentOutOfRange(x.toText());
-  }
-  return fromReal(boost::multiprecision::atan2(toReal(y), toReal(x)));
 }
 
 }  // namespace oracle_sql

@@ -11,7 +11,6 @@ namespace {
 
 using Form = NumberModel::Form;
 using Sign = NumberModel::Sign;
-using Currency = NumberModel::Currency;
 
 [[noreturn]] void refuse() { throw FunctionError(1481, "invalid number format model"); }
 
@@ -20,39 +19,27 @@ class Parser {
   explicit Parser(std::string_view text) : text_(text) {}
 
   NumberModel parse() {
-    if (take("FM")) {
-      model_.filled = false;
-    }
-    if (parseWhole()) {
-      return std::move(model_);
-    }
-    while (at_ < text_.size()) {
-      element();
-    }
-    if (model_.whole.empty() && model_.fraction.empty()) {
-      refuse();
-    }
+    if (take("FM")) model_.filled = false;
+    if (parseWhole()) return std::move(model_);
+    while (at_ < text_.size()) element();
+    if (model_.whole.empty() && model_.fraction.empty()) refuse();
     const auto has = [&](char mark) {
       return model_.point == mark || model_.whole.find(mark) != std::string::npos;
     };
-    if ((has('G') || has('D')) && (has(',') || has('.'))) {
-      refuse();
-    }
+    if ((has('G') || has('D')) && (has(',') || has('.'))) refuse();
     return std::move(model_);
   }
 
  private:
   bool take(std::string_view name) {
-    if (!startsWithAnyCase(text_.substr(at_), name)) {
-      return false;
-    }
+    if (!startsWithAnyCase(text_.substr(at_), name)) return false;
     at_ += name.size();
     return true;
   }
 
   bool atEnd() const { return at_ == text_.size(); }
 
-  // The models that are one element: Roman, hexadecimal, text.
+  /// The models that are one element: Roman, hexadecimal, text.
   bool parseWhole() {
     const std::size_t start = at_;
     model_.lower = at_ < text_.size() && isAsciiLetter(text_[at_]) && asciiLower(text_[at_]) == text_[at_];
@@ -62,14 +49,10 @@ class Parser {
     }
     if (take("TM")) {
       model_.form = take("E") ? Form::TextScientific : Form::Text;
-      if (model_.form == Form::Text) {
-        take("9");
-      }
+      if (model_.form == Form::Text) take("9");
       return finished();
     }
-    while (take("0")) {
-      model_.whole += '0';
-    }
+    while (take("0")) model_.whole += '0';
     if (!take("X")) {
       at_ = start;
       model_.whole.clear();
@@ -77,46 +60,35 @@ class Parser {
     }
     model_.form = Form::Hexadecimal;
     model_.whole += 'X';
-    while (take("X")) {
-      model_.whole += 'X';
-    }
+    while (take("X")) model_.whole += 'X';
     model_.lower = text_.find('x') != std::string_view::npos;
     return finished();
   }
 
   bool finished() const {
-    if (!atEnd()) {
-      refuse();
-    }
+    if (!atEnd()) refuse();
     return true;
   }
 
   void element() {
     const char c = asciiUpper(text_[at_]);
     const bool digit = c == '9' || c == '0';
-    if (ended_) {
-      refuse();
-    }
-    if (digit && model_.form == Form::Scientific) {
-      refuse();
-    }
+    if (ended_) refuse();
+    if (digit && model_.form == Form::Scientific) refuse();
     if (digit) {
       addDigit(c);
     } else if (c == ',' || c == 'G') {
-      if (model_.whole.empty() || model_.point != 0 || shifted_) {
-        refuse();
-      }
+      if (model_.whole.empty() || model_.point != 0 || shifted_) refuse();
       model_.whole += c;
     } else if (c == '.' || c == 'D') {
-      if (model_.point != 0 || shifted_) {
-        refuse();
-      }
+      if (model_.point != 0 || shifted_) refuse();
       model_.point = c;
     } else if (c == 'V') {
-      if (model_.point != 0 || shifted_) {
-        refuse();
-      }
+      if (model_.point != 0 || shifted_) refuse();
       shifted_ = true;
+    } else if (c == '$') {
+      if (model_.dollar) refuse();
+      model_.dollar = true;
     } else if (c == 'B') {
       model_.blankZero = true;
     } else {
@@ -138,9 +110,7 @@ class Parser {
   void mark(char c) {
     const bool first = model_.whole.empty() && model_.point == 0;
     if (take("EEEE")) {
-      if (first || model_.form != Form::Fixed || std::ranges::any_of(model_.whole, isGroup)) {
-        refuse();
-      }
+      if (first || model_.form != Form::Fixed || std::ranges::any_of(model_.whole, isGroup)) refuse();
       model_.form = Form::Scientific;
     } else if (take("MI")) {
       setSign(Sign::TrailingMinus);
@@ -151,30 +121,16 @@ class Parser {
     } else if (take("S")) {
       setSign(first ? Sign::Leading : Sign::Trailing);
       ended_ = !first;
-    } else if (c == '$' || c == 'L' || c == 'C' || c == 'U') {
-      ++at_;
-      setCurrency(c, first);
+    } else if (c == 'L' || c == 'C' || c == 'U') {
+      throw FunctionError(FunctionError::kUnsupported, std::string("the number format element ") + c);
     } else {
       refuse();
     }
   }
 
   void setSign(Sign sign) {
-    if (model_.sign != Sign::Default) {
-      refuse();
-    }
+    if (model_.sign != Sign::Default) refuse();
     model_.sign = sign;
-  }
-
-  void setCurrency(char c, bool first) {
-    if (model_.currency != Currency::None) {
-      refuse();
-    }
-    model_.currency = c == '$'   ? Currency::Dollar
-                      : c == 'L' ? Currency::Local
-                      : c == 'C' ? Currency::Iso
-                                 : Currency::Dual;
-    model_.currencyBehind = !first && c != '$';
   }
 
   std::string_view text_;

@@ -10,19 +10,14 @@ namespace {
 
 using Form = NumberModel::Form;
 using Sign = NumberModel::Sign;
-using Currency = NumberModel::Currency;
 
 Number parseHexadecimal(std::string_view text, const NumberModel& model) {
   Number value;
-  if (text.empty() || text.size() > model.whole.size()) {
-    raiseInvalidNumber();
-  }
+  if (text.empty() || text.size() > model.whole.size()) raiseInvalidNumber();
   for (const char c : text) {
     const char upper = asciiUpper(c);
     const bool letter = upper >= 'A' && upper <= 'F';
-    if (!letter && !isAsciiDigit(c)) {
-      raiseInvalidNumber();
-    }
+    if (!letter && !isAsciiDigit(c)) raiseInvalidNumber();
     value = value * Number(16) + Number(letter ? upper - 'A' + 10 : c - '0');
   }
   return value;
@@ -30,20 +25,15 @@ Number parseHexadecimal(std::string_view text, const NumberModel& model) {
 
 class Reader {
  public:
-  Reader(std::string_view text, const NumberModel& model, const NumberSymbols& symbols)
-      : rest_(text), model_(model), symbols_(symbols) {}
+  Reader(std::string_view text, const NumberModel& model) : rest_(text), model_(model) {}
 
   Number read() {
     const bool negative = readSigns();
-    readCurrency();
+    if (model_.dollar && !takeFront('$')) takeBack('$');
     readDigits();
-    if (!rest_.empty()) {
-      raiseInvalidNumber();
-    }
+    if (!rest_.empty()) raiseInvalidNumber();
     const auto value = Number::parse((negative ? "-" : "") + digits_);
-    if (!value) {
-      raiseInvalidNumber();
-    }
+    if (!value) raiseInvalidNumber();
     return model_.shift == 0 ? *value : *value / power(Number(10), Number(model_.shift));
   }
 
@@ -76,19 +66,13 @@ class Reader {
       }
       case Sign::TrailingMinus: {
         // The place of the sign must be there, unless FM leaves the blank out.
-        if (takeBack('-')) {
-          return true;
-        }
-        if (!takeBack(' ') && model_.filled) {
-          raiseInvalidNumber();
-        }
+        if (takeBack('-')) return true;
+        if (!takeBack(' ') && model_.filled) raiseInvalidNumber();
         return false;
       }
       case Sign::Brackets:
         if (takeFront('<')) {
-          if (!takeBack('>')) {
-            raiseInvalidNumber();
-          }
+          if (!takeBack('>')) raiseInvalidNumber();
           return true;
         }
         return false;
@@ -96,37 +80,19 @@ class Reader {
     return false;
   }
 
-  void readCurrency() {
-    if (model_.currency == Currency::None) {
-      return;
-    }
-    const std::string_view mark = model_.currency == Currency::Dollar  ? "$"
-                                  : model_.currency == Currency::Local ? symbols_.local
-                                  : model_.currency == Currency::Iso   ? symbols_.iso
-                                                                       : std::string_view(symbols_.dual);
-    if (rest_.starts_with(mark)) {
-      rest_.remove_prefix(mark.size());
-    } else if (rest_.ends_with(mark)) {
-      rest_.remove_suffix(mark.size());
-    }
-  }
-
   void readDigits() {
     const bool groups = std::ranges::any_of(model_.whole, isGroup);
-    const char group = model_.whole.find('G') != std::string::npos ? symbols_.group : ',';
-    const char pointMark = model_.point == 'D' ? symbols_.point : '.';
     std::size_t whole = 0;
     std::size_t fraction = 0;
     bool point = false;
     for (; !rest_.empty(); rest_.remove_prefix(1)) {
-      char c = rest_.front();
+      const char c = rest_.front();
       if (isAsciiDigit(c)) {
         whole += point ? 0 : 1;
         fraction += point ? 1 : 0;
-      } else if (c == pointMark && model_.point != 0 && !point) {
+      } else if (c == '.' && model_.point != 0 && !point) {
         point = true;
-        c = '.';
-      } else if (c == group && groups && !point) {
+      } else if (c == ',' && groups && !point) {
         continue;
       } else {
         break;
@@ -138,24 +104,19 @@ class Reader {
       rest_ = {};
     }
     const bool missing = model_.form == Form::Fixed && whole > 0 && whole < model_.forcedPlaces();
-    if (whole > model_.wholePlaces() || missing || fraction > model_.fraction.size()) {
-      raiseInvalidNumber();
-    }
+    if (whole > model_.wholePlaces() || missing || fraction > model_.fraction.size()) raiseInvalidNumber();
   }
 
   std::string_view rest_;
   const NumberModel& model_;
-  const NumberSymbols& symbols_;
   std::string digits_;
 };
 
 }  // namespace
 
-Number parseNumber(std::string_view text, std::string_view model, const NumberSymbols& symbols) {
+Number parseNumber(std::string_view text, std::string_view model) {
   const NumberModel& m = numberModel(model);
-  while (!text.empty() && text.front() == ' ') {
-    text.remove_prefix(1);
-  }
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
   if (m.sign == Sign::Brackets && !text.empty() && text.back() == ' ') {
     text.remove_suffix(1);  // as TO_CHAR leaves it behind a positive number
   }
@@ -170,13 +131,11 @@ Number parseNumber(std::string_view text, std::string_view model, const NumberSy
     case Form::Text:
     case Form::TextScientific: {
       const auto value = Number::parse(text);
-      if (!value) {
-        raiseInvalidNumber();
-      }
+      if (!value) raiseInvalidNumber();
       return *value;
     }
   }
-  return Reader(text, m, symbols).read();
+  return Reader(text, m).read();
 }
 
 }  // namespace oracle_sql

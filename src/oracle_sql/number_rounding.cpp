@@ -5,11 +5,9 @@
 namespace oracle_sql {
 namespace {
 
-// Keeps `kept` decimal digits, counted from the tens of the first base-100 digit.
+/// Keeps `kept` decimal digits, counted from the tens of the first base-100 digit.
 Number cut(const NumberParts& p, int kept, bool up) {
-  if (kept < 0) {
-    return Number();
-  }
+  if (kept < 0) return Number();
   std::uint8_t digits[21] = {};  // the first for a carry
   std::copy(p.digit, p.digit + p.count, digits + 1);
   const int whole = kept / 2;  // base-100 digits kept in full
@@ -20,9 +18,7 @@ Number cut(const NumberParts& p, int kept, bool up) {
     carry = up && next >= 50 ? 1 : 0;
   } else {
     int tens = next / 10 * 10;
-    if (up && next % 10 >= 5) {
-      tens += 10;
-    }
+    if (up && next % 10 >= 5) tens += 10;
     carry = tens / 100;
     digits[whole + 1] = static_cast<std::uint8_t>(tens % 100);
     count = whole + 1;
@@ -36,9 +32,7 @@ Number cut(const NumberParts& p, int kept, bool up) {
 }
 
 Number cutAt(const Number& number, int places, bool up) {
-  if (number.isInt64() && places >= 0) {
-    return number;
-  }
+  if (number.isInt64() && places >= 0) return number;
   const NumberParts p = number.parts();
   const int kept = 2 * (p.exponent + 1) + std::clamp(places, -300, 300);
   return kept >= 2 * p.count ? number : cut(p, kept, up);
@@ -51,16 +45,12 @@ Number Number::round(int places) const { return cutAt(*this, places, true); }
 Number Number::trunc(int places) const { return cutAt(*this, places, false); }
 
 Number Number::floor() const {
-  if (isInteger()) {
-    return *this;
-  }
+  if (isInteger()) return *this;
   return isNegative() ? trunc() - Number(1) : trunc();
 }
 
 Number Number::ceil() const {
-  if (isInteger()) {
-    return *this;
-  }
+  if (isInteger()) return *this;
   return isNegative() ? trunc() : trunc() + Number(1);
 }
 

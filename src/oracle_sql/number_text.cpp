@@ -14,16 +14,12 @@ bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool isBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 std::string_view withoutBlanks(std::string_view text) {
-  while (!text.empty() && isBlank(text.front())) {
-    text.remove_prefix(1);
-  }
-  while (!text.empty() && isBlank(text.back())) {
-    text.remove_suffix(1);
-  }
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
   return text;
 }
 
-// Gathers decimal digits into base-100 ones. More than 42 significant digits cannot move the rounding.
+/// Gathers decimal digits into base-100 ones. More than 42 significant digits cannot move the rounding.
 class DigitCollector {
  public:
   void add(int digit, bool fraction) {
@@ -32,20 +28,14 @@ class DigitCollector {
       return;
     }
     point_ += fraction ? 0 : 1;
-    if (count_ < kMax) {
-      decimals_[count_++] = static_cast<std::uint8_t>(digit);
-    }
+    if (count_ < kMax) decimals_[count_++] = static_cast<std::uint8_t>(digit);
   }
 
-  // The value is 0.d1d2d3.. * 10^(point + exponent).
+  /// The value is 0.d1d2d3.. * 10^(point + exponent).
   Number number(std::int64_t exponent, bool negative) const {
     const std::int64_t point = point_ + exponent;
-    if (count_ == 0 || point < -1000) {
-      return Number();
-    }
-    if (point > 1000) {
-      raiseNumericOverflow();
-    }
+    if (count_ == 0 || point < -1000) return Number();
+    if (point > 1000) raiseNumericOverflow();
     const bool odd = (point % 2) != 0;  // the first digit is the ones of its pair
     std::uint8_t digits[kMax / 2 + 1] = {};
     for (int i = 0; i < count_; ++i) {
@@ -63,7 +53,7 @@ class DigitCollector {
   std::int64_t point_ = 0;
 };
 
-// The significant decimal digits of a number: 0.d1d2.. * 10^point.
+/// The significant decimal digits of a number: 0.d1d2.. * 10^point.
 struct Decimals {
   char digit[kTextWidth];
   int count = 0;
@@ -75,16 +65,13 @@ Decimals decimalsOf(const NumberParts& p) {
   out.point = 2 * (p.exponent + 1);
   for (int i = 0; i < p.count; ++i) {
     const char tens = static_cast<char>('0' + p.digit[i] / 10);
-    if (i == 0 && tens == '0') {
+    if (i == 0 && tens == '0')
       --out.point;
-    } else {
+    else
       out.digit[out.count++] = tens;
-    }
     out.digit[out.count++] = static_cast<char>('0' + p.digit[i] % 10);
   }
-  while (out.count > 0 && out.digit[out.count - 1] == '0') {
-    --out.count;
-  }
+  while (out.count > 0 && out.digit[out.count - 1] == '0') --out.count;
   return out;
 }
 
@@ -112,17 +99,13 @@ std::string wholeText(std::int64_t value) {
   return {buffer, end};
 }
 
-// Rounds to at most `count` digits. Not by Number::round: the largest of all would overflow.
+/// Rounds to at most `count` digits. Not by Number::round: the largest of all would overflow.
 void shorten(Decimals& d, int count) {
-  if (d.count <= count) {
-    return;
-  }
+  if (d.count <= count) return;
   const bool up = d.digit[count] >= '5';
   d.count = count;
   if (up) {
-    while (d.count > 0 && d.digit[d.count - 1] == '9') {
-      --d.count;
-    }
+    while (d.count > 0 && d.digit[d.count - 1] == '9') --d.count;
     if (d.count == 0) {
       d.digit[d.count++] = '1';
       ++d.point;
@@ -130,12 +113,10 @@ void shorten(Decimals& d, int count) {
       ++d.digit[d.count - 1];
     }
   }
-  while (d.count > 0 && d.digit[d.count - 1] == '0') {
-    --d.count;
-  }
+  while (d.count > 0 && d.digit[d.count - 1] == '0') --d.count;
 }
 
-// Digits behind the point in a text of the whole width, as "1.2000..0E+40".
+/// Digits behind the point in a text of the whole width, as "1.2000..0E+40".
 int scientificPlaces(int exponent) { return kTextWidth - 4 - (exponent > -100 && exponent < 100 ? 2 : 3); }
 
 void appendScientific(std::string& text, Decimals d) {
@@ -176,27 +157,19 @@ std::optional<Number> Number::parse(std::string_view text) {
       break;
     }
   }
-  if (!any) {
-    return std::nullopt;
-  }
+  if (!any) return std::nullopt;
   std::int64_t exponent = 0;
   if (at < text.size()) {
-    if (text[at] != 'e' && text[at] != 'E') {
-      return std::nullopt;
-    }
+    if (text[at] != 'e' && text[at] != 'E') return std::nullopt;
     ++at;
     bool down = false;
     if (at < text.size() && (text[at] == '-' || text[at] == '+')) {
       down = text[at] == '-';
       ++at;
     }
-    if (at == text.size()) {
-      return std::nullopt;
-    }
+    if (at == text.size()) return std::nullopt;
     for (; at < text.size(); ++at) {
-      if (!isDigit(text[at])) {
-        return std::nullopt;
-      }
+      if (!isDigit(text[at])) return std::nullopt;
       exponent = std::min<std::int64_t>(exponent * 10 + (text[at] - '0'), 1000000);
     }
     exponent = down ? -exponent : exponent;
@@ -205,18 +178,14 @@ std::optional<Number> Number::parse(std::string_view text) {
 }
 
 std::string Number::toPlainText() const {
-  if (isInt64()) {
-    return wholeText(whole_);
-  }
+  if (isInt64()) return wholeText(whole_);
   std::string text(isNegative() ? "-" : "");
   appendPlain(text, decimalsOf(parts()), true);
   return text;
 }
 
 std::string Number::toText() const {
-  if (isInt64()) {
-    return wholeText(whole_);
-  }
+  if (isInt64()) return wholeText(whole_);
   std::string text(isNegative() ? "-" : "");
   Decimals d = decimalsOf(parts());
   if (d.point > kTextWidth) {

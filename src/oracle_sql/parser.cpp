@@ -66,8 +66,8 @@ Query* Parser::statement() {
   return q;
 }
 
-// True if a query starts at that token, which may be "(". Inside brackets it is one only if what follows the
-// closing one goes on as a query does: ((select 1 from dual) + 1) is a value.
+/// True if a query starts at that token, which may be "(". Inside brackets it is one only if what follows the
+/// closing one goes on as a query does: ((select 1 from dual) + 1) is a value.
 bool Parser::isQueryAt(std::size_t at) const {
   for (; tokens_[at].symbol == Symbol::LeftParen; ++at) {
     if (closing_[at] == 0) return false;
@@ -80,7 +80,7 @@ bool Parser::isQueryAt(std::size_t at) const {
   return tokens_[at].keyword == Keyword::Select || tokens_[at].keyword == Keyword::With;
 }
 
-// "(" has been taken.
+/// "(" has been taken.
 Query* Parser::bracketedQuery() {
   Query* q = query();
   expectRightParen();

@@ -160,7 +160,7 @@ FrameBound Parser::frameBound() {
   return bound;
 }
 
-// TRIM([LEADING|TRAILING|BOTH] [x] FROM y) and TRIM(y).
+/// TRIM([LEADING|TRAILING|BOTH] [x] FROM y) and TRIM(y).
 Expr* Parser::trim() {
   auto* c = node<Call>(now().place);
   c->name = "TRIM";
@@ -169,11 +169,10 @@ Expr* Parser::trim() {
       !is(Symbol::Dot, 1))
     c->option = nameOf(take());
   Expr* first = nullptr;
-  if (!is(Keyword::From)) {
+  if (!is(Keyword::From))
     first = value();
-  } else if (c->option.empty()) {
+  else if (c->option.empty())
     fail(936, "missing expression");
-  }
   if (accept(Keyword::From)) {
     c->args.push_back(value());
     if (c->option.empty()) c->option = "BOTH";
@@ -255,17 +254,8 @@ void Parser::castType(CastExpr& c) {
     }
     return;
   }
-  if (isAny({"FLOAT", "REAL"}) || (isWord("DOUBLE") && isWord("PRECISION", 1))) {
-    const bool plain = isWord("FLOAT");
-    c.binaryDigits = isWord("REAL") ? 63 : 126;
-    at_ += isWord("DOUBLE") ? 2 : 1;
-    c.target = TypeKind::Number;
-    if (plain && accept(Symbol::LeftParen)) {
-      c.binaryDigits = precision(126);
-      expectRightParen();
-    }
-    return;
-  }
+  if (isAny({"FLOAT", "REAL"}) || (isWord("DOUBLE") && isWord("PRECISION", 1)))
+    throw SqlError::unsupported("CAST to " + std::string(nameOf(now())), now().place);
   if (isAny({"VARCHAR2", "VARCHAR", "CHAR", "CHARACTER"})) {
     const bool fixed = isAny({"CHAR", "CHARACTER"});
     take();

@@ -10,7 +10,7 @@ Expr* Parser::condition() {
   return e;
 }
 
-// The token behind a value that should have been compared with something.
+/// The token behind a value that should have been compared with something.
 void Parser::requireCondition(const Expr& e) {
   if (!isCondition(e)) fail(920, "invalid relational operator");
 }
@@ -62,9 +62,8 @@ Expr* Parser::notTerm() {
   return node;
 }
 
-// The list of IN, ANY and ALL: values, or rows if the left side is one.
-template <class Node>
-void Parser::valueList(const Expr& left, Node& node) {
+/// The list of IN: values, or rows if the left side is one.
+void Parser::valueList(const Expr& left, InExpr& node) {
   const bool rows = left.kind == ExprKind::Row;
   do {
     Expr* item = additive(rows);
@@ -83,20 +82,8 @@ Expr* Parser::comparison(Expr* left, CompareOp op) {
   above(*node, left);
   if (left->kind == ExprKind::Row && op != CompareOp::Equal && op != CompareOp::NotEqual)
     fail(1796, "this operator cannot be used with lists", place);
-  const bool any = is(Keyword::Any) || is(Keyword::Some);
-  if ((any || is(Keyword::All)) && is(Symbol::LeftParen, 1)) {
-    node->quantifier = any ? Quantifier::Any : Quantifier::All;
-    take();
-    take();
-    if (isQueryAt(at_)) {
-      node->query = query();
-      heighten(*node, queryHeight_ + 1);
-    } else {
-      valueList(*left, *node);
-    }
-    expectRightParen();
-    return node;
-  }
+  if ((is(Keyword::Any) || is(Keyword::Some) || is(Keyword::All)) && is(Symbol::LeftParen, 1))
+    unsupported("a comparison with ANY, SOME or ALL");
   node->right = additive(left->kind == ExprKind::Row);
   if (left->kind == ExprKind::Row) {
     // (a, b) = ((1, 2)) comes as a row already; (a, b) = (select ..) as a subquery.

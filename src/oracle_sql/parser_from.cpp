@@ -15,14 +15,14 @@ bool Parser::joinStart(std::size_t ahead) const {
   if (is(Keyword::Inner, ahead) || is(Keyword::Cross, ahead)) return is(Keyword::Join, ahead + 1);
   if (is(Keyword::Left, ahead) || is(Keyword::Right, ahead) || is(Keyword::Full, ahead))
     return is(Keyword::Join, ahead + 1) || (is(Keyword::Outer, ahead + 1) && is(Keyword::Join, ahead + 2));
-  return is(Keyword::Natural, ahead) && joinStart(ahead + 1) && !is(Keyword::Natural, ahead + 1) &&
-         !is(Keyword::Cross, ahead + 1);
+  if (is(Keyword::Natural, ahead) && !is(Keyword::Natural, ahead + 1) && joinStart(ahead + 1))
+    throw SqlError::unsupported("NATURAL JOIN", now(ahead).place);
+  return false;
 }
 
-// Takes the words up to JOIN if they are there.
-bool Parser::joinOperator(JoinKind& kind, bool& natural) {
+/// Takes the words up to JOIN if they are there.
+bool Parser::joinOperator(JoinKind& kind) {
   if (!joinStart()) return false;
-  natural = accept(Keyword::Natural);
   kind = JoinKind::Inner;
   if (accept(Keyword::Cross))
     kind = JoinKind::Cross;
@@ -41,16 +41,14 @@ bool Parser::joinOperator(JoinKind& kind, bool& natural) {
 
 FromItem* Parser::joinsOf(FromItem* left) {
   JoinKind kind = JoinKind::Inner;
-  bool natural = false;
   Place place = now().place;
-  while (joinOperator(kind, natural)) {
+  while (joinOperator(kind)) {
     auto* join = tree_.make<JoinItem>();
     join->place = place;
     join->join = kind;
-    join->natural = natural;
     join->left = left;
     join->right = fromPrimary();
-    if (kind != JoinKind::Cross && !natural) {
+    if (kind != JoinKind::Cross) {
       // a JOIN b JOIN c ON .. ON ..: the inner pair first.
       if (joinStart()) {
         const Deeper deeper(*this);

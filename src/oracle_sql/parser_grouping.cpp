@@ -9,7 +9,7 @@ void Parser::groupBy(SelectBlock& b) {
   bool several = false;
   do {
     b.grouping.push_back(groupingTerm(b));
-    several = several || b.grouping.back()->kind != GroupingKind::Keys || b.grouping.back()->keys.empty();
+    several = several || b.grouping.back()->rollup || b.grouping.back()->keys.empty();
   } while (accept(Symbol::Comma));
   if (!several) b.grouping.clear();
   // All rows are one group, as GROUP BY NULL says it.
@@ -17,26 +17,20 @@ void Parser::groupBy(SelectBlock& b) {
 }
 
 GroupingTerm* Parser::groupingTerm(SelectBlock& b) {
+  if (is(Keyword::Cube) && is(Symbol::LeftParen, 1)) unsupported("CUBE");
+  if (is(Keyword::Grouping) && is(Keyword::Sets, 1)) unsupported("GROUPING SETS");
+  if (!is(Keyword::Rollup) || !is(Symbol::LeftParen, 1)) return groupingKeys(b);
   auto* term = tree_.make<GroupingTerm>();
-  term->place = now().place;
-  if ((is(Keyword::Rollup) || is(Keyword::Cube)) && is(Symbol::LeftParen, 1)) {
-    term->kind = take().keyword == Keyword::Rollup ? GroupingKind::Rollup : GroupingKind::Cube;
-  } else if (is(Keyword::Grouping) && is(Keyword::Sets, 1)) {
-    term->kind = GroupingKind::Sets;
-    at_ += 2;
-  } else {
-    return groupingKeys(b);
-  }
+  term->place = take().place;
+  term->rollup = true;
   expectLeftParen();
-  do {
-    const bool inner = term->kind == GroupingKind::Sets && (is(Keyword::Rollup) || is(Keyword::Cube));
-    term->terms.push_back(inner ? groupingTerm(b) : groupingKeys(b));
-  } while (accept(Symbol::Comma));
+  do term->terms.push_back(groupingKeys(b));
+  while (accept(Symbol::Comma));
   expectRightParen();
   return term;
 }
 
-// An expression, several in brackets, or none.
+/// An expression, several in brackets, or none.
 GroupingTerm* Parser::groupingKeys(SelectBlock& b) {
   auto* term = tree_.make<GroupingTerm>();
   term->place = now().place;

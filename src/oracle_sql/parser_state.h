@@ -42,7 +42,7 @@ class Parser {
   FromItem* joined();
   FromItem* joinsOf(FromItem* left);
   bool joinStart(std::size_t ahead = 0) const;
-  bool joinOperator(JoinKind& kind, bool& natural);
+  bool joinOperator(JoinKind& kind);
   FromItem* fromPrimary();
   FromItem* table();
   FromItem* pivot(FromItem* source);
@@ -56,8 +56,7 @@ class Parser {
   Expr* notTerm();
   Expr* predicate();
   Expr* comparison(Expr* left, CompareOp op);
-  template <class Node>
-  void valueList(const Expr& left, Node& node);
+  void valueList(const Expr& left, InExpr& node);
   Expr* additive(bool conditionAllowed);
   Expr* multiplicative(bool conditionAllowed);
   Expr* factor(bool conditionAllowed);
@@ -74,9 +73,6 @@ class Parser {
   Expr* trim();
   Expr* extract();
   Expr* cast();
-  Expr* interval();
-  IntervalField intervalField();
-  int intervalDigits(int otherwise);
   void castType(CastExpr& c);
   bool nullTreatment(Call& c);
   void keepClause(Call& c);

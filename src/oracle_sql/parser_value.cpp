@@ -5,7 +5,7 @@ namespace oracle_sql {
 
 Expr* Parser::value() { return additive(false); }
 
-// Left to right; || binds as + and - do.
+/// Left to right; || binds as + and - do.
 Expr* Parser::additive(bool conditionAllowed) {
   Expr* left = multiplicative(conditionAllowed);
   while (is(Symbol::Plus) || is(Symbol::Minus) || is(Symbol::Concat)) {
@@ -100,7 +100,7 @@ Expr* Parser::primary(bool conditionAllowed) {
   fail(936, "missing expression");
 }
 
-// Expressions that start with a keyword.
+/// Expressions that start with a keyword.
 Expr* Parser::keywordPrimary(bool& taken) {
   taken = true;
   const Place place = now().place;
@@ -136,16 +136,11 @@ Expr* Parser::keywordPrimary(bool& taken) {
       d->value = tree_.copy(stringValue(take()));
       return d;
     }
-    case Keyword::Timestamp: {
-      if (now(1).kind != TokenKind::String) break;
-      take();
-      auto* d = node<DateLiteral>(place);
-      d->timestamp = true;
-      d->value = tree_.copy(stringValue(take()));
-      return d;
-    }
+    case Keyword::Timestamp:
+      if (now(1).kind == TokenKind::String) unsupported("a TIMESTAMP");
+      break;
     case Keyword::Interval:
-      if (now(1).kind == TokenKind::String) return interval();
+      if (now(1).kind == TokenKind::String) unsupported("an INTERVAL");
       break;
     case Keyword::Cast:
       if (opens) return cast();
@@ -166,7 +161,7 @@ Expr* Parser::keywordPrimary(bool& taken) {
   return nullptr;
 }
 
-// A subquery, a value, and where a condition may stand a condition or a row.
+/// A subquery, a value, and where a condition may stand a condition or a row.
 Expr* Parser::bracketed(bool conditionAllowed) {
   const Place place = take().place;
   if (isQueryAt(at_)) {
@@ -187,6 +182,9 @@ Expr* Parser::bracketed(bool conditionAllowed) {
     e = row;
   }
   expectRightParen();
+  // (date - date) DAY TO SECOND
+  if ((isWord("DAY") || isWord("YEAR")) && (is(Keyword::To, 1) || is(Symbol::LeftParen, 1)))
+    unsupported("an INTERVAL");
   return e;
 }
 

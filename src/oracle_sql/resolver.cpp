@@ -19,7 +19,7 @@ const Query* anyQuery(const Expr& e) {
   return found;
 }
 
-// Whether the operands of an ORDER BY expression are constants and expressions of the select list.
+/// Whether the operands of an ORDER BY expression are constants and expressions of the select list.
 bool isOfSelected(const Expr& whole, const SelectBlock& b) {
   const auto isSelected = [&](const Expr& e) {
     const auto* c = as<ColumnRef>(&e);
@@ -83,7 +83,7 @@ void Resolver::withItems(Query& q, WithScope& own) {
   }
 }
 
-// The columns of the whole: names of the first branch, common types of all.
+/// The columns of the whole: names of the first branch, common types of all.
 void Resolver::combineTerms(Query& q) {
   for (const SetTerm& term : q.terms) {
     const List<OutputColumn>& columns = term.block ? term.block->columns : term.query->columns;
@@ -103,7 +103,7 @@ void Resolver::combineTerms(Query& q) {
   }
 }
 
-// A whole number written as ORDER BY item is the position of a column, from 1.
+/// A whole number written as ORDER BY item is the position of a column, from 1.
 int Resolver::position(const Expr& e, std::size_t columns) const {
   const auto* n = as<NumberLiteral>(&e);
   if (!n || n->text.find_first_not_of("0123456789") != std::string_view::npos) return -1;
@@ -212,8 +212,8 @@ void Resolver::star(SelectBlock& b, const Scope& scope, const SelectItem& item) 
   }
 }
 
-// The name that the server gives to a column: the text of an expression is taken without blanks and comments,
-// in upper case, even inside quotes.
+/// The name that the server gives to a column: the text of an expression is taken without blanks and
+/// comments, in upper case, even inside quotes.
 std::string_view Resolver::columnName(const SelectItem& item) {
   if (!item.alias.empty()) return item.alias;
   if (const auto* c = as<ColumnRef>(item.expr)) return c->name;

@@ -29,8 +29,8 @@ Type Resolver::scalarCall(Call& c, const Env& env) {
   const std::string shown = c.package.empty()
                                 ? "\"" + name + "\""
                                 : "\"" + std::string(c.package) + "\".\"" + std::string(c.name) + "\"";
-  c.function = findFunction(name);
-  if (!c.function || (!c.package.empty() && !catalogue_.hasPackageFunction(c.package, c.name))) {
+  c.function = c.package.empty() ? findFunction(name) : catalogue_.packageFunction(name);
+  if (!c.function) {
     if (c.package.empty() && isOracleFunction(c.name))
       throw SqlError::unsupported("function " + name, c.place);
     fail(904, shown + ": invalid identifier", c.place);
@@ -48,6 +48,9 @@ Type Resolver::scalarCall(Call& c, const Env& env) {
       fail(30076, "invalid extract field for extract source", c.place);
     return {TypeKind::Number, true};
   }
+  const bool converts = c.name == "TO_CHAR" || c.name == "TO_NUMBER" || c.name == "TO_DATE";
+  if (converts && c.args.size() == 3)
+    throw SqlError::unsupported("NLS parameters of " + name, c.args[2]->place);
   countArguments(c, c.function->minArguments, c.function->maxArguments);
   if (c.package.empty()) checkArguments(c);
   return c.function->resultType(types);
@@ -55,15 +58,13 @@ Type Resolver::scalarCall(Call& c, const Env& env) {
 
 namespace {
 
-// The functions that take nothing but numbers, and text that is one.
-constexpr std::string_view kOfNumbers[] = {"ABS",  "ACOS", "ASIN",  "ATAN",  "ATAN2",     "BITAND",
-                                           "CEIL", "COS",  "COSH",  "EXP",   "FLOOR",     "LN",
-                                           "LOG",  "MOD",  "NANVL", "POWER", "REMAINDER", "SIGN",
-                                           "SIN",  "SINH", "SQRT",  "TAN",   "TANH",      "BIN_TO_NUM"};
+/// The functions that take nothing but numbers, and text that is one.
+constexpr std::string_view kOfNumbers[] = {"ABS", "BITAND", "CEIL",  "EXP",       "FLOOR", "LN",
+                                           "LOG", "MOD",    "POWER", "REMAINDER", "SIGN",  "SQRT"};
 
 }  // namespace
 
-// ORA-00932 where the arguments do not go together, whatever their values are.
+/// ORA-00932 where the arguments do not go together, whatever their values are.
 void Resolver::checkArguments(const Call& c) const {
   const auto type = [&](std::size_t i) { return c.args[i]->type; };
   const auto go = [&](Type wanted, std::size_t i) { comparable(wanted, type(i), c.args[i]->place); };
@@ -144,7 +145,7 @@ Type Resolver::setFunction(Call& c, const SetFunction& f, const Env& env) {
 
 namespace {
 
-// Whether the rows that share the keys share the value, too.
+/// Whether the rows that share the keys share the value, too.
 bool followsFrom(const Expr& e, const ExprList& keys) {
   for (const Expr* key : keys)
     if (sameExpression(*key, e)) return true;
@@ -157,8 +158,8 @@ bool followsFrom(const Expr& e, const ExprList& keys) {
 
 }  // namespace
 
-// What must be one value for all rows of a group or partition: the separator of LISTAGG, the count of NTILE,
-// the share of a percentile.
+/// What must be one value for all rows of a group or partition: the separator of LISTAGG, the count of NTILE,
+/// the share of a percentile.
 void Resolver::checkConstancy(const Call& c, const Env& env) const {
   const Expr* fixed = nullptr;
   if (c.name == "NTILE" || c.name == "PERCENTILE_CONT" || c.name == "PERCENTILE_DISC") fixed = c.args[0];

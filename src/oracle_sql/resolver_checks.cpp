@@ -8,7 +8,7 @@ namespace oracle_sql {
 
 namespace {
 
-// The FROM items that a condition names with and without (+).
+/// The FROM items that a condition names with and without (+).
 struct Marks {
   std::vector<const FromItem*> marked;
   std::vector<const FromItem*> plain;

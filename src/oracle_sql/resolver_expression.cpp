@@ -8,7 +8,7 @@ namespace oracle_sql {
 
 namespace {
 
-// The longest text literal in a statement, in bytes.
+/// The longest text literal in a statement, in bytes.
 constexpr std::size_t kMaxTextLiteral = 4000;
 
 [[noreturn]] void inconsistent(Type expected, Type got, Place place) {
@@ -18,12 +18,12 @@ constexpr std::size_t kMaxTextLiteral = 4000;
                         place);
 }
 
-// Whole and certainly within 64 bits: up to 18 digits.
+/// Whole and certainly within 64 bits: up to 18 digits.
 bool isWhole(std::string_view number) {
   return number.find_first_not_of("0123456789") == std::string_view::npos && number.size() <= 18;
 }
 
-// ORA-01426 for 1E200.
+/// ORA-01426 for 1E200.
 void checkNumber(std::string_view text, Place place) {
   try {
     if (Number::parse(text)) return;
@@ -33,30 +33,9 @@ void checkNumber(std::string_view text, Place place) {
   throw SqlError::wrong(1722, "invalid number", place);
 }
 
-constexpr const char* kLonelyTimestamp = "a TIMESTAMP without a DATE beside it";
-
-bool isTimestamp(const Expr& e) {
-  const auto* literal = as<DateLiteral>(&e);
-  return literal && literal->timestamp;
-}
-
 }  // namespace
 
 Type Resolver::value(Expr& e, const Env& env) { return e.type = resolved(e, env); }
-
-// One side of a comparison, where a TIMESTAMP may stand: against a DATE it is one, to the second.
-Type Resolver::operand(Expr& e, const Env& env) {
-  if (!isTimestamp(e)) return value(e, env);
-  checkDate(static_cast<DateLiteral&>(e));
-  return e.type = {TypeKind::Date};
-}
-
-void Resolver::comparable(const Expr& left, const Expr& right, Place place) const {
-  for (const auto& [a, b] : {std::pair(&left, &right), std::pair(&right, &left)})
-    if (isTimestamp(*a) && b->type.kind != TypeKind::Date)
-      throw SqlError::unsupported(kLonelyTimestamp, a->place);
-  comparable(left.type, right.type, place);
-}
 
 void Resolver::comparable(Type left, Type right, Place place) const {
   if (comparisonOf(left, right) == Comparison::Invalid) inconsistent(left, right, place);
@@ -78,7 +57,6 @@ Type Resolver::resolved(Expr& e, const Env& env) {
       return {TypeKind::Char, false, static_cast<std::uint16_t>(bytes)};
     }
     case ExprKind::DateLiteral:
-      if (isTimestamp(e)) throw SqlError::unsupported(kLonelyTimestamp, e.place);
       checkDate(static_cast<DateLiteral&>(e));
       return {TypeKind::Date};
     case ExprKind::Column:
@@ -99,11 +77,8 @@ Type Resolver::resolved(Expr& e, const Env& env) {
       if (t.kind == TypeKind::Date || t.kind == TypeKind::Raw) inconsistent({TypeKind::Number}, t, e.place);
       return {TypeKind::Number, t.integral && (n.plus || n.operand->kind == ExprKind::Number)};
     }
-    case ExprKind::IntervalLiteral:
-      throw SqlError::unsupported("an INTERVAL without a DATE beside it", e.place);
     case ExprKind::Arithmetic: {
       auto& a = static_cast<Arithmetic&>(e);
-      if (intervalOf(a)) return dateAndInterval(a, env);
       const Type left = value(*a.left, env);
       return arithmeticType(a, left, value(*a.right, env));
     }
@@ -117,7 +92,7 @@ Type Resolver::resolved(Expr& e, const Env& env) {
       return call(static_cast<Call&>(e), env);
     case ExprKind::Cast: {
       auto& c = static_cast<CastExpr&>(e);
-      const Type from = c.target == TypeKind::Date ? operand(*c.operand, env) : value(*c.operand, env);
+      const Type from = value(*c.operand, env);
       const bool numbers = from.kind == TypeKind::Number || c.target == TypeKind::Number;
       if ((from.kind == TypeKind::Date && (numbers || c.target == TypeKind::Raw)) ||
           (c.target == TypeKind::Date && (numbers || from.kind == TypeKind::Raw)) ||
@@ -140,21 +115,6 @@ Type Resolver::resolved(Expr& e, const Env& env) {
       condition(e, env);
       return {TypeKind::Condition};
   }
-}
-
-// date + interval, interval + date, date - interval.
-Type Resolver::dateAndInterval(Arithmetic& a, const Env& env) {
-  IntervalLiteral& interval = *intervalOf(a);
-  Expr& date = a.left == &interval ? *a.right : *a.left;
-  if (value(date, env).kind != TypeKind::Date)
-    throw SqlError::unsupported("an INTERVAL without a DATE beside it", interval.place);
-  try {
-    interval.interval = intervalOfLiteral(interval.value, interval.fields);
-  } catch (const FunctionError& e) {
-    if (e.code() == FunctionError::kUnsupported) throw SqlError::unsupported(e.what(), interval.place);
-    fail(e.code(), e.what(), interval.place);
-  }
-  return {TypeKind::Date};
 }
 
 Type Resolver::arithmeticType(const Arithmetic& a, Type left, Type right) const {
@@ -208,21 +168,17 @@ void Resolver::condition(Expr& e, const Env& env) {
   switch (e.kind) {
     case ExprKind::Compare: {
       auto& c = static_cast<Compare&>(e);
-      c.query ? value(*c.left, env) : operand(*c.left, env);
-      if (c.right) {
-        const auto* row = as<RowExpr>(c.left);
-        if (auto* sub = as<SubqueryExpr>(c.right); row && sub) {
-          subqueryAgainst(*c.left, *sub->query, env, c.place);
-          return;
-        }
-        operand(*c.right, env);
-        if (row)
-          compareRows(*c.left, *c.right);
-        else
-          comparable(*c.left, *c.right, c.place);
+      value(*c.left, env);
+      const auto* row = as<RowExpr>(c.left);
+      if (auto* sub = as<SubqueryExpr>(c.right); row && sub) {
+        subqueryAgainst(*c.left, *sub->query, env, c.place);
+        return;
       }
-      listAgainst(*c.left, c.list, env);
-      if (c.query) subqueryAgainst(*c.left, *c.query, env, c.place);
+      value(*c.right, env);
+      if (row)
+        compareRows(*c.left, *c.right);
+      else
+        comparable(c.left->type, c.right->type, c.place);
       return;
     }
     case ExprKind::And:
@@ -239,16 +195,16 @@ void Resolver::condition(Expr& e, const Env& env) {
       return;
     case ExprKind::Between: {
       auto& b = static_cast<Between&>(e);
-      operand(*b.operand, env);
+      value(*b.operand, env);
       for (Expr* bound : {b.low, b.high}) {
-        operand(*bound, env);
-        comparable(*b.operand, *bound, bound->place);
+        value(*bound, env);
+        comparable(b.operand->type, bound->type, bound->place);
       }
       return;
     }
     case ExprKind::In: {
       auto& in = static_cast<InExpr&>(e);
-      in.query ? value(*in.operand, env) : operand(*in.operand, env);
+      value(*in.operand, env);
       listAgainst(*in.operand, in.list, env);
       if (in.query) subqueryAgainst(*in.operand, *in.query, env, in.place);
       return;
@@ -271,17 +227,17 @@ void Resolver::condition(Expr& e, const Env& env) {
   }
 }
 
-// The list of IN, ANY and ALL. Of rows there may be any number.
+/// The list of IN. Of rows there may be any number.
 void Resolver::listAgainst(const Expr& left, const ExprList& list, const Env& env) {
   const bool rows = left.kind == ExprKind::Row;
   if (!rows && list.size() > kMaxListValues)
     fail(1795, "maximum number of expressions in a list is 1000", list[kMaxListValues]->place);
   for (Expr* item : list) {
-    operand(*item, env);
+    value(*item, env);
     if (rows)
       compareRows(left, *item);
     else
-      comparable(left, *item, item->place);
+      comparable(left.type, item->type, item->place);
   }
 }
 
@@ -293,7 +249,7 @@ void Resolver::compareRows(const Expr& left, const Expr& right) const {
   for (std::size_t i = 0; i < a.size(); ++i) comparable(a[i]->type, b[i]->type, b[i]->place);
 }
 
-// IN, ANY and ALL with a query: as many columns as the other side has, each of a type that fits.
+/// IN with a query: as many columns as the other side has, each of a type that fits.
 void Resolver::subqueryAgainst(const Expr& operand, Query& q, const Env& env, Place place) {
   subquery(q, env);
   const auto* row = as<RowExpr>(&operand);
@@ -304,7 +260,7 @@ void Resolver::subqueryAgainst(const Expr& operand, Query& q, const Env& env, Pl
     comparable(row ? row->items[i]->type : operand.type, q.columns[i].type, place);
 }
 
-// A query inside an expression: no ORDER BY there.
+/// A query inside an expression: no ORDER BY there.
 void Resolver::subquery(Query& q, const Env& env) {
   if (!q.orderBy.empty()) fail(907, "missing right parenthesis", q.orderBy.front().place);
   query(q, env.scope, env.scope->with);
@@ -312,7 +268,7 @@ void Resolver::subquery(Query& q, const Env& env) {
 
 void Resolver::checkDate(const DateLiteral& d) const {
   try {
-    d.timestamp ? timestampOfLiteral(d.value) : dateOfLiteral(d.value);
+    dateOfLiteral(d.value);
   } catch (const FunctionError& e) {
     if (e.code() == FunctionError::kUnsupported) throw SqlError::unsupported(e.what(), d.place);
     fail(e.code(), e.what(), d.place);

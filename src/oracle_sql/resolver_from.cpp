@@ -1,9 +1,25 @@
 // FROM: what tables, inline views, joins and PIVOT offer.
-#include "oracle_sql/printer.h"
 #include "oracle_sql/resolver_state.h"
 #include "oracle_sql/walk.h"
 
 namespace oracle_sql {
+
+namespace {
+
+/// The name that a value of PIVOT gives to its column where it has no alias: the literal as it is written.
+std::string literalName(const Expr& e) {
+  if (e.kind == ExprKind::Null) return "NULL";
+  if (const auto* n = as<NumberLiteral>(&e)) return std::string(n->text);
+  if (const auto* n = as<Negate>(&e)) return (n->plus ? "+" : "-") + literalName(*n->operand);
+  const auto* d = as<DateLiteral>(&e);
+  const auto* s = as<StringLiteral>(&e);
+  if (!d && !s) throw SqlError::unsupported("a value of PIVOT that is no literal, without an alias", e.place);
+  std::string name = d ? "DATE '" : "'";
+  for (const char c : d ? d->value : s->value) name += c == '\'' ? "''" : std::string(1, c);
+  return name + "'";
+}
+
+}  // namespace
 
 void Resolver::from(FromItem& f, const Scope* outer, const WithScope* with, SelectBlock& b) {
   switch (f.kind) {
@@ -29,7 +45,7 @@ void Resolver::from(FromItem& f, const Scope* outer, const WithScope* with, Sele
   }
 }
 
-// As the columns of a view: a bare NULL is a VARCHAR2 there.
+/// As the columns of a view: a bare NULL is a VARCHAR2 there.
 void Resolver::expose(FromItem& f, const List<OutputColumn>& columns) {
   f.columns.reserve(columns.size());
   for (const OutputColumn& c : columns)
@@ -69,17 +85,6 @@ void Resolver::join(JoinItem& j, const Scope* outer, const WithScope* with, Sele
   from(*j.left, outer, with, b);
   from(*j.right, outer, with, b);
   for (const std::string_view name : j.usingNames) merge(j, name, j.place);
-  if (j.natural) {
-    std::vector<Found> left;
-    visible(*j.left, left);
-    for (const Found& f : left) {
-      OutputColumn room;
-      const std::string_view name = columnAt(f, room).name;
-      Found right;
-      search(*j.right, name, right);
-      if (right.matches > 0) merge(j, name, j.place);
-    }
-  }
   if (!j.on) return;
   const Scope scope{outer, with, &b, {j.left, j.right}, active_.size()};
   condition(*j.on, {.scope = &scope, .joins = true});
@@ -102,7 +107,7 @@ void Resolver::merge(JoinItem& j, std::string_view name, Place place) {
                       right.source, right.column});
 }
 
-// Every column that * stands for, in its order.
+/// Every column that * stands for, in its order.
 void Resolver::visible(const FromItem& f, std::vector<Found>& list) const {
   const auto* j = as<JoinItem>(&f);
   if (!j) {
@@ -150,7 +155,7 @@ void Resolver::pivot(PivotItem& p, const WithScope* with) {
       comparable(p.forColumns[i]->type, value(*v.values[i], {.scope = &nothing}), v.values[i]->place);
     std::string lead(v.alias);
     if (v.alias.empty())
-      for (const Expr* e : v.values) lead += (lead.empty() ? "" : "_") + print(*e);
+      for (const Expr* e : v.values) lead += (lead.empty() ? "" : "_") + literalName(*e);
     for (const PivotAggregate& a : p.aggregates) {
       const std::string name = a.alias.empty() ? lead : lead + "_" + std::string(a.alias);
       p.columns.push_back({tree_.copy(name), a.call->type, nullptr});

@@ -7,61 +7,40 @@ namespace oracle_sql {
 
 namespace {
 
-// CUBE of eight.
+/// Several ROLLUPs multiply.
 constexpr std::size_t kMaxGroupings = 256;
-// Expressions of one GROUP BY with several groupings: a bit each, and GROUPING_ID must fit a whole number.
+/// Expressions of one GROUP BY with several groupings: a bit each.
 constexpr std::size_t kMaxGroupingKeys = 60;
 
 using Sets = std::vector<GroupingSet>;
 
-void checkCount(std::size_t count, Place place) {
-  if (count > kMaxGroupings)
-    throw SqlError::unsupported("more than " + std::to_string(kMaxGroupings) + " groupings at once", place);
-}
-
-// The place in GROUP BY of the first expression that is the same; its size if there is none.
+/// The place in GROUP BY of the first expression that is the same; its size if there is none.
 std::size_t keyOf(const Expr& e, const SelectBlock& b) {
   std::size_t i = 0;
   while (i < b.groupBy.size() && !sameExpression(*b.groupBy[i], e)) ++i;
   return i;
 }
 
-// Each grouping of the one with each of the other.
+/// Each grouping of the one with each of the other.
 Sets crossed(const Sets& left, const Sets& right, Place place) {
-  checkCount(left.size() * right.size(), place);
+  if (left.size() * right.size() > kMaxGroupings)
+    throw SqlError::unsupported("more than " + std::to_string(kMaxGroupings) + " groupings at once", place);
   Sets sets;
   for (const GroupingSet a : left)
     for (const GroupingSet b : right) sets.push_back(a | b);
   return sets;
 }
 
+GroupingSet setOf(const ExprList& keys, const SelectBlock& b) {
+  GroupingSet set = 0;
+  for (const Expr* key : keys) set |= GroupingSet{1} << keyOf(*key, b);
+  return set;
+}
+
 Sets setsOf(const GroupingTerm& term, const SelectBlock& b) {
-  Sets sets;
-  switch (term.kind) {
-    case GroupingKind::Keys: {
-      GroupingSet set = 0;
-      for (const Expr* key : term.keys) set |= GroupingSet{1} << keyOf(*key, b);
-      return {set};
-    }
-    case GroupingKind::Rollup: {
-      sets.push_back(0);
-      for (const GroupingTerm* t : term.terms)
-        sets.insert(sets.begin(), sets.front() | setsOf(*t, b).front());
-      return sets;
-    }
-    case GroupingKind::Cube: {
-      sets.push_back(0);
-      for (const GroupingTerm* t : term.terms) sets = crossed(sets, {setsOf(*t, b).front(), 0}, term.place);
-      return sets;
-    }
-    case GroupingKind::Sets:
-      break;
-  }
-  for (const GroupingTerm* t : term.terms) {
-    const Sets more = setsOf(*t, b);
-    sets.insert(sets.end(), more.begin(), more.end());
-    checkCount(sets.size(), term.place);
-  }
+  if (!term.rollup) return {setOf(term.keys, b)};
+  Sets sets{0};
+  for (const GroupingTerm* t : term.terms) sets.insert(sets.begin(), sets.front() | setOf(t->keys, b));
   return sets;
 }
 
@@ -70,41 +49,34 @@ Sets setsOf(const GroupingTerm& term, const SelectBlock& b) {
 void Resolver::groupings(SelectBlock& b) const {
   if (b.grouping.empty()) return;
   if (b.groupBy.size() > kMaxGroupingKeys)
-    throw SqlError::unsupported(
-        "ROLLUP, CUBE or GROUPING SETS of more than " + std::to_string(kMaxGroupingKeys) + " expressions",
-        b.grouping.front()->place);
+    throw SqlError::unsupported("ROLLUP of more than " + std::to_string(kMaxGroupingKeys) + " expressions",
+                                b.grouping.front()->place);
   Sets sets{0};
   for (const GroupingTerm* term : b.grouping) sets = crossed(sets, setsOf(*term, b), term->place);
   b.groupingSets.assign(sets.begin(), sets.end());
 }
 
-bool Resolver::tellsOfGrouping(const Call& c) {
-  return c.package.empty() && (c.name == "GROUPING" || c.name == "GROUPING_ID" || c.name == "GROUP_ID");
-}
+bool Resolver::tellsOfGrouping(const Call& c) { return c.package.empty() && c.name == "GROUPING"; }
 
 Type Resolver::groupingFunction(Call& c, const Env& env) {
   if (c.over || c.keep || !c.withinGroup.empty() || c.nulls != NullTreatment::Default)
     fail(923, "FROM keyword not found where expected", c.place);
   if (c.star) fail(936, "missing expression", c.place);
   if (c.distinct) fail(30482, "DISTINCT option not allowed for this function", c.place);
-  const int most = static_cast<int>(kMaxGroupingKeys);
-  countArguments(c, c.name == "GROUP_ID" ? 0 : 1, c.name == "GROUP_ID" ? 0 : c.name == "GROUPING" ? 1 : most);
+  countArguments(c, 1, 1);
   if (!env.aggregates) fail(934, "group function is not allowed here", c.place);
   const SelectBlock* b = env.scope->block;
-  if (!b || b->grouping.empty())
-    throw SqlError::unsupported(std::string(c.name) + " without ROLLUP, CUBE or GROUPING SETS", c.place);
-  if (env.aggregateDepth > 0)
-    throw SqlError::unsupported(std::string(c.name) + " inside an aggregate", c.place);
+  if (!b || b->grouping.empty()) throw SqlError::unsupported("GROUPING without ROLLUP", c.place);
+  if (env.aggregateDepth > 0) throw SqlError::unsupported("GROUPING inside an aggregate", c.place);
   c.role = CallRole::Grouping;
   Env inside = env;
   inside.aggregates = inside.windows = false;
-  for (Expr*& arg : c.args) {
-    value(*arg, inside);
-    // In ORDER BY a name of the select list is what stands there.
-    if (const auto* name = as<ColumnRef>(arg); name && !name->source && name->output >= 0)
-      arg = b->columns[static_cast<std::size_t>(name->output)].expr;
-    if (keyOf(*arg, *b) == b->groupBy.size()) fail(979, "not a GROUP BY expression", arg->place);
-  }
+  Expr*& arg = c.args.front();
+  value(*arg, inside);
+  // In ORDER BY a name of the select list is what stands there.
+  if (const auto* name = as<ColumnRef>(arg); name && !name->source && name->output >= 0)
+    arg = b->columns[static_cast<std::size_t>(name->output)].expr;
+  if (keyOf(*arg, *b) == b->groupBy.size()) fail(979, "not a GROUP BY expression", arg->place);
   return {TypeKind::Number, true};
 }
 
@@ -117,9 +89,9 @@ void Resolver::checkGrouping(SelectBlock& b, const List<OrderItem>* orderBy) con
     if (item.output < 0) grouped(*item.expr, b, 0, nested);
 }
 
-// Every column of the block must stand in an aggregate or belong to an expression of GROUP BY; `overGroups`
-// in an aggregate over the groups, as in SUM(AVG(x)), and there stand as said. `level` counts the subqueries
-// between the expression and the block.
+/// Every column of the block must stand in an aggregate or belong to an expression of GROUP BY; `overGroups`
+/// in an aggregate over the groups, as in SUM(AVG(x)), and there stand as said. `level` counts the subqueries
+/// between the expression and the block.
 void Resolver::grouped(const Expr& e, const SelectBlock& b, int level, bool overGroups) const {
   if (!overGroups)
     for (const Expr* g : b.groupBy)

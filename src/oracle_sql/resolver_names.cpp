@@ -20,7 +20,7 @@ const OutputColumn& Resolver::columnAt(const Found& found, OutputColumn& room) {
   return found.source->columns[index];
 }
 
-// An unqualified name in a FROM item; a merged column hides those it is made of.
+/// An unqualified name in a FROM item; a merged column hides those it is made of.
 void Resolver::search(const FromItem& f, std::string_view name, Found& found) const {
   if (const auto* j = as<JoinItem>(&f)) {
     for (std::size_t i = 0; i < j->merged.size(); ++i) {
@@ -36,7 +36,7 @@ void Resolver::search(const FromItem& f, std::string_view name, Found& found) co
     if (f.columns[i].name == name) found = {&f, static_cast<int>(i), found.matches + 1};
 }
 
-// The FROM item that a qualifier means. `merged` is a join over it that merged the column.
+/// The FROM item that a qualifier means. `merged` is a join over it that merged the column.
 const FromItem* Resolver::leafNamed(const FromItem& f, const ColumnRef& c, int& leaves,
                                     const JoinItem*& merged) const {
   if (const auto* j = as<JoinItem>(&f)) {
@@ -81,8 +81,6 @@ void Resolver::column(ColumnRef& c, const Env& env) {
         const FromItem* leaf = leafNamed(*f, c, leaves, merged);
         if (leaf) search(*leaf, c.name, found);
       }
-      if (merged && merged->natural)
-        fail(25155, "column used in NATURAL join cannot have qualifier", c.place);
       if (merged) fail(25154, "column part of USING clause cannot have qualifier", c.place);
       if (leaves > 1) fail(918, "column ambiguously defined", c.place);
       // A name found here hides the same name further out, whatever columns it has.

@@ -18,32 +18,32 @@ class Resolver {
   void statement();
 
  private:
-  // The WITH items that a query sees.
+  /// The WITH items that a query sees.
   struct WithScope {
     const WithScope* outer;
     const List<WithItem*>* items;
-    std::size_t visible;  // those before this one
+    std::size_t visible;  ///< those before this one
   };
 
-  // The FROM items that the names of a block see, and the blocks around it.
+  /// The FROM items that the names of a block see, and the blocks around it.
   struct Scope {
     const Scope* outer = nullptr;
     const WithScope* with = nullptr;
-    SelectBlock* block = nullptr;  // null inside PIVOT
+    SelectBlock* block = nullptr;  ///< null inside PIVOT
     std::vector<FromItem*> items;
-    std::size_t queries = 0;  // active queries when the block began
+    std::size_t queries = 0;  ///< active queries when the block began
   };
 
-  // Where an expression stands.
+  /// Where an expression stands.
   struct Env {
     const Scope* scope;
-    bool aggregates = false;  // allowed
-    bool windows = false;     // allowed
-    int aggregateDepth = 0;   // calls of aggregates around
-    bool having = false;      // in HAVING
-    bool joins = false;       // in ON
-    bool outerMarks = false;  // (+) allowed
-    bool aliases = false;     // names of the select list are seen first
+    bool aggregates = false;  ///< allowed
+    bool windows = false;     ///< allowed
+    int aggregateDepth = 0;   ///< calls of aggregates around
+    bool having = false;      ///< in HAVING
+    bool joins = false;       ///< in ON
+    bool outerMarks = false;  ///< (+) allowed
+    bool aliases = false;     ///< names of the select list are seen first
   };
 
   struct Found {
@@ -88,15 +88,12 @@ class Resolver {
   Type resolved(Expr& e, const Env& env);
   Type caseType(CaseExpr& c, const Env& env);
   Type arithmeticType(const Arithmetic& a, Type left, Type right) const;
-  Type operand(Expr& e, const Env& env);
-  void comparable(const Expr& left, const Expr& right, Place place) const;
   void comparable(Type left, Type right, Place place) const;
   void listAgainst(const Expr& left, const ExprList& list, const Env& env);
   void compareRows(const Expr& left, const Expr& right) const;
   void subqueryAgainst(const Expr& operand, Query& q, const Env& env, Place place);
   void subquery(Query& q, const Env& env);
   void checkDate(const DateLiteral& d) const;
-  Type dateAndInterval(Arithmetic& a, const Env& env);
 
   // resolver_calls.cpp
   Type call(Call& c, const Env& env);
@@ -126,7 +123,7 @@ class Resolver {
   Tree& tree_;
   const Catalogue& catalogue_;
   const BindTypes& binds_;
-  std::vector<Query*> active_;  // from the statement inwards
+  std::vector<Query*> active_;  ///< from the statement inwards
 };
 
 }  // namespace oracle_sql

@@ -36,11 +36,6 @@ bool sameExpression(const Expr& a, const Expr& b, int level) {
       return as<NumberLiteral>(&a)->text == as<NumberLiteral>(&b)->text;
     case ExprKind::String:
       return as<StringLiteral>(&a)->value == as<StringLiteral>(&b)->value;
-    case ExprKind::IntervalLiteral: {
-      const auto& i = *as<IntervalLiteral>(&a);
-      const auto& j = *as<IntervalLiteral>(&b);
-      return i.interval.amount == j.interval.amount && i.interval.months == j.interval.months;
-    }
     case ExprKind::DateLiteral:
       return as<DateLiteral>(&a)->value == as<DateLiteral>(&b)->value;
     case ExprKind::Bind:
@@ -57,12 +52,9 @@ bool sameExpression(const Expr& a, const Expr& b, int level) {
     case ExprKind::Arithmetic:
       if (as<Arithmetic>(&a)->op != as<Arithmetic>(&b)->op) return false;
       break;
-    case ExprKind::Compare: {
-      const auto& c = *as<Compare>(&a);
-      const auto& d = *as<Compare>(&b);
-      if (c.op != d.op || c.quantifier != d.quantifier) return false;
+    case ExprKind::Compare:
+      if (as<Compare>(&a)->op != as<Compare>(&b)->op) return false;
       break;
-    }
     case ExprKind::Case: {
       const auto& c = *as<CaseExpr>(&a);
       const auto& d = *as<CaseExpr>(&b);
@@ -83,8 +75,7 @@ bool sameExpression(const Expr& a, const Expr& b, int level) {
     case ExprKind::Cast: {
       const auto& c = *as<CastExpr>(&a);
       const auto& d = *as<CastExpr>(&b);
-      if (c.target != d.target || c.precision != d.precision || c.scale != d.scale ||
-          c.integer != d.integer || c.binaryDigits != d.binaryDigits)
+      if (c.target != d.target || c.precision != d.precision || c.scale != d.scale || c.integer != d.integer)
         return false;
       break;
     }

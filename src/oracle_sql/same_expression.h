@@ -1,3 +1,4 @@
+// Whether two expressions compute the same.
 #pragma once
 
 #include "oracle_sql/node.h"

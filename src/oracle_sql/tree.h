@@ -67,7 +67,7 @@ struct DerivedItem : FromItem {
 
 enum class JoinKind : std::uint8_t { Inner, Left, Right, Full, Cross };
 
-/// A column merged by USING or NATURAL: the left one, the right one in a RIGHT join, the first that is not
+/// A column merged by USING: the left one, the right one in a RIGHT join, the first that is not
 /// null in a FULL join. Either side may itself be a merged column of a Join below.
 struct MergedColumn {
   std::string_view name;
@@ -82,10 +82,9 @@ struct JoinItem : FromItem {
   static constexpr FromKind kKind = FromKind::Join;
   explicit JoinItem(std::pmr::memory_resource* m) : FromItem(kKind, m), usingNames(m), merged(m) {}
   JoinKind join = JoinKind::Inner;
-  bool natural = false;
   FromItem* left = nullptr;
   FromItem* right = nullptr;
-  Expr* on = nullptr;  ///< null for CROSS, NATURAL and USING
+  Expr* on = nullptr;  ///< null for CROSS and USING
   List<std::string_view> usingNames;
 
   List<MergedColumn> merged;  ///< resolved
@@ -129,9 +128,8 @@ struct SelectBlock {
   List<SelectItem> items;
   List<FromItem*> from;
   Expr* where = nullptr;
-  ExprList groupBy;  ///< all expressions, also those in ROLLUP and its like
-  List<GroupingTerm*>
-      grouping;  ///< GROUP BY as written if it has ROLLUP, CUBE, GROUPING SETS or (); else empty
+  ExprList groupBy;              ///< all expressions, also those in ROLLUP and its like
+  List<GroupingTerm*> grouping;  ///< GROUP BY as written if it has ROLLUP or (); else empty
   Expr* having = nullptr;
 
   // Resolved.

@@ -12,12 +12,8 @@ namespace {
 int order(int difference) { return difference < 0 ? -1 : difference > 0 ? 1 : 0; }
 
 int hexDigit(char c) {
-  if (c >= '0' && c <= '9') {
-    return c - '0';
-  }
-  if (c >= 'A' && c <= 'F') {
-    return c - 'A' + 10;
-  }
+  if (c >= '0' && c <= '9') return c - '0';
+  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
   return c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
 }
 
@@ -33,11 +29,9 @@ std::string hexText(std::string_view bytes) {
   return text;
 }
 
-// The text of a value without a copy where it is text already; `room` holds the rest.
+/// The text of a value without a copy where it is text already; `room` holds the rest.
 std::string_view viewText(const Value& value, std::string& room) {
-  if (value.isText()) {
-    return value.bytes();
-  }
+  if (value.isText()) return value.bytes();
   room = toText(value);
   return room;
 }
@@ -53,24 +47,16 @@ Value Value::textView(std::string_view text) { return text.empty() ? Value() : V
 Value Value::rawView(std::string_view bytes) { return bytes.empty() ? Value() : Value(bytes, Kind::Raw); }
 
 std::string_view Value::bytes() const {
-  if (const auto* view = std::get_if<std::string_view>(&data_)) {
-    return *view;
-  }
+  if (const auto* view = std::get_if<std::string_view>(&data_)) return *view;
   const auto* owned = std::get_if<std::string>(&data_);
   return owned != nullptr ? std::string_view(*owned) : std::string_view();
 }
 
 Number toNumber(const Value& value) {
-  if (value.isNumber()) {
-    return value.number();
-  }
-  if (!value.isText()) {
-    raiseInconsistentTypes();
-  }
+  if (value.isNumber()) return value.number();
+  if (!value.isText()) raiseInconsistentTypes();
   const auto number = Number::parse(value.bytes());
-  if (!number) {
-    raiseInvalidNumber();
-  }
+  if (!number) raiseInvalidNumber();
   return *number;
 }
 
@@ -91,30 +77,20 @@ std::string toText(const Value& value) {
 }
 
 Date toDate(const Value& value, const Context& context) {
-  if (value.isDate()) {
-    return value.date();
-  }
-  if (!value.isText()) {
-    raiseInconsistentTypes();
-  }
+  if (value.isDate()) return value.date();
+  if (!value.isText()) raiseInconsistentTypes();
   return parseDate(value.bytes(), kDefaultDateModel, context);
 }
 
 std::string toRaw(const Value& value) {
-  if (value.isRaw()) {
-    return std::string(value.bytes());
-  }
-  if (!value.isText()) {
-    raiseInconsistentTypes();
-  }
+  if (value.isRaw()) return std::string(value.bytes());
+  if (!value.isText()) raiseInconsistentTypes();
   const std::string_view text = value.bytes();
   std::string bytes;
   int high = text.size() % 2 == 0 ? -1 : 0;  // an odd count: the first digit stands alone
   for (const char c : text) {
     const int digit = hexDigit(c);
-    if (digit < 0) {
-      throw FunctionError(1465, "invalid hex number");
-    }
+    if (digit < 0) throw FunctionError(1465, "invalid hex number");
     if (high < 0) {
       high = digit;
     } else {
@@ -130,9 +106,7 @@ int compareText(std::string_view a, std::string_view b) { return order(a.compare
 int compareBlankPadded(std::string_view a, std::string_view b) {
   const std::size_t common = std::min(a.size(), b.size());
   const int start = a.substr(0, common).compare(b.substr(0, common));
-  if (start != 0) {
-    return order(start);
-  }
+  if (start != 0) return order(start);
   const std::string_view rest = a.size() > common ? a.substr(common) : b.substr(common);
   for (const char c : rest) {
     if (c != ' ') {

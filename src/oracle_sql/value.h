@@ -1,3 +1,4 @@
+// A value of a row, and Oracle's conversions from one kind to another.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +12,7 @@
 
 namespace oracle_sql {
 
-// One value of a row. The empty text and the empty RAW are NULL. Text is UTF-8.
+/// One value of a row. The empty text and the empty RAW are NULL. Text is UTF-8.
 class Value {
  public:
   enum class Kind : std::uint8_t { Null, Number, Date, Text, Raw };
@@ -23,8 +24,8 @@ class Value {
   Value(Date date) : data_(date), kind_(Kind::Date) {}                        // NOLINT
   static Value text(std::string text);
   static Value raw(std::string bytes);
-  // The bytes stay the caller's and must outlive the value and what is computed from it: a function may
-  // return a piece of its argument.
+  /// The bytes stay the caller's and must outlive the value and what is computed from it: a function may
+  /// return a piece of its argument.
   static Value textView(std::string_view text);
   static Value rawView(std::string_view bytes);
 
@@ -35,9 +36,9 @@ class Value {
   bool isText() const { return kind_ == Kind::Text; }
   bool isRaw() const { return kind_ == Kind::Raw; }
 
-  const Number& number() const { return *std::get_if<Number>(&data_); }  // only of that kind
-  Date date() const { return *std::get_if<Date>(&data_); }               // only of that kind
-  std::string_view bytes() const;                                        // of Text or Raw
+  const Number& number() const { return *std::get_if<Number>(&data_); }  ///< only of that kind
+  Date date() const { return *std::get_if<Date>(&data_); }               ///< only of that kind
+  std::string_view bytes() const;                                        ///< of Text or Raw
 
  private:
   Value(std::variant<std::monostate, Number, Date, std::string_view, std::string> data, Kind kind)
@@ -47,21 +48,16 @@ class Value {
   Kind kind_ = Kind::Null;
 };
 
-// What an evaluation needs to know of its surroundings.
-struct Context {
-  Date now;  // SYSDATE of the running statement; also the century of RR and the month of a bare TO_DATE
-};
+/// Oracle's implicit conversions. NULL must be asked for before: these are for values that are there.
+Number toNumber(const Value& value);                      ///< ORA-01722; ORA-00932 for a DATE
+std::string toText(const Value& value);                   ///< a DATE as DD-MON-RR, RAW as hexadecimal digits
+Date toDate(const Value& value, const Context& context);  ///< text as DD-MON-RR; ORA-018xx
+std::string toRaw(const Value& value);                    ///< text as hexadecimal digits, ORA-01465
 
-// Oracle's implicit conversions. NULL must be asked for before: these are for values that are there.
-Number toNumber(const Value& value);                      // ORA-01722; ORA-00932 for a DATE
-std::string toText(const Value& value);                   // a DATE as DD-MON-RR, RAW as hexadecimal digits
-Date toDate(const Value& value, const Context& context);  // text as DD-MON-RR; ORA-018xx
-std::string toRaw(const Value& value);                    // text as hexadecimal digits, ORA-01465
-
-// -1, 0, 1 after bringing both sides to the type of the comparison, which is not Invalid; neither may be
-// NULL.
+/// -1, 0, 1 after bringing both sides to the type of the comparison, which is not Invalid; neither may be
+/// NULL.
 int compareAs(Comparison comparison, const Value& a, const Value& b, const Context& context);
-int compareText(std::string_view a, std::string_view b);         // by the bytes
-int compareBlankPadded(std::string_view a, std::string_view b);  // the shorter one filled up with blanks
+int compareText(std::string_view a, std::string_view b);         ///< by the bytes
+int compareBlankPadded(std::string_view a, std::string_view b);  ///< the shorter one filled up with blanks
 
 }  // namespace oracle_sql

@@ -1,7 +1,6 @@
 // Values: literals, columns, operators, CASE, CAST.
 #pragma once
 
-#include "oracle_sql/interval.h"
 #include "oracle_sql/node.h"
 
 namespace oracle_sql {
@@ -24,22 +23,11 @@ struct StringLiteral : Expr {
   std::string_view value;
 };
 
-/// DATE 'YYYY-MM-DD'; TIMESTAMP 'YYYY-MM-DD HH24:MI:SS', which only stands where it is compared with a DATE
-/// or cast to one. The value is checked by the resolver.
+/// DATE 'YYYY-MM-DD'. The value is checked by the resolver.
 struct DateLiteral : Expr {
   static constexpr ExprKind kKind = ExprKind::DateLiteral;
   DateLiteral() : Expr(kKind) {}
   std::string_view value;
-  bool timestamp = false;
-};
-
-/// INTERVAL '1 12:30' DAY TO MINUTE, which only stands beside a DATE.
-struct IntervalLiteral : Expr {
-  static constexpr ExprKind kKind = ExprKind::IntervalLiteral;
-  IntervalLiteral() : Expr(kKind) {}
-  std::string_view value;
-  IntervalFields fields;
-  Interval interval;  ///< resolved
 };
 
 /// A name with up to two qualifiers.
@@ -88,14 +76,6 @@ struct Arithmetic : Expr {
   Expr* right = nullptr;
 };
 
-/// The interval that is added to a date or taken from it, or null.
-inline IntervalLiteral* intervalOf(const Arithmetic& a) {
-  const bool adds = a.op == ArithmeticOp::Add;
-  if (adds || a.op == ArithmeticOp::Subtract)
-    if (a.right->kind == ExprKind::IntervalLiteral) return static_cast<IntervalLiteral*>(a.right);
-  return adds && a.left->kind == ExprKind::IntervalLiteral ? static_cast<IntervalLiteral*>(a.left) : nullptr;
-}
-
 /// a || b, two operands.
 struct Concat : Expr {
   static constexpr ExprKind kKind = ExprKind::Concat;
@@ -126,7 +106,6 @@ struct CastExpr : Expr {
   int precision = -1;    ///< of NUMBER: digits, -1 if not written; of text and RAW: length
   int scale = 0;         ///< of NUMBER(p, s)
   bool integer = false;  ///< written INTEGER, INT or SMALLINT: NUMBER(38)
-  int binaryDigits = 0;  ///< of FLOAT(b), REAL, DOUBLE PRECISION: 1 to 126; else 0
   bool inChars = false;  ///< of text: the length counts characters, not bytes
 };
 

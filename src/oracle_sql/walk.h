@@ -23,7 +23,6 @@ void forEachOperand(E& e, Visit&& visit) {
     case ExprKind::Number:
     case ExprKind::String:
     case ExprKind::DateLiteral:
-    case ExprKind::IntervalLiteral:
     case ExprKind::Column:
     case ExprKind::Rownum:
     case ExprKind::Bind:
@@ -70,13 +69,10 @@ void forEachOperand(E& e, Visit&& visit) {
     case ExprKind::Row:
       all(as<RowExpr>(&e)->items);
       break;
-    case ExprKind::Compare: {
-      auto& c = *as<Compare>(&e);
-      one(c.left);
-      one(c.right);
-      all(c.list);
+    case ExprKind::Compare:
+      one(as<Compare>(&e)->left);
+      one(as<Compare>(&e)->right);
       break;
-    }
     case ExprKind::And:
       all(as<AndExpr>(&e)->terms);
       break;
@@ -113,7 +109,7 @@ void forEachOperand(E& e, Visit&& visit) {
   }
 }
 
-/// The query inside an expression of kind Subquery, Exists, In or Compare, or null.
+/// The query inside an expression of kind Subquery, Exists or In, or null.
 inline Query* queryOf(const Expr& e) {
   switch (e.kind) {
     case ExprKind::Subquery:
@@ -122,8 +118,6 @@ inline Query* queryOf(const Expr& e) {
       return as<Exists>(&e)->query;
     case ExprKind::In:
       return as<InExpr>(&e)->query;
-    case ExprKind::Compare:
-      return as<Compare>(&e)->query;
     default:
       return nullptr;
   }

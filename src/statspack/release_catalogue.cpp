@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "statspack/package.h"
+
 namespace kestrelix::statspack {
 
 namespace {
@@ -47,8 +49,8 @@ const oracle_sql::CatalogueTable* ReleaseCatalogue::table(std::string_view schem
   return found == tables_.end() ? nullptr : &found->second;
 }
 
-bool ReleaseCatalogue::hasPackageFunction(std::string_view package, std::string_view name) const {
-  return hasUnitText_ && package == "STATSPACK" && name == "V1024";
+const oracle_sql::Function* ReleaseCatalogue::packageFunction(std::string_view name) const {
+  return hasUnitText_ ? statspack::packageFunction(name) : nullptr;
 }
 
 }  // namespace kestrelix::statspack

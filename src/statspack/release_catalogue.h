@@ -19,7 +19,7 @@ class ReleaseCatalogue : public oracle_sql::Catalogue {
 
   const oracle_sql::CatalogueTable* table(std::string_view schema, std::string_view name) const override;
   /// statspack.v1024 came with release 11; no other function of a package is known.
-  bool hasPackageFunction(std::string_view package, std::string_view name) const override;
+  const oracle_sql::Function* packageFunction(std::string_view name) const override;
 
  private:
   bool hasUnitText_;

@@ -14,11 +14,11 @@ using namespace oracle_sql;
 
 constexpr int kMostArguments = 6;
 constexpr std::size_t kLongestText = 60;
-const std::int64_t kFirstSecond = Date::fromFields({.year = -4712}).seconds;
+const std::int64_t kFirstSecond = Date::fromFields({.year = 1}).seconds;
 const std::int64_t kLastSecond =
     Date::fromFields({.year = 9999, .month = 12, .day = 31, .hour = 23, .minute = 59, .second = 59}).seconds;
-/// TRUNC and ROUND go beyond the calendar as the server's do: to the century, from 4800 BC to the year 10001.
-constexpr std::int64_t kRoundedBeyond = 89LL * 366 * 86400;
+/// TRUNC and ROUND go beyond the calendar as the server's do, to the year 10001.
+constexpr std::int64_t kRoundedBeyond = 2LL * 366 * 86400;
 
 [[noreturn]] void fault(std::string_view what, const Function& function) {
   std::cerr << function.name << ": " << what << "\n";

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "oracle_sql/parser.h"
-#include "oracle_sql/printer.h"
 #include "platform/embedded/lowering/lowering.h"
 #include "support/small_catalogue.h"
+#include "support/statement_text/printer.h"
 
 namespace {
 

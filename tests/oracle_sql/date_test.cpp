@@ -11,7 +11,7 @@ namespace {
 
 Date day(const char* text) { return d(text).date(); }
 
-std::string text(const Date& date) { return formatDate(date, "SYYYY-MM-DD HH24:MI:SS"); }
+std::string text(const Date& date) { return formatDate(date, "YYYY-MM-DD HH24:MI:SS"); }
 
 TEST(Date, aDayThatDoesNotExistIsRefusedByItsOwnError) {
   EXPECT_EQ(1839, errorOf([] { Date::fromFields({2023, 2, 29}); }));
@@ -19,7 +19,7 @@ TEST(Date, aDayThatDoesNotExistIsRefusedByItsOwnError) {
   EXPECT_EQ(1847, errorOf([] { Date::fromFields({2023, 1, 32}); }));
   EXPECT_EQ(1847, errorOf([] { Date::fromFields({2023, 1, 0}); }));
   EXPECT_EQ(1843, errorOf([] { Date::fromFields({2023, 13, 1}); }));
-  EXPECT_EQ(1841, errorOf([] { Date::fromFields({-4713, 12, 31}); }));
+  EXPECT_EQ(1841, errorOf([] { Date::fromFields({0, 12, 31}); }));
   EXPECT_EQ(1841, errorOf([] { Date::fromFields({10000, 1, 1}); }));
 }
 
@@ -42,7 +42,7 @@ TEST(Date, fieldsComeBackThroughEveryDayOfLeapYears) {
 // The ten days that the calendar left out in 1582.
 TEST(Date, theCalendarIsJulianBeforeOctober1582) {
   const Date last = Date::fromFields({1582, 10, 4});
-  EXPECT_EQ(" 1582-10-15 00:00:00", text(last + Number(1)));
+  EXPECT_EQ("1582-10-15 00:00:00", text(last + Number(1)));
   EXPECT_EQ(2299160, last.julianDay());
   EXPECT_EQ(2444190, day("1979-11-12").julianDay());
   EXPECT_EQ(29, daysInMonth(1500, 2));
@@ -50,31 +50,23 @@ TEST(Date, theCalendarIsJulianBeforeOctober1582) {
 
 // What seanstuber.com "Looking Through Holes in Time" shows of TO_DATE.
 TEST(Date, theTenDaysThatWereLeftOutAreTheNextOne) {
-  EXPECT_EQ(" 1582-10-15 12:34:56", text(Date::fromFields({1582, 10, 10, 12, 34, 56})));
-  EXPECT_EQ(" 1582-10-15 00:00:00", text(Date::fromFields({1582, 10, 5})));
-  EXPECT_EQ(" 1582-10-15 00:00:00", text(Date::fromFields({1582, 10, 14})));
-  EXPECT_EQ(" 1582-10-16 00:00:00", text(Date::fromFields({1582, 10, 16})));
+  EXPECT_EQ("1582-10-15 12:34:56", text(Date::fromFields({1582, 10, 10, 12, 34, 56})));
+  EXPECT_EQ("1582-10-15 00:00:00", text(Date::fromFields({1582, 10, 5})));
+  EXPECT_EQ("1582-10-15 00:00:00", text(Date::fromFields({1582, 10, 14})));
+  EXPECT_EQ("1582-10-16 00:00:00", text(Date::fromFields({1582, 10, 16})));
 }
 
-// The server's own answers in ixora.com.au "Julian days and year 0": 367 days, day 1721058 in year 0; day 1
-// and day 1721424 by stackoverflow.com 10437834.
-TEST(Date, theServerCountsALeapYearZero) {
-  EXPECT_EQ(" 0000-01-01 00:00:00", text(Date::fromFields({-1, 12, 31}) + Number(1)));
-  EXPECT_EQ(" 0000-12-31 00:00:00", text(Date::fromFields({1, 1, 1}) - Number(1)));
-  EXPECT_EQ("367", (Date::fromFields({1, 1, 1}) - Date::fromFields({-1, 12, 31})).toPlainText());
-  EXPECT_EQ("12.03225806451612903225806451612903225806",
-            monthsBetween(Date::fromFields({1, 1, 1}), Date::fromFields({-1, 12, 31})).toPlainText());
-  EXPECT_EQ(1721424, Date::fromFields({1, 1, 1}).julianDay());
-  EXPECT_EQ(1721058, Date::fromFields({0, 1, 1}).julianDay());
-  EXPECT_EQ(1, Date::fromFields({-4712, 1, 1}).julianDay());
+TEST(Date, yearsBeforeChristAreRefusedByName) {
+  const Date first = Date::fromFields({1, 1, 1});
+  EXPECT_EQ(1721424, first.julianDay());
+  EXPECT_TRUE(isRefused([] { Date::fromFields({-1, 12, 31}); }));
+  EXPECT_TRUE(isRefused([&] { (void)(first - Number(1)); }));
+  EXPECT_TRUE(isRefused([&] { addMonths(first, -2); }));
 }
 
-TEST(Date, fieldsComeBackThroughEveryDayBeforeChrist) {
-  const Date first = Date::fromFields({-4712, 1, 1});
-  const Date end = Date::fromFields({5, 1, 1});
-  for (Date at = first; at < end; at.seconds += 86400) {
+TEST(Date, fieldsComeBackThroughEveryDayOfTheFirstYears) {
+  for (Date at = Date::fromFields({1, 1, 1}); at.fields().year < 5; at.seconds += 86400)
     ASSERT_EQ(at.seconds, Date::fromFields(at.fields()).seconds) << text(at);
-  }
 }
 
 TEST(Date, weekdaysFollowTheCalendar) {
@@ -98,29 +90,28 @@ TEST(Date, differenceIsANumberOfDays) {
 }
 
 TEST(Date, sumIsRoundedToWholeSeconds) {
-  EXPECT_EQ(" 2020-01-01 00:00:01", text(day("2020-01-01") + Number(1) / Number(86400)));
-  EXPECT_EQ(" 2020-01-01 01:00:00", text(day("2020-01-01") + Number(1) / Number(24)));
-  EXPECT_EQ(" 2019-12-31 23:59:59", text(day("2020-01-01") - Number(1) / Number(86400)));
-  EXPECT_EQ(" 2020-01-01 00:00:01", text(day("2020-01-01") + Number(1) / Number(2) / Number(86400)));
-  EXPECT_EQ(" 2020-01-01 00:00:00", text(day("2020-01-01") + Number(49) / Number(100) / Number(86400)));
+  EXPECT_EQ("2020-01-01 00:00:01", text(day("2020-01-01") + Number(1) / Number(86400)));
+  EXPECT_EQ("2020-01-01 01:00:00", text(day("2020-01-01") + Number(1) / Number(24)));
+  EXPECT_EQ("2019-12-31 23:59:59", text(day("2020-01-01") - Number(1) / Number(86400)));
+  EXPECT_EQ("2020-01-01 00:00:01", text(day("2020-01-01") + Number(1) / Number(2) / Number(86400)));
+  EXPECT_EQ("2020-01-01 00:00:00", text(day("2020-01-01") + Number(49) / Number(100) / Number(86400)));
 }
 
 TEST(Date, sumOutsideTheYearsOfADateFails) {
   EXPECT_EQ(1841, errorOf([] { (void)(day("9999-12-31") + Number(1)); }));
-  EXPECT_EQ(1841, errorOf([] { (void)(day("2020-01-01") - Number(10000000)); }));
+  EXPECT_TRUE(isRefused([] { (void)(day("2020-01-01") - Number(10000000)); }));
   EXPECT_EQ(1841, errorOf([] { (void)(day("2020-01-01") + *Number::parse("1e100")); }));
   EXPECT_EQ(1841, errorOf([] { addMonths(day("9999-12-31"), 1); }));
   EXPECT_EQ(1841, errorOf([] { addMonths(day("2020-01-01"), 1000000000); }));
 }
 
 TEST(Date, addedMonthsStickToMonthEnds) {
-  EXPECT_EQ(" 2003-05-01 00:00:00", text(addMonths(day("2003-08-01"), -3)));
-  EXPECT_EQ(" 2008-03-28 00:00:00", text(addMonths(day("2008-02-28"), 1)));
-  EXPECT_EQ(" 2007-03-31 00:00:00", text(addMonths(day("2007-02-28"), 1)));
-  EXPECT_EQ(" 2014-09-30 00:00:00", text(addMonths(day("2014-03-31"), 6)));
-  EXPECT_EQ(" 2023-02-28 10:00:00", text(addMonths(day("2023-01-29 10:00:00"), 1)));
-  EXPECT_EQ(" 2022-12-15 00:00:00", text(addMonths(day("2023-01-15"), -1)));
-  EXPECT_EQ("-0001-12-01 00:00:00", text(addMonths(Date::fromFields({1, 1, 1}), -13)));
+  EXPECT_EQ("2003-05-01 00:00:00", text(addMonths(day("2003-08-01"), -3)));
+  EXPECT_EQ("2008-03-28 00:00:00", text(addMonths(day("2008-02-28"), 1)));
+  EXPECT_EQ("2007-03-31 00:00:00", text(addMonths(day("2007-02-28"), 1)));
+  EXPECT_EQ("2014-09-30 00:00:00", text(addMonths(day("2014-03-31"), 6)));
+  EXPECT_EQ("2023-02-28 10:00:00", text(addMonths(day("2023-01-29 10:00:00"), 1)));
+  EXPECT_EQ("2022-12-15 00:00:00", text(addMonths(day("2023-01-15"), -1)));
 }
 
 TEST(Date, monthsBetweenAreWholeForEqualDaysAndForMonthEnds) {
@@ -135,26 +126,26 @@ TEST(Date, monthsBetweenAreWholeForEqualDaysAndForMonthEnds) {
 }
 
 TEST(Date, nextDayIsNeverTheDayItself) {
-  EXPECT_EQ(" 2003-08-13 00:00:00", text(nextDay(day("2003-08-06"), "WEDNESDAY")));
-  EXPECT_EQ(" 2008-01-06 00:00:00", text(nextDay(day("2008-01-01"), "sun")));
-  EXPECT_EQ(" 2003-08-07 10:00:00", text(nextDay(day("2003-08-06 10:00:00"), "Thu")));
+  EXPECT_EQ("2003-08-13 00:00:00", text(nextDay(day("2003-08-06"), "WEDNESDAY")));
+  EXPECT_EQ("2008-01-06 00:00:00", text(nextDay(day("2008-01-01"), "sun")));
+  EXPECT_EQ("2003-08-07 10:00:00", text(nextDay(day("2003-08-06 10:00:00"), "Thu")));
   EXPECT_EQ(1846, errorOf([] { nextDay(day("2003-08-06"), "mittwoch"); }));
 }
 
 TEST(Date, lastDayKeepsTheTime) {
-  EXPECT_EQ(" 2003-02-28 10:21:32", text(lastDay(day("2003-02-03 10:21:32"))));
-  EXPECT_EQ(" 1900-02-28 00:00:00", text(lastDay(day("1900-02-01"))));
-  EXPECT_EQ(" 2000-02-29 00:00:00", text(lastDay(day("2000-02-01"))));
+  EXPECT_EQ("2003-02-28 10:21:32", text(lastDay(day("2003-02-03 10:21:32"))));
+  EXPECT_EQ("1900-02-28 00:00:00", text(lastDay(day("1900-02-01"))));
+  EXPECT_EQ("2000-02-29 00:00:00", text(lastDay(day("2000-02-01"))));
 }
 
 // 2003-08-22 was a Friday; August began on a Friday, the year on a Wednesday.
 TEST(Date, truncationGoesToTheBeginningOfTheUnit) {
   const std::pair<const char*, const char*> cases[] = {
-      {"CC", " 2001-01-01 00:00:00"},   {"YYYY", " 2003-01-01 00:00:00"}, {"year", " 2003-01-01 00:00:00"},
-      {"IYYY", " 2002-12-30 00:00:00"}, {"Q", " 2003-07-01 00:00:00"},    {"MM", " 2003-08-01 00:00:00"},
-      {"WW", " 2003-08-20 00:00:00"},   {"IW", " 2003-08-18 00:00:00"},   {"W", " 2003-08-22 00:00:00"},
-      {"DD", " 2003-08-22 00:00:00"},   {"DAY", " 2003-08-17 00:00:00"},  {"HH24", " 2003-08-22 15:00:00"},
-      {"MI", " 2003-08-22 15:47:00"}};
+      {"CC", "2001-01-01 00:00:00"},   {"YYYY", "2003-01-01 00:00:00"}, {"year", "2003-01-01 00:00:00"},
+      {"IYYY", "2002-12-30 00:00:00"}, {"Q", "2003-07-01 00:00:00"},    {"MM", "2003-08-01 00:00:00"},
+      {"WW", "2003-08-20 00:00:00"},   {"IW", "2003-08-18 00:00:00"},   {"W", "2003-08-22 00:00:00"},
+      {"DD", "2003-08-22 00:00:00"},   {"DAY", "2003-08-17 00:00:00"},  {"HH24", "2003-08-22 15:00:00"},
+      {"MI", "2003-08-22 15:47:00"}};
   for (const auto& [model, result] : cases) {
     EXPECT_EQ(result, text(truncDate(day("2003-08-22 15:47:11"), model))) << model;
   }
@@ -166,34 +157,18 @@ TEST(Date, truncationGoesToTheBeginningOfTheUnit) {
 
 TEST(Date, roundingTurnsWhereTheUnitDoes) {
   const auto rounded = [](const char* date, const char* model) { return text(roundDate(day(date), model)); };
-  EXPECT_EQ(" 2003-08-23 00:00:00", rounded("2003-08-22 12:00:00", "DD"));
-  EXPECT_EQ(" 2003-08-22 00:00:00", rounded("2003-08-22 11:59:59", "DD"));
-  EXPECT_EQ(" 2003-08-01 00:00:00", rounded("2003-08-15 23:59:59", "MM"));
-  EXPECT_EQ(" 2003-09-01 00:00:00", rounded("2003-08-16", "MM"));
-  EXPECT_EQ(" 2003-10-01 00:00:00", rounded("2003-08-22", "Q"));
-  EXPECT_EQ(" 2003-07-01 00:00:00", rounded("2003-08-15", "Q"));
-  EXPECT_EQ(" 2003-01-01 00:00:00", rounded("2003-06-30", "YYYY"));
-  EXPECT_EQ(" 2001-01-01 00:00:00", rounded("2000-10-27", "YEAR"));
-  EXPECT_EQ(" 2001-01-01 00:00:00", rounded("2050-12-31", "CC"));
-  EXPECT_EQ(" 2101-01-01 00:00:00", rounded("2051-01-01", "CC"));
-  EXPECT_EQ(" 2020-02-29 15:00:00", rounded("2020-02-29 14:30:00", "HH"));
-  EXPECT_EQ(" 2020-02-29 14:40:00", rounded("2020-02-29 14:40:29", "MI"));
-}
-
-TEST(Date, timestampLiteralsAreReadToTheSecond) {
-  EXPECT_EQ(" 2020-02-29 13:05:09", text(timestampOfLiteral("2020-02-29 13:05:09")));
-  EXPECT_EQ(" 2020-02-29 13:05:09", text(timestampOfLiteral("2020-2-29 13:5:9.000000")));
-  EXPECT_EQ("-0044-03-15 00:00:00", text(timestampOfLiteral("-0044-03-15 00:00:00")));
-  for (const char* other : {"2020-02-29", "2020-02-29 13", "2020-02-29 13:05", "2020-02-29T13:05:09", ""}) {
-    EXPECT_EQ(1861, errorOf([&] { timestampOfLiteral(other); })) << other;
-  }
-  EXPECT_EQ(1839, errorOf([] { timestampOfLiteral("2021-02-29 00:00:00"); }));
-  EXPECT_EQ(1850, errorOf([] { timestampOfLiteral("2020-02-29 24:00:00"); }));
-  EXPECT_EQ(1851, errorOf([] { timestampOfLiteral("2020-02-29 23:60:00"); }));
-  EXPECT_EQ(1852, errorOf([] { timestampOfLiteral("2020-02-29 23:59:60"); }));
-  // Not known: nothing that is compared here has parts of a second or a time zone.
-  EXPECT_EQ(FunctionError::kUnsupported, errorOf([] { timestampOfLiteral("2020-02-29 13:05:09.5"); }));
-  EXPECT_EQ(FunctionError::kUnsupported, errorOf([] { timestampOfLiteral("2020-02-29 13:05:09 +9:00"); }));
+  EXPECT_EQ("2003-08-23 00:00:00", rounded("2003-08-22 12:00:00", "DD"));
+  EXPECT_EQ("2003-08-22 00:00:00", rounded("2003-08-22 11:59:59", "DD"));
+  EXPECT_EQ("2003-08-01 00:00:00", rounded("2003-08-15 23:59:59", "MM"));
+  EXPECT_EQ("2003-09-01 00:00:00", rounded("2003-08-16", "MM"));
+  EXPECT_EQ("2003-10-01 00:00:00", rounded("2003-08-22", "Q"));
+  EXPECT_EQ("2003-07-01 00:00:00", rounded("2003-08-15", "Q"));
+  EXPECT_EQ("2003-01-01 00:00:00", rounded("2003-06-30", "YYYY"));
+  EXPECT_EQ("2001-01-01 00:00:00", rounded("2000-10-27", "YEAR"));
+  EXPECT_EQ("2001-01-01 00:00:00", rounded("2050-12-31", "CC"));
+  EXPECT_EQ("2101-01-01 00:00:00", rounded("2051-01-01", "CC"));
+  EXPECT_EQ("2020-02-29 15:00:00", rounded("2020-02-29 14:30:00", "HH"));
+  EXPECT_EQ("2020-02-29 14:40:00", rounded("2020-02-29 14:40:29", "MI"));
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace {
 std::string written(const char* date, const char* model) { return formatDate(d(date).date(), model); }
 
 std::string readAs(const char* text, const char* model) {
-  return formatDate(parseDate(text, model, {kNow}), "SYYYY-MM-DD HH24:MI:SS");
+  return formatDate(parseDate(text, model, {kNow}), "YYYY-MM-DD HH24:MI:SS");
 }
 
 int readError(const char* text, const char* model) {
@@ -30,13 +30,9 @@ TEST(DateFormat, everyElementOfAnAfternoon) {
   const std::pair<const char*, const char*> cases[] = {{"YYYY-MM-DD HH24:MI:SS", "2009-03-04 15:07:09"},
                                                        {"YYY YY Y", "009 09 9"},
                                                        {"Y,YYY", "2,009"},
-                                                       {"SYYYY", " 2009"},
                                                        {"RR RRRR", "09 2009"},
-                                                       {"CC SCC", "21  21"},
-                                                       {"YEAR", "TWO THOUSAND NINE"},
-                                                       {"Year", "Two Thousand Nine"},
+                                                       {"CC", "21"},
                                                        {"Q", "1"},
-                                                       {"RM", "III "},
                                                        {"MONTH", "MARCH    "},
                                                        {"Month", "March    "},
                                                        {"month", "march    "},
@@ -51,14 +47,25 @@ TEST(DateFormat, everyElementOfAnAfternoon) {
                                                        {"a.m. P.M. Am", "p.m. P.M. Pm"},
                                                        {"AD B.C. ad", "AD A.D. ad"},
                                                        {"SSSSS", "54429"},
-                                                       {"DL", "Wednesday, March 4, 2009"},
-                                                       {"DS", "3/4/2009"},
-                                                       {"TS", "3:07:09 PM"},
-                                                       {"SSXSS", "09.09"},
                                                        {"YYYY\"at\"MM", "2009at03"},
                                                        {"DD_MM|YY", "04_03|09"}};
   for (const auto& [model, text] : cases) {
     EXPECT_EQ(text, written("2009-03-04 15:07:09", model)) << model;
+  }
+}
+
+TEST(DateFormat, elementThatNobodyAsksForIsRefusedByItsName) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"YYYY YEAR", "YEAR"},  {"Ddspth", "DDSP"}, {"ddth", "DDTH"}, {"SYYYY", "SYYYY"}, {"scc", "SCC"},
+      {"FXDD-MM-YYYY", "FX"}, {"RM", "RM"},       {"DL", "DL"},     {"DS TS", "DS"},    {"SSXFF", "X"}};
+  for (const auto& [model, element] : cases) {
+    try {
+      written("2009-03-04", model);
+      FAIL() << model;
+    } catch (const FunctionError& error) {
+      EXPECT_EQ(FunctionError::kUnsupported, error.code()) << model;
+      EXPECT_EQ("the date format element " + std::string(element), error.what());
+    }
   }
 }
 
@@ -68,18 +75,6 @@ TEST(DateFormat, fillModeDropsPaddingUntilItIsToggledBack) {
   EXPECT_EQ("5/2/2011", written("2011-02-05", "fmDD/MM/YYYY"));
   EXPECT_EQ("5/02", written("2011-02-05", "FMDD/FMMM"));
   EXPECT_EQ("9:5:3", written("2011-02-05 09:05:03", "FMHH24:MI:SS"));
-}
-
-TEST(DateFormat, numbersCanBeSpelledAndOrdinal) {
-  EXPECT_EQ("05TH", written("2011-02-05", "DDTH"));
-  EXPECT_EQ("1st 2nd", written("2011-02-01", "fmddth") + " " + written("2011-02-02", "fmddth"));
-  EXPECT_EQ("11TH 22ND 23RD", written("2011-02-11", "DDTH") + " " + written("2011-02-22", "DDTH") + " " +
-                                  written("2011-02-23", "DDTH"));
-  EXPECT_EQ("TWENTY-FIVE", written("2011-02-25", "DDSP"));
-  EXPECT_EQ("Twenty-Fifth", written("2011-02-25", "DdSpTh"));
-  EXPECT_EQ("thirtieth", written("2011-01-30", "ddthsp"));
-  EXPECT_EQ("TWO THOUSAND ELEVEN", written("2011-01-30", "YYYYSP"));
-  EXPECT_EQ("NINETEEN EIGHTY-FOUR", written("1984-01-30", "YEAR"));
 }
 
 TEST(DateFormat, weeksAndTheirYearsAroundTheTurnOfTheYear) {
@@ -93,12 +88,6 @@ TEST(DateFormat, weeksAndTheirYearsAroundTheTurnOfTheYear) {
 TEST(DateFormat, midnightAndNoonAreTwelve) {
   EXPECT_EQ("12 AM 00", written("2020-01-01 00:05:00", "HH12 AM HH24"));
   EXPECT_EQ("12 PM 12", written("2020-01-01 12:05:00", "HH12 AM HH24"));
-}
-
-TEST(DateFormat, yearsBeforeChrist) {
-  const Date old = Date::fromFields({-44, 3, 15});
-  EXPECT_EQ("-0044 0044 BC B.C.", formatDate(old, "SYYYY YYYY AD B.C."));
-  EXPECT_EQ("-01", formatDate(old, "SCC"));
 }
 
 TEST(DateParse, textThatDoesNotFitFailsWithTheServersErrors) {
@@ -125,10 +114,9 @@ TEST(DateParse, textThatDoesNotFitFailsWithTheServersErrors) {
 // Oracle8 Error Messages, "The Date Function Messages".
 TEST(DateParse, modelsThatContradictThemselvesAreRefusedWhateverTheText) {
   const std::pair<const char*, int> cases[] = {
-      {"YYYY YYYY", 1810}, {"MI MI", 1810},   {"J DDD", 1811},    {"YYYY YY", 1812}, {"YYYY RR", 1812},
-      {"HH HH24", 1813},   {"AM P.M.", 1814}, {"AD B.C.", 1815},  {"MM MON", 1816},  {"RM MONTH", 1816},
-      {"D DY", 1817},      {"HH24 AM", 1818}, {"SYYYY AD", 1819}, {"WW", 1820},      {"YEAR", 1820},
-      {"Q", 1820},         {"IYYY", 1820},    {"CC", 1820},       {"DDSP", 1820}};
+      {"YYYY YYYY", 1810}, {"MI MI", 1810},   {"J DDD", 1811},   {"YYYY YY", 1812}, {"YYYY RR", 1812},
+      {"HH HH24", 1813},   {"AM P.M.", 1814}, {"AD B.C.", 1815}, {"MM MON", 1816},  {"D DY", 1817},
+      {"HH24 AM", 1818},   {"WW", 1820},      {"Q", 1820},       {"IYYY", 1820},    {"CC", 1820}};
   for (const auto& [model, code] : cases) {
     EXPECT_EQ(code, readError("1", model)) << model;
   }
@@ -136,109 +124,92 @@ TEST(DateParse, modelsThatContradictThemselvesAreRefusedWhateverTheText) {
 
 // The same page: what is told twice must agree. 2454954 is 2009-05-02, the 122nd day.
 TEST(DateParse, partsThatContradictEachOtherAreRefused) {
-  EXPECT_EQ(" 2009-05-02 00:00:00", readAs("2454954 2009 5 2", "J YYYY MM DD"));
+  EXPECT_EQ("2009-05-02 00:00:00", readAs("2454954 2009 5 2", "J YYYY MM DD"));
   EXPECT_EQ(1831, readError("2454954 2010", "J YYYY"));
   EXPECT_EQ(1833, readError("2454954 06", "J MM"));
   EXPECT_EQ(1834, readError("2454954 03", "J DD"));
   EXPECT_EQ(1833, readError("2009 122 06", "YYYY DDD MM"));
   EXPECT_EQ(1834, readError("2009 122 03", "YYYY DDD DD"));
-  EXPECT_EQ(" 2024-06-01 01:00:05", readAs("3605 1 0 5", "SSSSS HH24 MI SS"));
-  EXPECT_EQ(" 2024-06-01 13:00:00", readAs("46800 01 PM", "SSSSS HH PM"));
+  EXPECT_EQ("2024-06-01 01:00:05", readAs("3605 1 0 5", "SSSSS HH24 MI SS"));
+  EXPECT_EQ("2024-06-01 13:00:00", readAs("46800 01 PM", "SSSSS HH PM"));
   EXPECT_EQ(1836, readError("3600 02", "SSSSS HH24"));
   EXPECT_EQ(1837, readError("3600 01", "SSSSS MI"));
   EXPECT_EQ(1838, readError("3600 01", "SSSSS SS"));
 }
 
 // ixora.com.au "Julian days and year 0".
-TEST(DateParse, noDayOfTheYearZeroIsRead) {
-  EXPECT_EQ(1841, readError("1721058", "J"));
-  EXPECT_EQ(1841, readError("1721423", "J"));
-  EXPECT_EQ(" 0001-01-01 00:00:00", readAs("1721424", "J"));
-  EXPECT_EQ("-4712-01-01 00:00:00", readAs("1", "J"));
-  EXPECT_EQ(1841, readError("-4713", "SYYYY"));
+TEST(DateParse, noDayBeforeTheYearOneIsRead) {
+  EXPECT_TRUE(isRefused([] { readAs("1", "J"); }));
+  EXPECT_TRUE(isRefused([] { readAs("1721423", "J"); }));
+  EXPECT_TRUE(isRefused([] { readAs("44 BC", "YYYY BC"); }));
+  EXPECT_EQ("0001-01-01 00:00:00", readAs("1721424", "J"));
 }
 
 TEST(DateParse, everyElementIsRead) {
   const std::vector<std::array<const char*, 3>> cases = {
-      {"1979-11-12 08:12:34", "YYYY-MM-DD HH24:MI:SS", " 1979-11-12 08:12:34"},
-      {"12-NOV-79", "DD-MON-RR", " 1979-11-12 00:00:00"},
-      {"12 november 1979", "DD Month YYYY", " 1979-11-12 00:00:00"},
-      {"12-11-1979", "DD-RM-YYYY", ""},
-      {"12-XI-1979", "DD-RM-YYYY", " 1979-11-12 00:00:00"},
-      {"1979 316", "YYYY DDD", " 1979-11-12 00:00:00"},
-      {"2444190", "J", " 1979-11-12 00:00:00"},
-      {"12345", "SSSSS", " 2024-06-01 03:25:45"},
-      {"08:12 PM", "HH:MI AM", " 2024-06-01 20:12:00"},
-      {"12:30 a.m.", "HH:MI A.M.", " 2024-06-01 00:30:00"},
-      {"12:30 PM", "HH:MI PM", " 2024-06-01 12:30:00"},
-      {"Wed 2009-03-04", "DY YYYY-MM-DD", " 2009-03-04 00:00:00"},
-      {"-44-03-15", "SYYYY-MM-DD", "-0044-03-15 00:00:00"},
-      {"44 BC", "YYYY BC", "-0044-06-01 00:00:00"},
-      {"1,979", "Y,YYY", " 1979-06-01 00:00:00"},
-      {"3rd", "DDTH", " 2024-06-03 00:00:00"}};
+      {"1979-11-12 08:12:34", "YYYY-MM-DD HH24:MI:SS", "1979-11-12 08:12:34"},
+      {"12-NOV-79", "DD-MON-RR", "1979-11-12 00:00:00"},
+      {"12 november 1979", "DD Month YYYY", "1979-11-12 00:00:00"},
+      {"1979 316", "YYYY DDD", "1979-11-12 00:00:00"},
+      {"2444190", "J", "1979-11-12 00:00:00"},
+      {"12345", "SSSSS", "2024-06-01 03:25:45"},
+      {"08:12 PM", "HH:MI AM", "2024-06-01 20:12:00"},
+      {"12:30 a.m.", "HH:MI A.M.", "2024-06-01 00:30:00"},
+      {"12:30 PM", "HH:MI PM", "2024-06-01 12:30:00"},
+      {"Wed 2009-03-04", "DY YYYY-MM-DD", "2009-03-04 00:00:00"},
+      {"1,979", "Y,YYY", "1979-06-01 00:00:00"}};
   for (const auto& [text, model, result] : cases) {
-    if (*result == '\0') {
-      EXPECT_EQ(1843, readError(text, model)) << text;
-    } else {
-      EXPECT_EQ(result, readAs(text, model)) << text << " with " << model;
-    }
+    EXPECT_EQ(result, readAs(text, model)) << text << " with " << model;
   }
 }
 
 TEST(DateParse, whatIsMissingIsTheFirstDayOfTheMonthAtMidnight) {
-  EXPECT_EQ(" 2020-06-01 00:00:00", readAs("2020", "YYYY"));
-  EXPECT_EQ(" 2024-03-01 00:00:00", readAs("03", "MM"));
-  EXPECT_EQ(" 2020-03-04 05:00:00", readAs("2020-03-04 05", "YYYY-MM-DD HH24"));
-  EXPECT_EQ(" 2020-03-04 00:00:00", readAs("2020-03-04", "YYYY-MM-DD HH24:MI:SS"));
+  EXPECT_EQ("2020-06-01 00:00:00", readAs("2020", "YYYY"));
+  EXPECT_EQ("2024-03-01 00:00:00", readAs("03", "MM"));
+  EXPECT_EQ("2020-03-04 05:00:00", readAs("2020-03-04 05", "YYYY-MM-DD HH24"));
+  EXPECT_EQ("2020-03-04 00:00:00", readAs("2020-03-04", "YYYY-MM-DD HH24:MI:SS"));
 }
 
 TEST(DateParse, marksAndBlanksAreLoose) {
-  EXPECT_EQ(" 2020-03-04 00:00:00", readAs("2020/03.04", "YYYY-MM-DD"));
-  EXPECT_EQ(" 2020-03-04 00:00:00", readAs("20200304", "YYYY-MM-DD"));
-  EXPECT_EQ(" 2020-03-04 00:00:00", readAs("  2020-3-4 ", "YYYY-MM-DD"));
-  EXPECT_EQ(" 1998-01-02 00:00:00", readAs("980102", "RRMMDD"));
-  EXPECT_EQ(" 2020-03-01 00:00:00", readAs("2020-03", "YYYY MM"));
-  EXPECT_EQ(" 2020-03-01 00:00:00", readAs("2020T03", "YYYY\"t\"MM"));
-  EXPECT_EQ(1861, readError("2020/03", "FXYYYY-MM"));
-  EXPECT_EQ(1862, readError("2020-3", "FXYYYY-MM"));
-  EXPECT_EQ(" 2020-03-01 00:00:00", readAs("2020-03", "FXYYYY-MM"));
+  EXPECT_EQ("2020-03-04 00:00:00", readAs("2020/03.04", "YYYY-MM-DD"));
+  EXPECT_EQ("2020-03-04 00:00:00", readAs("20200304", "YYYY-MM-DD"));
+  EXPECT_EQ("2020-03-04 00:00:00", readAs("  2020-3-4 ", "YYYY-MM-DD"));
+  EXPECT_EQ("1998-01-02 00:00:00", readAs("980102", "RRMMDD"));
+  EXPECT_EQ("2020-03-01 00:00:00", readAs("2020-03", "YYYY MM"));
+  EXPECT_EQ("2020-03-01 00:00:00", readAs("2020T03", "YYYY\"t\"MM"));
 }
 
 // Oracle's "String-to-Date Conversion Rules": marks may be left out where every digit is written. A text of
 // another model, such as an ISO date for DD-MON-RR, fails by the mark that it lacks; techonthenet.com
 // ORA-01861 has the last.
 TEST(DateParse, marksMayBeLeftOutBeforeCompleteNumbersOnly) {
-  EXPECT_EQ(" 2015-09-23 23:20:00", readAs("20150923 23:20:00", "YYYY-MM-DD HH24:MI:SS"));
-  EXPECT_EQ(" 2015-09-24 23:30:00", readAs("20150924233000", "YYYY-MM-DD HH24:MI:SS"));
-  EXPECT_EQ(" 2016-08-10 00:00:00", readAs("10AUGUST2016", "DD-MM-RR"));
-  EXPECT_EQ(" 2016-08-10 00:00:00", readAs("10AUG2016", "DD-MONTH-RR"));
+  EXPECT_EQ("2015-09-23 23:20:00", readAs("20150923 23:20:00", "YYYY-MM-DD HH24:MI:SS"));
+  EXPECT_EQ("2015-09-24 23:30:00", readAs("20150924233000", "YYYY-MM-DD HH24:MI:SS"));
+  EXPECT_EQ("2016-08-10 00:00:00", readAs("10AUGUST2016", "DD-MM-RR"));
+  EXPECT_EQ("2016-08-10 00:00:00", readAs("10AUG2016", "DD-MONTH-RR"));
   EXPECT_EQ(1861, readError("202031", "YYYY-MM-DD"));
   EXPECT_EQ(1861, readError("2009-05-06", "DD-MON-RR"));
   EXPECT_EQ(1861, readError("20041308", "yyyy/mm/dd"));
 }
 
-// The same rules: names do for MM, full names for short ones and the other way round, but not under FX.
-TEST(DateParse, exactModelsTakeNoOtherForm) {
-  EXPECT_EQ(1858, readError("10-AUGUST-2016", "FXDD-MM-RRRR"));
-  EXPECT_EQ(1861, readError("10-AUGUST-2016", "FXDD-MON-YYYY"));
-  EXPECT_EQ(1843, readError("10-AUG-2016", "FXDD-fmMONTH-YYYY"));
-  EXPECT_EQ(" 2016-08-10 00:00:00", readAs("10-AUGUST-2016", "FXDD-fmMONTH-YYYY"));
-  EXPECT_EQ(" 2016-05-10 00:00:00", readAs("10-MAY-2016", "FXDD-MON-YYYY"));
+// The same rules: names do for MM, and full names for short ones.
+TEST(DateParse, namesDoForNumbersOfMonthsButNotTheOtherWayRound) {
+  EXPECT_EQ("2016-08-10 00:00:00", readAs("10-AUGUST-2016", "DD-MM-RRRR"));
   EXPECT_EQ(1843, readError("18-02-2016", "DD/MON/YYYY"));
 }
 
 // Now is 2024: two digits are of the half century around it.
 TEST(DateParse, shortYearsAreCompletedFromTheCurrentOne) {
-  EXPECT_EQ(" 1998-06-01 00:00:00", readAs("98", "RR"));
-  EXPECT_EQ(" 1950-06-01 00:00:00", readAs("50", "RR"));
-  EXPECT_EQ(" 2049-06-01 00:00:00", readAs("49", "RR"));
-  EXPECT_EQ(" 2017-06-01 00:00:00", readAs("17", "RRRR"));
-  EXPECT_EQ(" 2098-06-01 00:00:00", readAs("98", "YY"));
-  EXPECT_EQ(" 2027-06-01 00:00:00", readAs("7", "Y"));
-  EXPECT_EQ(" 1998-06-01 00:00:00", readAs("1998", "RR"));
-  EXPECT_EQ(" 1998-06-01 00:00:00", readAs("1998", "YY"));
+  EXPECT_EQ("1998-06-01 00:00:00", readAs("98", "RR"));
+  EXPECT_EQ("1950-06-01 00:00:00", readAs("50", "RR"));
+  EXPECT_EQ("2049-06-01 00:00:00", readAs("49", "RR"));
+  EXPECT_EQ("2017-06-01 00:00:00", readAs("17", "RRRR"));
+  EXPECT_EQ("2098-06-01 00:00:00", readAs("98", "YY"));
+  EXPECT_EQ("2027-06-01 00:00:00", readAs("7", "Y"));
+  EXPECT_EQ("1998-06-01 00:00:00", readAs("1998", "RR"));
+  EXPECT_EQ("1998-06-01 00:00:00", readAs("1998", "YY"));
   EXPECT_EQ(1830, readError("1998", "Y"));
-  EXPECT_EQ(" 1998-10-27 00:00:00", readAs("27-10-1998", "DD-MM-RR"));
+  EXPECT_EQ("1998-10-27 00:00:00", readAs("27-10-1998", "DD-MM-RR"));
 }
 
 }  // namespace

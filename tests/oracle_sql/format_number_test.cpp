@@ -120,11 +120,10 @@ TEST(NumberFormat, signsStandWhereTheModelSays) {
 }
 
 TEST(NumberFormat, currencyFloatsBeforeTheDigits) {
-  expectAll({{"12345.345", "$99,999,999.99", "     $12,345.35"},
-             {"-5", "$999", "  -$5"},
-             {"5", "FML999", "$5"},
-             {"5", "L9", "          $5"},
-             {"5", "FMC9", "USD5"}});
+  expectAll(
+      {{"12345.345", "$99,999,999.99", "     $12,345.35"}, {"-5", "$999", "  -$5"}, {"5", "FM$999", "$5"}});
+  for (const char* model : {"L999", "9C", "FMU9"})
+    EXPECT_TRUE(isRefused([&] { formatNumber(Number(5), model); })) << model;
 }
 
 TEST(NumberFormat, blankForNoughtLeavesOnlyANoughtOut) {
@@ -133,13 +132,6 @@ TEST(NumberFormat, blankForNoughtLeavesOnlyANoughtOut) {
              {"0.7", "B99,999,999.00", "           .70"},
              {"42", "B999", "  42"},
              {"0", "FMB999", ""}});
-}
-
-TEST(NumberFormat, symbolsOfASettingStandForDGAndL) {
-  const NumberSymbols symbols{',', '.', "AusDollars", "USD", "$"};
-  EXPECT_EQ("AusDollars10.000,00-", formatNumber(Number(-10000), "L99G999D99MI", symbols));
-  EXPECT_EQ(" 1,234.50", formatNumber(*Number::parse("1234.5"), "9,999.99", symbols));
-  EXPECT_EQ("1234.5", parseNumber("1.234,5", "9G999D9", symbols).toPlainText());
 }
 
 TEST(NumberFormat, scientificKeepsRoomForThreeDigitsOfExponent) {
@@ -184,15 +176,6 @@ TEST(NumberFormat, textMinimumIsTheNumberAsItStands) {
              {"0.05", "TME", "5E-02"}});
   EXPECT_EQ("1" + std::string(50, '0'), formatNumber(*Number::parse("1e50"), "TM9"));
   EXPECT_EQ("1E+70", formatNumber(*Number::parse("1e70"), "TM9"));
-}
-
-// Scripts force the point of JSON in a session with a comma by NLS_NUMERIC_CHARACTERS behind the model TM9.
-TEST(NumberFormat, textMinimumTakesThePointOfTheSetting) {
-  NumberSymbols symbols;
-  symbols.point = ',';
-  EXPECT_EQ("1,5", formatNumber(*Number::parse("1.5"), "TM9", symbols));
-  EXPECT_EQ("-,5", formatNumber(*Number::parse("-.5"), "TM", symbols));
-  EXPECT_EQ("1,2345E+03", formatNumber(*Number::parse("1234.5"), "TME", symbols));
 }
 
 TEST(NumberFormat, shiftMultipliesByAPowerOfTen) {

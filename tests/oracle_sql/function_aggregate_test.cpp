@@ -10,14 +10,12 @@
 namespace oracle_sql {
 namespace {
 
-TEST(Sum, nothingAndOnlyNullsAreNull) {
+Number number(const char* text) { return *Number::parse(text); }
+
+TEST(Sum, ofNothingIsNull) {
   SumAccumulator sum;
   EXPECT_EQ("NULL", shown(sum.sum()));
   EXPECT_EQ("NULL", shown(sum.average()));
-  sum.step(Value());
-  EXPECT_EQ("NULL", shown(sum.sum()));
-  EXPECT_EQ(0, sum.count());
-  EXPECT_EQ(1722, errorOf([&] { sum.step(s("x")); }));
 }
 
 TEST(Sum, zeroedMemoryIsAnEmptySum) {
@@ -25,13 +23,13 @@ TEST(Sum, zeroedMemoryIsAnEmptySum) {
   std::memset(memory, 0, sizeof memory);
   auto* const sum = reinterpret_cast<SumAccumulator*>(memory);
   EXPECT_EQ("NULL", shown(sum->sum()));
-  sum->step(n("2.5"));
+  sum->step(number("2.5"));
   EXPECT_EQ("2.5", shown(sum->sum()));
 }
 
 TEST(Sum, leaves64BitsAndComesBackExactly) {
   SumAccumulator sum;
-  const Value most = n("9223372036854775807");
+  const Number most = number("9223372036854775807");
   for (int i = 0; i < 3; ++i) {
     sum.step(most);
   }
@@ -39,9 +37,8 @@ TEST(Sum, leaves64BitsAndComesBackExactly) {
   sum.inverse(most);
   sum.inverse(most);
   EXPECT_EQ("9223372036854775807", shown(sum.sum()));
-  EXPECT_EQ(1, sum.count());
-  sum.step(n("-9223372036854775808"));
-  sum.inverse(n("-9223372036854775808"));
+  sum.step(number("-9223372036854775808"));
+  sum.inverse(number("-9223372036854775808"));
   EXPECT_EQ("9223372036854775807", shown(sum.sum()));
 }
 
@@ -58,11 +55,11 @@ TEST(Sum, isRoundedRowByRow) {
 TEST(Sum, fractionsAreDecimal) {
   SumAccumulator sum;
   for (const char* x : {"0.1", "0.2", "0.3"}) {
-    sum.step(n(x));
+    sum.step(number(x));
   }
   EXPECT_EQ(".6", shown(sum.sum()));
   EXPECT_EQ(".2", shown(sum.average()));
-  sum.step(s("0.4"));
+  sum.step(number("0.4"));
   EXPECT_EQ("1", shown(sum.sum()));
 }
 
@@ -70,20 +67,17 @@ TEST(Sum, fractionsAreDecimal) {
 TEST(Variance, isThatOfASample) {
   VarianceAccumulator variance;
   EXPECT_EQ("NULL", shown(variance.variance()));
-  variance.step(n("2"));
+  variance.step(number("2"));
   EXPECT_EQ("0", shown(variance.variance()));
   EXPECT_EQ("0", shown(variance.standardDeviation()));
-  EXPECT_EQ("NULL", shown(variance.sampleVariance()));
   for (const char* x : {"4", "4", "4", "5", "5", "7", "9"}) {
-    variance.step(n(x));
+    variance.step(number(x));
   }
-  variance.step(Value());
-  EXPECT_EQ("4", shown(variance.populationVariance()));
   EXPECT_EQ("4.571", shown(variance.variance().number().round(3)));
   EXPECT_EQ("2.138", shown(variance.standardDeviation().number().round(3)));
-  variance.step(n("1000"));
-  variance.inverse(n("1000"));
-  EXPECT_EQ("4", shown(variance.populationVariance()));
+  variance.step(number("1000"));
+  variance.inverse(number("1000"));
+  EXPECT_EQ("4.571", shown(variance.variance().number().round(3)));
 }
 
 TEST(Variance, equalValuesHaveNone) {
@@ -95,43 +89,17 @@ TEST(Variance, equalValuesHaveNone) {
   EXPECT_FALSE(variance.variance().number().isNegative());
 }
 
-TEST(Extremes, compareByTheTypeOfTheValues) {
-  ExtremeAccumulator numbers;
-  EXPECT_EQ("NULL", shown(numbers.minimum()));
-  for (const char* x : {"9", "10", ".5"}) {
-    numbers.step(n(x));
-  }
-  numbers.step(Value());
-  EXPECT_EQ(".5", shown(numbers.minimum()));
-  EXPECT_EQ("10", shown(numbers.maximum()));
-  ExtremeAccumulator texts;
-  for (const char* x : {"9", "10", "_"}) {
-    texts.step(s(x));
-  }
-  EXPECT_EQ("10", shown(texts.minimum()));
-  EXPECT_EQ("_", shown(texts.maximum()));
-}
-
-TEST(Extremes, keepTheBytesOfARowThatIsGone) {
-  ExtremeAccumulator texts;
-  {
-    const std::string row = "a text that is too long to lie in the value itself";
-    texts.step(Value::textView(row));
-  }
-  EXPECT_EQ("a text that is too long to lie in the value itself", shown(texts.minimum()));
-}
-
 TEST(Extremes, movingWindowForgetsWhatLeavesIt) {
   MovingExtremeAccumulator window;
   for (const char* x : {"3", "1", "2", "1"}) {
-    window.step(n(x));
+    window.step(number(x));
   }
-  window.inverse(n("3"));
-  window.inverse(n("1"));
+  window.inverse(number("3"));
+  window.inverse(number("1"));
   EXPECT_EQ("1", shown(window.minimum()));
   EXPECT_EQ("2", shown(window.maximum()));
-  window.inverse(n("2"));
-  window.inverse(n("1"));
+  window.inverse(number("2"));
+  window.inverse(number("1"));
   EXPECT_EQ("NULL", shown(window.maximum()));
 }
 

@@ -52,6 +52,17 @@ int errorOf(Action action) {
   return 0;
 }
 
+/// Whether `action` ends in a refusal of what a server knows and this engine does not.
+template <typename Action>
+bool isRefused(Action action) {
+  try {
+    action();
+  } catch (const FunctionError& error) {
+    return error.code() == FunctionError::kUnsupported;
+  }
+  return false;
+}
+
 inline int callError(const char* name, std::initializer_list<Value> arguments) {
   return errorOf([&] { call(name, arguments); });
 }

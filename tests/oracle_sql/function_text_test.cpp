@@ -181,26 +181,6 @@ TEST(Like, manyWildcardsStayQuick) {
   EXPECT_FALSE(like(std::string(3000, 'a') + "b", pattern));
 }
 
-// Oracle's "SQL Language Reference": SMYTHE sounds like Smith. Knuth's own examples behind it.
-TEST(TextFunctions, soundexCodesTheConsonants) {
-  EXPECT_EQ("S530", call("SOUNDEX", {s("SMYTHE")}));
-  EXPECT_EQ("S530", call("SOUNDEX", {s("Smith")}));
-  EXPECT_EQ("E460", call("SOUNDEX", {s("Euler")}));
-  EXPECT_EQ("L222", call("SOUNDEX", {s("Lissajous")}));
-  EXPECT_EQ("A261", call("SOUNDEX", {s("Ashcraft")}));
-  EXPECT_EQ("T522", call("SOUNDEX", {s("Tymczak")}));
-  EXPECT_EQ("P236", call("SOUNDEX", {s("Pfister")}));
-  EXPECT_EQ("NULL", call("SOUNDEX", {s("12 日")}));
-}
-
-TEST(TextFunctions, sortsOfTheNlsFunctionsAreBinaryOrRefused) {
-  EXPECT_EQ("ABC", call("NLS_UPPER", {s("abc")}));
-  EXPECT_EQ("ABC", call("NLS_UPPER", {s("abc"), s("NLS_SORT = BINARY")}));
-  EXPECT_EQ("Abc", call("NLS_INITCAP", {s("ABC")}));
-  EXPECT_EQ(FunctionError::kUnsupported, callError("NLS_UPPER", {s("groß"), s("NLS_SORT = XGERMAN")}));
-  EXPECT_EQ(12702, callError("NLS_LOWER", {s("A"), s("NLS_CURRENCY = x")}));
-}
-
 // The simple case mappings of the Unicode standard.
 TEST(TextFunctions, lettersBeyondAsciiHaveTheirCase) {
   EXPECT_EQ("ΆΈΉΊΌΎΏΣ", call("UPPER", {s("άέήίόύώς")}));

@@ -14,7 +14,7 @@ TEST(FunctionTable, findsNamesInAnyCaseAndNoOthers) {
   EXPECT_EQ(nullptr, findFunction("NO_SUCH"));
   EXPECT_EQ(nullptr, findFunction("V1024"));
   EXPECT_EQ("SUBSTR", findFunction("substr")->name);
-  EXPECT_EQ("STATSPACK.V1024", findFunction("Statspack.v1024")->name);
+  EXPECT_EQ(nullptr, findFunction("STATSPACK.V1024"));
   for (const Function& function : functionTable()) {
     EXPECT_EQ(&function, findFunction(function.name));
     EXPECT_LE(function.minArguments, function.maxArguments) << function.name;
@@ -86,61 +86,8 @@ TEST(NumericFunctions, bitAndIsOfWholeNumbers) {
   EXPECT_EQ("2", call("BITAND", {n("6"), n("3")}));
   EXPECT_EQ("2", call("BITAND", {n("6.9"), n("3")}));
   EXPECT_EQ("6", call("BITAND", {n("-2"), n("7")}));
-  EXPECT_EQ("255", call("BITAND", {n("18446744073709551615"), n("255")}));
-  EXPECT_EQ("18446744073709551615", call("BITAND", {n("-1"), n("18446744073709551615")}));
-  // The range that the SQL Reference gives: -2^127 to 2^127 - 1.
-  EXPECT_EQ("0", call("BITAND", {n("-170141183460469231731687303715884105728"), n("1")}));
-  EXPECT_EQ("1", call("BITAND", {n("170141183460469231731687303715884105727"), n("1")}));
-  EXPECT_EQ(1428, callError("BITAND", {n("170141183460469231731687303715884105728"), n("1")}));
-}
-
-// The credit limits of the example in Oracle's SQL Reference.
-TEST(NumericFunctions, widthBucketCountsFromTheLowBound) {
-  const auto bucket = [](const char* value) {
-    return call("WIDTH_BUCKET", {n(value), n("100"), n("5000"), n("10")});
-  };
-  EXPECT_EQ("1", bucket("500"));
-  EXPECT_EQ("2", bucket("700"));
-  EXPECT_EQ("3", bucket("1200"));
-  EXPECT_EQ("4", bucket("1800"));
-  EXPECT_EQ("5", bucket("2300"));
-  EXPECT_EQ("7", bucket("3500"));
-  EXPECT_EQ("11", bucket("5000"));
-  EXPECT_EQ("0", bucket("99.9"));
-  EXPECT_EQ("1", bucket("100"));
-}
-
-TEST(NumericFunctions, widthBucketTakesDatesAndFallingBounds) {
-  EXPECT_EQ("2", call("WIDTH_BUCKET", {d("2020-01-02"), d("2020-01-01"), d("2020-01-05"), n("4")}));
-  EXPECT_EQ("1", call("WIDTH_BUCKET", {n("10"), n("10"), n("0"), n("5")}));
-  EXPECT_EQ("6", call("WIDTH_BUCKET", {n("0"), n("10"), n("0"), n("5")}));
-  EXPECT_EQ("0", call("WIDTH_BUCKET", {n("11"), n("10"), n("0"), n("5")}));
-}
-
-TEST(NumericFunctions, widthBucketWantsBoundsAndAPositiveCount) {
-  EXPECT_EQ(30494, callError("WIDTH_BUCKET", {n("1"), null, n("10"), n("5")}));
-  EXPECT_EQ(30494, callError("WIDTH_BUCKET", {n("1"), n("0"), n("10"), n("0")}));
-  EXPECT_EQ(30494, callError("WIDTH_BUCKET", {n("1"), n("0"), n("10"), n("-1")}));
-  EXPECT_EQ("NULL", call("WIDTH_BUCKET", {null, n("0"), n("10"), n("5")}));
-}
-
-TEST(NumericFunctions, binaryDigitsMakeANumber) {
-  EXPECT_EQ("10", call("BIN_TO_NUM", {n("1"), n("0"), n("1"), n("0")}));  // Oracle's SQL Reference
-  EXPECT_EQ("1", call("BIN_TO_NUM", {n("1")}));
-  EXPECT_EQ(1428, callError("BIN_TO_NUM", {n("2")}));
-}
-
-// As measured at a server: contrib/ivorysql_ora/expected/ora_vsize.out of IvorySQL.
-TEST(NumericFunctions, storedSizeIsThatOfTheServer) {
-  EXPECT_EQ("1", call("VSIZE", {n("0")}));
-  EXPECT_EQ("2", call("VSIZE", {n("1000000")}));
-  EXPECT_EQ("3", call("VSIZE", {n("-1")}));
-  EXPECT_EQ("3", call("VSIZE", {n("1.23")}));
-  EXPECT_EQ("5", call("VSIZE", {n("12345.67")}));
-  EXPECT_EQ("2", call("VSIZE", {n("0.05")}));
-  EXPECT_EQ("3", call("VSIZE", {s("abc")}));
-  EXPECT_EQ("7", call("VSIZE", {d("2024-01-01")}));  // century, year, month, day, hour, minute, second
-  EXPECT_EQ("NULL", call("VSIZE", {null}));
+  EXPECT_EQ("9223372036854775807", call("BITAND", {n("-1"), n("9223372036854775807")}));
+  EXPECT_TRUE(isRefused([] { call("BITAND", {n("9223372036854775808"), n("1")}); }));
 }
 
 TEST(ComparingFunctions, theFirstArgumentGivesTheTypeOfTheComparison) {
@@ -204,20 +151,7 @@ TEST(ConversionFunctions, toCharFollowsTheTypeOfItsArgument) {
   EXPECT_EQ(" 5.0", call("TO_CHAR", {s("5"), s("9.9")}));
   EXPECT_EQ("01-JAN-20", call("TO_CHAR", {d("2020-01-01 10:00:00")}));
   EXPECT_EQ("10:00", call("TO_CHAR", {d("2020-01-01 10:00:00"), s("HH24:MI")}));
-  EXPECT_EQ("MON", call("TO_CHAR", {d("2024-06-17"), s("DY"), s("NLS_DATE_LANGUAGE = American")}));
-  EXPECT_EQ(FunctionError::kUnsupported,
-            callError("TO_CHAR", {d("2024-06-17"), s("DY"), s("NLS_DATE_LANGUAGE = German")}));
   EXPECT_EQ(1722, callError("TO_CHAR", {s("abc"), s("99")}));
-}
-
-TEST(ConversionFunctions, settingsChooseTheSymbolsOfNumbersOnly) {
-  EXPECT_EQ("1.234,5", call("TO_CHAR", {n("1234.5"), s("FM9G999D9"), s("NLS_NUMERIC_CHARACTERS = ',.' ")}));
-  EXPECT_EQ("BTC5", call("TO_CHAR", {n("5"), s("FML9"), s("NLS_CURRENCY = BTC")}));
-  EXPECT_EQ("1234.5", call("TO_NUMBER", {s("1.234,5"), s("9G999D9"), s(" nls_numeric_characters=',.'")}));
-  EXPECT_EQ("2007-01-01 00:00:00", call("TO_DATE", {s(" 2007-01-01 00:00:00"), s("SYYYY-MM-DD HH24:MI:SS"),
-                                                    s("NLS_CALENDAR=GREGORIAN")}));
-  EXPECT_EQ(12702, callError("TO_CHAR", {n("5"), s("9"), s("nonsense")}));
-  EXPECT_EQ(12702, callError("TO_CHAR", {n("5"), s("9"), s("NLS_NUMERIC_CHARACTERS = ',,'")}));
 }
 
 TEST(ConversionFunctions, toNumberAndToDateReadText) {

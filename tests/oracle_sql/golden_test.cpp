@@ -5,9 +5,9 @@
 #include <filesystem>
 
 #include "oracle_sql/parser.h"
-#include "oracle_sql/printer.h"
 #include "support/golden_file.h"
 #include "support/small_catalogue.h"
+#include "support/statement_text/printer.h"
 
 namespace oracle_sql {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "oracle_sql/parser.h"
-#include "oracle_sql/printer.h"
+#include "support/statement_text/printer.h"
 
 namespace oracle_sql {
 namespace {
@@ -48,7 +48,6 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"select sum(x) over (rows 1 preceding) from t", 30485},
         Refusal{"select 1 from t group by rollup ()", 936},
         Refusal{"select 1 from t group by rollup (a", 907},
-        Refusal{"select 1 from t group by grouping sets a", 906},
         Refusal{"select * from t pivot (sum(a) for (b, c) in ((1, 2), 3))", 56901},
         Refusal{"select t.date from t", 1747},
         // What Oracle knows and this program does not, each by its name.
@@ -56,13 +55,16 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"create table t (a number)", 0}, Refusal{"begin null; end", 911}, Refusal{"drop table t", 0},
         Refusal{"select 1 from t for update", 0}, Refusal{"select 1 from t connect by level < 5", 0},
         Refusal{"select 1 from t start with a = 1 connect by prior a = b", 0},
-        Refusal{"select 1 from t@remote", 0}, Refusal{"select interval '1' weeks from dual", 30089},
+        Refusal{"select 1 from t@remote", 0}, Refusal{"select interval '1' day from dual", 0},
         Refusal{"select * from t unpivot (a for b in (c, d))", 0}, Refusal{"select rowid from t", 0},
         Refusal{"select t.rowid from t", 0}, Refusal{"select * from table(f(1))", 0},
         Refusal{"select f(a => 1) from t", 0}, Refusal{"select 1 from t sample (5)", 0},
         Refusal{"select 1 from t as of timestamp sysdate", 0},
         Refusal{"select cast(a as timestamp) from t", 0},
-        Refusal{"select * from t pivot xml (sum(a) for b in (any))", 0}));
+        Refusal{"select * from t pivot xml (sum(a) for b in (any))", 0},
+        Refusal{"select 1 from t group by grouping sets (a)", 0},
+        Refusal{"select 1 from t where a < all (1)", 0}, Refusal{"select (a - b) day(9) to second from t", 0},
+        Refusal{"select 1 from t where regexp_like(a, 'b')", 0}));
 
 class ReadAs : public testing::TestWithParam<std::pair<const char*, const char*>> {};
 
@@ -93,9 +95,9 @@ INSTANTIATE_TEST_SUITE_P(
                   "SELECT SUM(CASE WHEN 1 < A THEN B ELSE 0 END) AS \"OVER\", C AS IDLE FROM T GROUP BY C"},
         std::pair{"select a.x, b.y from stats$t a, u b where a.id(+)=b.id and b.n ( + ) = :b1",
                   "SELECT A.X, B.Y FROM STATS$T A, U B WHERE A.ID(+) = B.ID AND B.N(+) = :B1"},
-        std::pair{"select * from a left outer join b on a.x=b.x full join c using (x, y) natural join d "
+        std::pair{"select * from a left outer join b on a.x=b.x full join c using (x, y) "
                   "cross join e",
-                  "SELECT * FROM A LEFT JOIN B ON A.X = B.X FULL JOIN C USING (X, Y) NATURAL INNER JOIN D "
+                  "SELECT * FROM A LEFT JOIN B ON A.X = B.X FULL JOIN C USING (X, Y) "
                   "CROSS JOIN E"},
         std::pair{"select * from a join b join c on b.x=c.x on a.x=b.x",
                   "SELECT * FROM A INNER JOIN (B INNER JOIN C ON B.X = C.X) ON A.X = B.X"},
@@ -118,18 +120,14 @@ INSTANTIATE_TEST_SUITE_P(
                   "and exists (select 1 from u)",
                   "SELECT 1 FROM T WHERE A LIKE 'x\\_%' ESCAPE '\\' AND B BETWEEN 1 AND 2 AND C IS NOT NULL "
                   "AND EXISTS (SELECT 1 FROM U)"},
-        std::pair{"select 1 from t where a > all (1,2) and b = any (select 1 from u) and c <> some (3)",
-                  "SELECT 1 FROM T WHERE A > ALL (1, 2) AND B = ANY (SELECT 1 FROM U) AND C <> ANY (3)"},
         std::pair{"select case x when 1 then 'a' else 'b' end, case when x=1 or y=2 then 3 end from t",
                   "SELECT CASE X WHEN 1 THEN 'a' ELSE 'b' END, CASE WHEN X = 1 OR Y = 2 THEN 3 END FROM T"},
         std::pair{"select lag(v ignore nulls) over (partition by a,b order by c desc), last_value(v) ignore "
                   "nulls over (order by c rows between unbounded preceding and 1 following) from t",
                   "SELECT LAG(V) IGNORE NULLS OVER (PARTITION BY A, B ORDER BY C DESC), LAST_VALUE(V) IGNORE "
                   "NULLS OVER (ORDER BY C ROWS BETWEEN UNBOUNDED PRECEDING AND 1 FOLLOWING) FROM T"},
-        std::pair{
-            "select 1 from t group by a,(b,c),rollup(a,(b,c)),cube((a)),grouping sets(a,(b,c),(),cube(d))",
-            "SELECT 1 FROM T GROUP BY (A), (B, C), ROLLUP((A), (B, C)), CUBE((A)), GROUPING SETS((A), (B, "
-            "C), (), CUBE((D)))"},
+        std::pair{"select 1 from t group by a,(b,c),rollup(a,(b,c)),()",
+                  "SELECT 1 FROM T GROUP BY (A), (B, C), ROLLUP((A), (B, C)), ()"},
         std::pair{"select max(a) keep (dense_rank first order by b desc), listagg(c, ',') within group "
                   "(order by c), count(distinct d), count(*) from t",
                   "SELECT MAX(A) KEEP (DENSE_RANK FIRST ORDER BY B DESC), LISTAGG(C, ',') WITHIN GROUP "

@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "oracle_sql/parser.h"
-#include "oracle_sql/printer.h"
 #include "support/random_statement.h"
 #include "support/small_catalogue.h"
+#include "support/statement_text/printer.h"
 
 namespace oracle_sql {
 namespace {

@@ -50,8 +50,8 @@ class UsedCatalogue : public oracle_sql::Catalogue {
   const oracle_sql::CatalogueTable* table(std::string_view schema, std::string_view name) const override {
     return release_.table(schema, name) ? &tables_.find(name)->second : nullptr;
   }
-  bool hasPackageFunction(std::string_view package, std::string_view name) const override {
-    return release_.hasPackageFunction(package, name);
+  const oracle_sql::Function* packageFunction(std::string_view name) const override {
+    return release_.packageFunction(name);
   }
 
  private:

@@ -39,10 +39,10 @@ TEST(ReleaseCatalogue, columnsHaveUpperCaseNamesAndTheirTypes) {
 }
 
 TEST(ReleaseCatalogue, theUnitTextFunctionCameWithRelease11) {
-  EXPECT_FALSE(ReleaseCatalogue("9").hasPackageFunction("STATSPACK", "V1024"));
-  EXPECT_FALSE(ReleaseCatalogue("10").hasPackageFunction("STATSPACK", "V1024"));
-  EXPECT_TRUE(ReleaseCatalogue("11").hasPackageFunction("STATSPACK", "V1024"));
-  EXPECT_FALSE(ReleaseCatalogue("11").hasPackageFunction("STATSPACK", "SNAP"));
+  EXPECT_EQ(ReleaseCatalogue("9").packageFunction("STATSPACK.V1024"), nullptr);
+  EXPECT_EQ(ReleaseCatalogue("10").packageFunction("STATSPACK.V1024"), nullptr);
+  EXPECT_NE(ReleaseCatalogue("11").packageFunction("STATSPACK.V1024"), nullptr);
+  EXPECT_EQ(ReleaseCatalogue("11").packageFunction("STATSPACK.SNAP"), nullptr);
 }
 
 }  // namespace

@@ -328,7 +328,7 @@ class RandomStatement {
 
   std::string grouping(const std::string& keys) {
     if (chance(75)) return keys;
-    return pick({"rollup(", "cube(", "grouping sets ((), "}) + keys + ")";
+    return "rollup(" + keys + ")";
   }
 
   std::string groupedItem(Kind kind, const Scope& scope, const Scope& keys) {

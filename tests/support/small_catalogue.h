@@ -5,6 +5,7 @@
 #include <string>
 
 #include "oracle_sql/catalogue.h"
+#include "oracle_sql/functions.h"
 #include "oracle_sql/resolver.h"
 
 namespace testing_support {
@@ -56,8 +57,15 @@ class SmallCatalogue : public oracle_sql::Catalogue {
     const auto found = tables_.find(name);
     return found == tables_.end() ? nullptr : &found->second;
   }
-  bool hasPackageFunction(std::string_view package, std::string_view name) const override {
-    return package == "STATSPACK" && name == "V1024";
+  const oracle_sql::Function* packageFunction(std::string_view name) const override {
+    static constexpr oracle_sql::Function kV1024{
+        "STATSPACK.V1024",
+        5,
+        5,
+        true,
+        [](oracle_sql::ArgumentTypes) { return oracle_sql::Type{oracle_sql::TypeKind::Varchar2}; },
+        [](oracle_sql::Arguments, const oracle_sql::Context&) { return oracle_sql::Value(); }};
+    return name == kV1024.name ? &kV1024 : nullptr;
   }
 
   /// :B1 to :B9, :PAR, :TRAN and :1 are numbers, :ENAME and :TIMSTAT text; there is no other bind.

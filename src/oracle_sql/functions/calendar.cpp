@@ -17,7 +17,7 @@ Value lastDay(Arguments arguments, const Context& context) {
   return oracle_sql::lastDay(toDate(arguments[0], context));
 }
 
-// The day by its name or by its number, 1 for Sunday.
+/// The day by its name or by its number, 1 for Sunday.
 Value nextDay(Arguments arguments, const Context& context) {
   static constexpr std::string_view kDays[] = {"SUN", "MON", "TUE", "WED", "THU", "FRI", "SAT"};
   const Date date = toDate(arguments[0], context);
@@ -28,20 +28,14 @@ Value nextDay(Arguments arguments, const Context& context) {
   return oracle_sql::nextDay(date, TextOf(arguments[1]).view());
 }
 
-// A DATE has a year, a month and a day here, nothing else; text does not become one.
+/// A DATE has a year, a month and a day here, nothing else; text does not become one.
 Value extract(Arguments arguments, const Context&) {
   const std::string part = asciiUpper(TextOf(arguments[1]).view());
   if (arguments[0].isDate()) {
     const DateFields fields = arguments[0].date().fields();
-    if (part == "YEAR") {
-      return fields.year;
-    }
-    if (part == "MONTH") {
-      return fields.month;
-    }
-    if (part == "DAY") {
-      return fields.day;
-    }
+    if (part == "YEAR") return fields.year;
+    if (part == "MONTH") return fields.month;
+    if (part == "DAY") return fields.day;
   }
   throw FunctionError(30076, "invalid extract field for extract source");
 }

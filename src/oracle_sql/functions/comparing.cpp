@@ -3,11 +3,9 @@
 namespace oracle_sql::library {
 namespace {
 
-// The first argument decides what the others are converted to: GREATEST('10', 9) is '9'.
+/// The first argument decides what the others are converted to: GREATEST('10', 9) is '9'.
 Value likeFirst(const Value& value, const Value& first, const Context& context) {
-  if (value.kind() == first.kind()) {
-    return value;
-  }
+  if (value.kind() == first.kind()) return value;
   switch (first.kind()) {
     case Value::Kind::Number:
       return toNumber(value);
@@ -37,15 +35,13 @@ Comparison comparisonOf(const Value& first) {
   return Comparison::Text;
 }
 
-// `wanted`: 1 for the greatest, -1 for the least.
+/// `wanted`: 1 for the greatest, -1 for the least.
 Value extreme(Arguments arguments, const Context& context, int wanted) {
   Value best = arguments[0];
   const Comparison comparison = comparisonOf(best);
   for (const Value& argument : arguments.subspan(1)) {
     Value other = likeFirst(argument, arguments[0], context);
-    if (compareAs(comparison, other, best, context) == wanted) {
-      best = std::move(other);
-    }
+    if (compareAs(comparison, other, best, context) == wanted) best = std::move(other);
   }
   return best;
 }

@@ -1,53 +1,32 @@
 #include "oracle_sql/date_format.h"
 #include "oracle_sql/functions/library.h"
-#include "oracle_sql/functions/settings.h"
 #include "oracle_sql/number_format.h"
 
 namespace oracle_sql::library {
-namespace {
-
-NumberSymbols settingsOf(Arguments arguments) {
-  return arguments.size() < 3 ? NumberSymbols() : numberSymbols(TextOf(arguments[2]).view());
-}
-
-}  // namespace
-
 Value toCharacter(Arguments arguments, const Context&) {
   const Value& value = arguments[0];
-  if (arguments.size() < 2) {
-    return value.isText() ? value : Value::text(toText(value));
-  }
+  if (arguments.size() < 2) return value.isText() ? value : Value::text(toText(value));
   const TextOf model(arguments[1]);
-  const NumberSymbols symbols = settingsOf(arguments);
-  if (value.isDate()) {
-    return Value::text(formatDate(value.date(), model.view()));
-  }
-  return Value::text(formatNumber(toNumber(value), model.view(), symbols));
+  if (value.isDate()) return Value::text(formatDate(value.date(), model.view()));
+  return Value::text(formatNumber(toNumber(value), model.view()));
 }
 
 Value toNumeric(Arguments arguments, const Context&) {
-  if (arguments.size() < 2) {
-    return toNumber(arguments[0]);
-  }
-  return parseNumber(TextOf(arguments[0]).view(), TextOf(arguments[1]).view(), settingsOf(arguments));
+  if (arguments.size() < 2) return toNumber(arguments[0]);
+  return parseNumber(TextOf(arguments[0]).view(), TextOf(arguments[1]).view());
 }
 
-// A DATE goes through its own text too, and so loses its time of day, as it does on the server.
+/// A DATE goes through its own text too, and so loses its time of day, as it does on the server.
 Value toDateValue(Arguments arguments, const Context& context) {
-  settingsOf(arguments);
   const TextOf text(arguments[0]);
-  if (arguments.size() < 2) {
-    return parseDate(text.view(), kDefaultDateModel, context);
-  }
+  if (arguments.size() < 2) return parseDate(text.view(), kDefaultDateModel, context);
   return parseDate(text.view(), TextOf(arguments[1]).view(), context);
 }
 
-// The bytes of any value: of a number its ordered form, of text its characters.
+/// The bytes of any value: of a number its ordered form, of text its characters.
 Value rawToHex(Arguments arguments, const Context&) {
   const Value& value = arguments[0];
-  if (value.isDate()) {
-    raiseInconsistentTypes();
-  }
+  if (value.isDate()) raiseInconsistentTypes();
   if (value.isNumber()) {
     std::uint8_t bytes[Number::kMaxBytes];
     const std::size_t size = value.number().toBytes(bytes);

@@ -1,16 +1,16 @@
+// What stands behind the rows of the function table, one file a family.
 #pragma once
 
 #include <string>
 #include <string_view>
 
 #include "oracle_sql/functions.h"
-#include "oracle_sql/functions/settings.h"
 
-// What stands behind the rows of the function table, one file a family. Where table.cpp wraps a row in
-// strict<>, the arguments that come here are not NULL.
+/// Where table.cpp wraps a row in
+/// strict<>, the arguments that come here are not NULL.
 namespace oracle_sql::library {
 
-// The text of a value, without a copy where it is text already.
+/// The text of a value, without a copy where it is text already.
 class TextOf {
  public:
   explicit TextOf(const Value& value) : room_(value.isText() ? std::string() : toText(value)) {
@@ -19,7 +19,7 @@ class TextOf {
   TextOf(const TextOf&) = delete;
   TextOf& operator=(const TextOf&) = delete;
   std::string_view view() const { return view_; }
-  // A piece of view(): a view itself where the argument holds the bytes, else a copy.
+  /// A piece of view(): a view itself where the argument holds the bytes, else a copy.
   Value piece(std::string_view part) const {
     return room_.empty() ? Value::textView(part) : Value::text(std::string(part));
   }
@@ -47,11 +47,6 @@ ORACLE_SQL_FUNCTION(exponential);
 ORACLE_SQL_FUNCTION(naturalLogarithm);
 ORACLE_SQL_FUNCTION(logarithm);
 ORACLE_SQL_FUNCTION(bitAnd);
-ORACLE_SQL_FUNCTION(arcTangent2);
-ORACLE_SQL_FUNCTION(storedSize);
-ORACLE_SQL_FUNCTION(binaryToNumber);
-ORACLE_SQL_FUNCTION(notANumberValue);
-ORACLE_SQL_FUNCTION(widthBucket);
 // comparing.cpp
 ORACLE_SQL_FUNCTION(greatest);
 ORACLE_SQL_FUNCTION(least);
@@ -64,7 +59,6 @@ ORACLE_SQL_FUNCTION(upper);
 ORACLE_SQL_FUNCTION(lower);
 ORACLE_SQL_FUNCTION(initialCapitals);
 ORACLE_SQL_FUNCTION(concat);
-ORACLE_SQL_FUNCTION(soundex);
 ORACLE_SQL_FUNCTION(ascii);
 ORACLE_SQL_FUNCTION(character);
 // searching.cpp
@@ -91,22 +85,6 @@ ORACLE_SQL_FUNCTION(monthsBetween);
 ORACLE_SQL_FUNCTION(lastDay);
 ORACLE_SQL_FUNCTION(nextDay);
 ORACLE_SQL_FUNCTION(extract);
-// statspack.cpp
-ORACLE_SQL_FUNCTION(statspackV1024);
 #undef ORACLE_SQL_FUNCTION
-
-// NLS_UPPER and its like: the sort of their second argument is the session's own, or refused.
-template <Value (*F)(Arguments, const Context&)>
-Value sortedAsBinary(Arguments arguments, const Context& context) {
-  if (arguments.size() > 1) {
-    requireBinarySort(TextOf(arguments[1]).view());
-  }
-  return F(arguments.first(1), context);
-}
-
-template <Trigonometric F>
-Value trigonometricOf(Arguments arguments, const Context&) {
-  return trigonometric(F, toNumber(arguments[0]));
-}
 
 }  // namespace oracle_sql::library

@@ -4,25 +4,15 @@
 namespace oracle_sql {
 
 Value add(const Value& a, const Value& b) {
-  if (a.isNull() || b.isNull()) {
-    return {};
-  }
-  if (a.isDate() && b.isDate()) {
-    throw FunctionError(975, "date + date not allowed");
-  }
-  if (a.isDate()) {
-    return a.date() + toNumber(b);
-  }
+  if (a.isNull() || b.isNull()) return {};
+  if (a.isDate() && b.isDate()) throw FunctionError(975, "date + date not allowed");
+  if (a.isDate()) return a.date() + toNumber(b);
   return b.isDate() ? Value(b.date() + toNumber(a)) : Value(toNumber(a) + toNumber(b));
 }
 
 Value subtract(const Value& a, const Value& b) {
-  if (a.isNull() || b.isNull()) {
-    return {};
-  }
-  if (a.isDate()) {
-    return b.isDate() ? Value(a.date() - b.date()) : Value(a.date() - toNumber(b));
-  }
+  if (a.isNull() || b.isNull()) return {};
+  if (a.isDate()) return b.isDate() ? Value(a.date() - b.date()) : Value(a.date() - toNumber(b));
   return toNumber(a) - toNumber(b);
 }
 
@@ -48,7 +38,7 @@ Value concatenate(const Value& a, const Value& b) {
 
 namespace {
 
-// The pattern's unit at a place: a character to match, or a wildcard.
+/// The pattern's unit at a place: a character to match, or a wildcard.
 struct PatternUnit {
   std::string_view text;
   bool any = false;  // %
@@ -64,9 +54,8 @@ PatternUnit unitAt(std::string_view pattern, std::size_t at, std::string_view es
     at += size;
     size = at < pattern.size() ? utf8::sizeAt(pattern, at) : 0;
     unit.text = pattern.substr(at, size);
-    if (unit.text != "%" && unit.text != "_" && unit.text != escape) {
+    if (unit.text != "%" && unit.text != "_" && unit.text != escape)
       throw FunctionError(1424, "missing or illegal character following the escape character");
-    }
   } else {
     unit.any = unit.text == "%";
     unit.one = unit.text == "_";
@@ -79,9 +68,7 @@ PatternUnit unitAt(std::string_view pattern, std::size_t at, std::string_view es
 
 bool like(std::string_view text, std::string_view pattern, std::string_view escape) {
   if (!escape.empty()) {
-    if (utf8::length(escape) != 1) {
-      raiseEscape();
-    }
+    if (utf8::length(escape) != 1) raiseEscape();
     for (std::size_t at = 0; at < pattern.size();) {
       at = unitAt(pattern, at, escape).next;  // a broken escape fails wherever it stands
     }
@@ -106,18 +93,14 @@ bool like(std::string_view text, std::string_view pattern, std::string_view esca
         continue;
       }
     }
-    if (afterAny == kNone) {
-      return false;
-    }
+    if (afterAny == kNone) return false;
     taken += utf8::sizeAt(text, taken);
     t = taken;
     p = afterAny;
   }
   while (p < pattern.size()) {
     const PatternUnit unit = unitAt(pattern, p, escape);
-    if (!unit.any) {
-      return false;
-    }
+    if (!unit.any) return false;
     p = unit.next;
   }
   return true;

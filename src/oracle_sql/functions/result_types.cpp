@@ -9,11 +9,9 @@ bool isWhole(Type type) {
   return type.kind == TypeKind::Null || (type.kind == TypeKind::Number && type.integral);
 }
 
-// The type of a value chosen among several: text loses its padding, a number is whole if every choice is.
+/// The type of a value chosen among several: text loses its padding, a number is whole if every choice is.
 Type chosen(Type decisive, bool allWhole) {
-  if (decisive.isText() || decisive.kind == TypeKind::Null) {
-    return kVarchar;
-  }
+  if (decisive.isText() || decisive.kind == TypeKind::Null) return kVarchar;
   return {decisive.kind, decisive.kind == TypeKind::Number && allWhole, 0};
 }
 
@@ -36,17 +34,13 @@ Type firstAsNumber(ArgumentTypes types) { return {TypeKind::Number, types[0].int
 Type bothWhole(ArgumentTypes types) { return {TypeKind::Number, types[0].integral && types[1].integral}; }
 
 Type dateOrNumber(ArgumentTypes types) {
-  if (types[0].kind == TypeKind::Date) {
-    return {TypeKind::Date};
-  }
+  if (types[0].kind == TypeKind::Date) return {TypeKind::Date};
   return {TypeKind::Number, types[0].integral && types.size() == 1};
 }
 
 Type likeFirst(ArgumentTypes types) {
   bool whole = true;
-  for (const Type& type : types) {
-    whole = whole && isWhole(type);
-  }
+  for (const Type& type : types) whole = whole && isWhole(type);
   return chosen(types[0], whole);
 }
 
@@ -74,12 +68,8 @@ Type coalesce(ArgumentTypes types) {
 
 Type decode(ArgumentTypes types) {
   bool whole = true;
-  for (std::size_t i = 2; i < types.size(); i += 2) {
-    whole = whole && isWhole(types[i]);
-  }
-  if (types.size() % 2 == 0) {
-    whole = whole && isWhole(types.back());
-  }
+  for (std::size_t i = 2; i < types.size(); i += 2) whole = whole && isWhole(types[i]);
+  if (types.size() % 2 == 0) whole = whole && isWhole(types.back());
   return chosen(types[2], whole);
 }
 

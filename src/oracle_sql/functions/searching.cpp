@@ -11,29 +11,23 @@ std::size_t stepOver(std::string_view text, std::size_t at, bool bytes) {
   return bytes ? at + 1 : at + utf8::sizeAt(text, at);
 }
 
-// The byte where the `occurrence`th match begins, from `at` on to the right. Matches may overlap.
+/// The byte where the `occurrence`th match begins, from `at` on to the right. Matches may overlap.
 std::size_t findForward(std::string_view text, std::string_view part, std::size_t at, std::int64_t occurrence,
                         bool bytes) {
   while (true) {
     at = text.find(part, at);
-    if (at == std::string_view::npos || --occurrence == 0) {
-      return at;
-    }
+    if (at == std::string_view::npos || --occurrence == 0) return at;
     at = stepOver(text, at, bytes);
   }
 }
 
-// The same to the left, beginning with a match at `at` itself.
+/// The same to the left, beginning with a match at `at` itself.
 std::size_t findBackward(std::string_view text, std::string_view part, std::size_t at,
                          std::int64_t occurrence) {
   while (true) {
     at = text.rfind(part, at);
-    if (at == std::string_view::npos || --occurrence == 0) {
-      return at;
-    }
-    if (at == 0) {
-      return std::string_view::npos;
-    }
+    if (at == std::string_view::npos || --occurrence == 0) return at;
+    if (at == 0) return std::string_view::npos;
     --at;
   }
 }
@@ -43,23 +37,17 @@ Value positionIn(Arguments arguments, bool bytes) {
   const TextOf part(arguments[1]);
   const std::int64_t start = arguments.size() > 2 ? toWhole(arguments[2]) : 1;
   const std::int64_t occurrence = arguments.size() > 3 ? toWhole(arguments[3]) : 1;
-  if (occurrence < 1) {
-    raiseArgumentOutOfRange(Number(occurrence).toText());
-  }
+  if (occurrence < 1) raiseArgumentOutOfRange(Number(occurrence).toText());
   const std::string_view view = text.view();
   const bool unitsAreBytes = bytes || utf8::isAscii(view);
   const auto size = static_cast<std::int64_t>(unitsAreBytes ? view.size() : utf8::length(view));
   const std::int64_t first = start > 0 ? start - 1 : size + start;
-  if (start == 0 || first < 0 || first >= size) {
-    return 0;
-  }
+  if (start == 0 || first < 0 || first >= size) return 0;
   const auto unit = static_cast<std::size_t>(first);
   const std::size_t begin = unitsAreBytes ? unit : utf8::offset(view, unit);
   const std::size_t found = start > 0 ? findForward(view, part.view(), begin, occurrence, unitsAreBytes)
                                       : findBackward(view, part.view(), begin, occurrence);
-  if (found == std::string_view::npos) {
-    return 0;
-  }
+  if (found == std::string_view::npos) return 0;
   return static_cast<std::int64_t>(unitsAreBytes ? found : utf8::length(view.substr(0, found))) + 1;
 }
 
@@ -70,9 +58,7 @@ Value position(Arguments arguments, const Context&) { return positionIn(argument
 Value positionBytes(Arguments arguments, const Context&) { return positionIn(arguments, true); }
 
 Value replace(Arguments arguments, const Context&) {
-  if (arguments[0].isNull() || arguments[1].isNull()) {
-    return arguments[0];
-  }
+  if (arguments[0].isNull() || arguments[1].isNull()) return arguments[0];
   const TextOf text(arguments[0]);
   const TextOf search(arguments[1]);
   const Value none;
@@ -89,7 +75,7 @@ Value replace(Arguments arguments, const Context&) {
   return Value::text(std::move(out));
 }
 
-// Each character of the second text becomes the one at its place in the third, or goes if there is none.
+/// Each character of the second text becomes the one at its place in the third, or goes if there is none.
 Value translate(Arguments arguments, const Context&) {
   const TextOf text(arguments[0]);
   const TextOf from(arguments[1]);

@@ -10,13 +10,11 @@ namespace {
 
 using Implementation = Value (*)(Arguments, const Context&);
 
-// NULL for any NULL argument: what most functions do.
+/// NULL for any NULL argument: what most functions do.
 template <Implementation F>
 Value strict(Arguments arguments, const Context& context) {
   for (const Value& argument : arguments) {
-    if (argument.isNull()) {
-      return {};
-    }
+    if (argument.isNull()) return {};
   }
   return F(arguments, context);
 }
@@ -26,23 +24,16 @@ constexpr Implementation kLazy = nullptr;
 // No text is longer, and no year or character code is greater.
 constexpr double kLongest = 1e10;
 
-// In the order of their names: findFunction searches by halves.
+/// In the order of their names: findFunction searches by halves.
 constexpr Function kTable[] = {
     {"ABS", 1, 1, true, types::number, strict<library::absolute>},
-    {"ACOS", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Acos>>},
     {"ADD_MONTHS", 2, 2, true, types::date, strict<library::addMonths>},
     {"ASCII", 1, 1, true, types::wholeNumber, strict<library::ascii>, kLongest},
-    {"ASIN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Asin>>},
-    {"ATAN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Atan>>},
-    {"ATAN2", 2, 2, true, types::number, strict<library::arcTangent2>},
-    {"BIN_TO_NUM", 1, kAny, true, types::number, strict<library::binaryToNumber>},
     {"BITAND", 2, 2, true, types::number, strict<library::bitAnd>},
     {"CEIL", 1, 1, true, types::firstAsNumber, strict<library::ceiling>},
     {"CHR", 1, 1, true, types::varchar, strict<library::character>},
     {"COALESCE", 2, kAny, true, types::coalesce, kLazy},
     {"CONCAT", 2, 2, true, types::varchar, library::concat},
-    {"COS", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Cos>>},
-    {"COSH", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Cosh>>},
     {"DECODE", 3, kAny, true, types::decode, kLazy},
     {"EXP", 1, 1, true, types::number, strict<library::exponential>},
     {"EXTRACT", 2, 2, true, types::wholeNumber, strict<library::extract>, kLongest},
@@ -63,11 +54,7 @@ constexpr Function kTable[] = {
     {"LTRIM", 1, 2, true, types::varchar, strict<library::trimLeft>},
     {"MOD", 2, 2, true, types::bothWhole, strict<library::modulo>},
     {"MONTHS_BETWEEN", 2, 2, true, types::number, strict<library::monthsBetween>},
-    {"NANVL", 2, 2, true, types::number, strict<library::notANumberValue>},
     {"NEXT_DAY", 2, 2, true, types::date, strict<library::nextDay>},
-    {"NLS_INITCAP", 1, 2, true, types::varchar, strict<library::sortedAsBinary<library::initialCapitals>>},
-    {"NLS_LOWER", 1, 2, true, types::varchar, strict<library::sortedAsBinary<library::lower>>},
-    {"NLS_UPPER", 1, 2, true, types::varchar, strict<library::sortedAsBinary<library::upper>>},
     {"NULLIF", 2, 2, true, types::first, kLazy},
     {"NVL", 2, 2, true, types::nvl, kLazy},
     {"NVL2", 3, 3, true, types::nvl2, kLazy},
@@ -79,26 +66,18 @@ constexpr Function kTable[] = {
     {"RPAD", 2, 3, true, types::varchar, strict<library::padRight>},
     {"RTRIM", 1, 2, true, types::varchar, strict<library::trimRight>},
     {"SIGN", 1, 1, true, types::wholeNumber, strict<library::sign>, 1},
-    {"SIN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Sin>>},
-    {"SINH", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Sinh>>},
-    {"SOUNDEX", 1, 1, true, types::varchar, strict<library::soundex>},
     {"SQRT", 1, 1, true, types::number, strict<library::squareRoot>},
-    {"STATSPACK.V1024", 5, 5, true, types::varchar, library::statspackV1024},
     {"SUBSTR", 2, 3, true, types::varchar, strict<library::substring>},
     {"SUBSTRB", 2, 3, true, types::varchar, strict<library::substringBytes>},
     {"SYSDATE", 0, 0, false, types::date, library::systemDate},
-    {"TAN", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Tan>>},
-    {"TANH", 1, 1, true, types::number, strict<library::trigonometricOf<Trigonometric::Tanh>>},
-    {"TO_CHAR", 1, 3, true, types::varchar, strict<library::toCharacter>},
+    {"TO_CHAR", 1, 2, true, types::varchar, strict<library::toCharacter>},
     // What a model leaves out comes from the running month.
-    {"TO_DATE", 1, 3, false, types::date, strict<library::toDateValue>},
-    {"TO_NUMBER", 1, 3, true, types::number, strict<library::toNumeric>},
+    {"TO_DATE", 1, 2, false, types::date, strict<library::toDateValue>},
+    {"TO_NUMBER", 1, 2, true, types::number, strict<library::toNumeric>},
     {"TRANSLATE", 3, 3, true, types::varchar, strict<library::translate>},
     {"TRIM", 1, 3, true, types::varchar, strict<library::trim>},
     {"TRUNC", 1, 2, true, types::dateOrNumber, strict<library::truncate>},
     {"UPPER", 1, 1, true, types::sameText, strict<library::upper>},
-    {"VSIZE", 1, 1, true, types::wholeNumber, strict<library::storedSize>, kLongest},
-    {"WIDTH_BUCKET", 4, 4, true, types::number, library::widthBucket},
 };
 
 static_assert(std::ranges::is_sorted(kTable, {}, &Function::name));

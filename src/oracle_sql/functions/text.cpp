@@ -7,7 +7,7 @@
 namespace oracle_sql::library {
 namespace {
 
-// What SUBSTR keeps of `size` units: from the first (0: as 1, negative: from the end) as many as asked.
+/// What SUBSTR keeps of `size` units: from the first (0: as 1, negative: from the end) as many as asked.
 struct Slice {
   std::size_t begin = 0;
   std::size_t count = 0;  // 0: nothing
@@ -18,9 +18,7 @@ Slice sliceOf(Arguments arguments, std::size_t size) {
   std::int64_t begin = toWhole(arguments[1]);
   std::int64_t count = arguments.size() > 2 ? toWhole(arguments[2]) : total;
   begin = begin > 0 ? begin - 1 : begin == 0 ? 0 : begin < -total ? -1 : begin + total;
-  if (begin < 0 || begin >= total || count < 1) {
-    return {};
-  }
+  if (begin < 0 || begin >= total || count < 1) return {};
   count = std::min(count, total - begin);
   return {static_cast<std::size_t>(begin), static_cast<std::size_t>(count)};
 }
@@ -35,11 +33,10 @@ Value mapped(const Value& argument, Change change) {
     const std::string_view one = text.view().substr(at, size);
     const std::uint32_t code = utf8::decode(one);
     const std::uint32_t changed = change(code);
-    if (changed == code) {
+    if (changed == code)
       out += one;
-    } else {
+    else
       utf8::append(out, changed);
-    }
     at += size;
   }
   return Value::text(std::move(out));
@@ -60,30 +57,25 @@ Value substring(Arguments arguments, const Context&) {
   const std::string_view view = text.view();
   const bool ascii = utf8::isAscii(view);
   const Slice slice = sliceOf(arguments, ascii ? view.size() : utf8::length(view));
-  if (ascii) {
-    return text.piece(view.substr(slice.begin, slice.count));
-  }
+  if (ascii) return text.piece(view.substr(slice.begin, slice.count));
   const std::string_view rest = view.substr(utf8::offset(view, slice.begin));
   return text.piece(rest.substr(0, utf8::offset(rest, slice.count)));
 }
 
-// The bytes of a character that is cut through become blanks, so that the result is text again.
+/// The bytes of a character that is cut through become blanks, so that the result is text again.
 Value substringBytes(Arguments arguments, const Context&) {
   const TextOf text(arguments[0]);
   const std::string_view view = text.view();
   const Slice slice = sliceOf(arguments, view.size());
   const std::size_t end = slice.begin + slice.count;
-  if (slice.count == 0 || utf8::isAscii(view)) {
-    return text.piece(view.substr(slice.begin, slice.count));
-  }
+  if (slice.count == 0 || utf8::isAscii(view)) return text.piece(view.substr(slice.begin, slice.count));
   std::string out;
   for (std::size_t at = 0; at < end;) {
     const std::size_t next = at + utf8::sizeAt(view, at);
-    if (at >= slice.begin && next <= end) {
+    if (at >= slice.begin && next <= end)
       out += view.substr(at, next - at);
-    } else if (next > slice.begin) {
+    else if (next > slice.begin)
       out.append(std::min(next, end) - std::max(at, slice.begin), ' ');
-    }
     at = next;
   }
   return Value::text(std::move(out));
@@ -104,56 +96,21 @@ Value initialCapitals(Arguments arguments, const Context&) {
 
 Value concat(Arguments arguments, const Context&) { return concatenate(arguments[0], arguments[1]); }
 
-// Knuth's: the first letter and three digits for the consonants that follow. Like consonants in a row count
-// once, also with H or W between them. NULL for a text without letters of A to Z.
-Value soundex(Arguments arguments, const Context&) {
-  static constexpr std::string_view kDigits = "01230120022455012623010202";  // of A to Z
-  const TextOf text(arguments[0]);
-  std::string code;
-  char last = '0';
-  for (const char c : text.view()) {
-    if (!isAsciiLetter(c)) {
-      continue;
-    }
-    const char letter = asciiUpper(c);
-    const char digit = kDigits[static_cast<std::size_t>(letter - 'A')];
-    if (code.empty()) {
-      code += letter;
-    } else if (digit != '0' && digit != last) {
-      code += digit;
-    }
-    if (letter != 'H' && letter != 'W') {
-      last = digit;
-    }
-    if (code.size() == 4) {
-      break;
-    }
-  }
-  if (!code.empty()) {
-    code.resize(4, '0');
-  }
-  return Value::text(std::move(code));
-}
-
-// The bytes of the first character as one number.
+/// The bytes of the first character as one number.
 Value ascii(Arguments arguments, const Context&) {
   const TextOf text(arguments[0]);
   std::int64_t code = 0;
-  for (const char c : text.view().substr(0, utf8::sizeAt(text.view(), 0))) {
+  for (const char c : text.view().substr(0, utf8::sizeAt(text.view(), 0)))
     code = code * 256 + static_cast<unsigned char>(c);
-  }
   return code;
 }
 
 Value character(Arguments arguments, const Context&) {
   const std::int64_t code = toWhole(arguments[0]);
-  if (code < 0 || code > 0xFFFFFFFF) {
-    raiseArgumentOutOfRange(Number(code).toText());
-  }
+  if (code < 0 || code > 0xFFFFFFFF) raiseArgumentOutOfRange(Number(code).toText());
   std::string bytes;
-  for (std::int64_t rest = code; rest != 0 || bytes.empty(); rest /= 256) {
+  for (std::int64_t rest = code; rest != 0 || bytes.empty(); rest /= 256)
     bytes.insert(0, 1, static_cast<char>(rest % 256));
-  }
   return Value::text(std::move(bytes));
 }
 

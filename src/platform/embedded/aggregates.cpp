@@ -202,15 +202,6 @@ void registerAggregates(sqlite3* connection, Evaluation& evaluation) {
   addMoving<VarianceAccumulator, &VarianceAccumulator::variance>(connection, "num_variance", evaluation);
   addMoving<VarianceAccumulator, &VarianceAccumulator::standardDeviation>(connection, "num_stddev",
                                                                           evaluation);
-  addMoving<VarianceAccumulator, &VarianceAccumulator::sampleVariance>(connection, "num_var_samp",
-                                                                       evaluation);
-  addMoving<VarianceAccumulator, &VarianceAccumulator::populationVariance>(connection, "num_var_pop",
-                                                                           evaluation);
-
-  addMoving<VarianceAccumulator, &VarianceAccumulator::sampleDeviation>(connection, "num_stddev_samp",
-                                                                        evaluation);
-  addMoving<VarianceAccumulator, &VarianceAccumulator::populationDeviation>(connection, "num_stddev_pop",
-                                                                            evaluation);
 
   const auto addAggregate = [&](const char* name, int count, auto stepFunction, auto finalFunction) {
     checkRegistration(sqlite3_create_function_v2(connection, name, count, kPure, &evaluation, nullptr,

@@ -5,6 +5,7 @@
 #include "platform/ascii.h"
 #include "platform/database.h"
 #include "platform/embedded/sqlite_handle.h"
+#include "statspack/package.h"
 
 namespace kestrelix::embedded {
 namespace {
@@ -51,6 +52,10 @@ const sql::CatalogueTable* FileCatalogue::table(std::string_view schema, std::st
   if (!schema.empty() && schema != owner_) return nullptr;
   const auto found = byName_.find(std::string(name));
   return found == byName_.end() ? nullptr : &found->second->table;
+}
+
+const sql::Function* FileCatalogue::packageFunction(std::string_view name) const {
+  return statspack::packageFunction(name);
 }
 
 NumberFacts FileCatalogue::facts(const sql::CatalogueTable& table, int column) const {

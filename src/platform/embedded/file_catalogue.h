@@ -20,6 +20,7 @@ class FileCatalogue final : public sql::Catalogue {
   explicit FileCatalogue(sqlite3* connection);
 
   const sql::CatalogueTable* table(std::string_view schema, std::string_view name) const override;
+  const sql::Function* packageFunction(std::string_view name) const override;
   NumberFacts facts(const sql::CatalogueTable& table, int column) const;
 
  private:

@@ -52,7 +52,6 @@ void checkRegistration(int result, const char* name);
 
 void registerNumberFunctions(sqlite3* connection, Evaluation& evaluation);
 void registerTextFunctions(sqlite3* connection, Evaluation& evaluation);
-void registerDateFunctions(sqlite3* connection, Evaluation& evaluation);
 void registerAggregates(sqlite3* connection, Evaluation& evaluation);
 void registerKeptValues(sqlite3* connection, Evaluation& evaluation);
 void registerPercentiles(sqlite3* connection, Evaluation& evaluation);

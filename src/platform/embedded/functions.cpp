@@ -10,6 +10,7 @@
 #include "platform/database.h"
 #include "platform/embedded/function_frame.h"
 #include "platform/embedded/storage.h"
+#include "statspack/package.h"
 
 namespace kestrelix::embedded {
 namespace {
@@ -107,7 +108,6 @@ void checkRegistration(int result, const char* name) {
 void registerFunctions(sqlite3* connection, Evaluation& evaluation) {
   registerNumberFunctions(connection, evaluation);
   registerTextFunctions(connection, evaluation);
-  registerDateFunctions(connection, evaluation);
   registerAggregates(connection, evaluation);
   registerKeptValues(connection, evaluation);
   registerPercentiles(connection, evaluation);
@@ -126,8 +126,13 @@ void registerFunctions(sqlite3* connection, Evaluation& evaluation) {
                     "nvl2_of_all");
 }
 
+const values::Function* functionNamed(std::string_view name) {
+  const values::Function* function = values::findFunction(name);
+  return function ? function : statspack::packageFunction(name);
+}
+
 void registerFunction(sqlite3* connection, const FunctionUse& use, Evaluation& evaluation) {
-  const values::Function* function = values::findFunction(use.function);
+  const values::Function* function = functionNamed(use.function);
   if (!function || !function->call)
     throw DatabaseError("HY000", 0, "the function " + use.function + " is not there");
   auto typed = std::make_unique<TypedFunction>(TypedFunction{function, use.signature, &evaluation});

@@ -3,6 +3,9 @@
 
 #include <sqlite3.h>
 
+#include <string_view>
+
+#include "oracle_sql/functions.h"
 #include "platform/embedded/evaluation.h"
 #include "platform/embedded/lowering/lowering.h"
 
@@ -14,5 +17,8 @@ void registerFunctions(sqlite3* connection, Evaluation& evaluation);
 
 /// Registers one function of the language for arguments of given types, under `use.name`.
 void registerFunction(sqlite3* connection, const FunctionUse& use, Evaluation& evaluation);
+
+/// The function of that name in the language or in STATSPACK's package, or null.
+const values::Function* functionNamed(std::string_view name);
 
 }  // namespace kestrelix::embedded

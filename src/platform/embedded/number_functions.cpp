@@ -255,21 +255,6 @@ void castNumber(sqlite3_context* context, int, Values arguments) {
   }
 }
 
-/// FLOAT(b) keeps as many decimal digits as b binary ones are worth.
-void castFloat(sqlite3_context* context, int, Values arguments) {
-  if (isNull(arguments[0])) return sqlite3_result_null(context);
-  try {
-    const Number number = numberOf(arguments[0]);
-    const int digits = (sqlite3_value_int(arguments[1]) * 30103 + 99999) / 100000;
-    const values::NumberParts parts = number.parts();
-    if (parts.count == 0) return giveNumber(context, number);
-    const int before = 2 * parts.exponent + (parts.digit[0] >= 10 ? 2 : 1);  // digits before the point
-    giveNumber(context, number.round(digits - before));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[2]));
-  }
-}
-
 /// How far a frame or a shift goes: a whole number that is not below the second argument.
 void rowOffset(sqlite3_context* context, int, Values arguments) {
   try {
@@ -295,7 +280,7 @@ constexpr Entry kFunctions[] = {
     {"num_key", 1, orderKey},      {"whole_up", 1, wholeUp},      {"whole_down", 1, wholeDown},
     {"rows_up_to", 1, rowsUpTo},   {"rows_below", 1, rowsBelow},  {"date_days", 3, dateDays},
     {"date_plus", 3, datePlus},    {"date_minus", 3, dateMinus},  {"cast_number", 4, castNumber},
-    {"cast_float", 3, castFloat},  {"num_chain", -1, chain},      {"row_offset", 3, rowOffset},
+    {"num_chain", -1, chain},      {"row_offset", 3, rowOffset},
 };
 
 }  // namespace

@@ -123,7 +123,7 @@ std::unique_ptr<PreparedStatement> StatementCache::translate(const std::string& 
   prepared->lowered = lower(tree, facts);
   for (const auto& use : prepared->lowered.functions) {
     if (registered_.insert(use.name).second) registerFunction(connection_, use, evaluation_);
-    prepared->asksClock = prepared->asksClock || !values::findFunction(use.function)->deterministic;
+    prepared->asksClock = prepared->asksClock || !functionNamed(use.function)->deterministic;
   }
   try {
     prepared->handle = prepare(connection_, prepared->lowered.text);

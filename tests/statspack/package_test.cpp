@@ -1,17 +1,25 @@
 #include <gtest/gtest.h>
 
-#include "function_support.h"
+#include "oracle_sql/function_support.h"
+#include "statspack/package.h"
 
-namespace oracle_sql {
+namespace kestrelix::statspack {
 namespace {
+
+using namespace oracle_sql;
+
+std::string answer(std::initializer_list<Value> arguments) {
+  const std::vector<Value> values(arguments);
+  return shown(packageFunction("Statspack.v1024")->call(values, {kNow}));
+}
 
 std::string v1024(const char* number, const char* unit, const char* least, const char* precision,
                   const char* factor) {
-  return call("STATSPACK.V1024", {n(number), s(unit), s(least), n(precision), n(factor)});
+  return answer({n(number), s(unit), s(least), n(precision), n(factor)});
 }
 
 TEST(StatspackV1024, onlyNullAndNoughtAreBlank) {
-  EXPECT_EQ(" ", call("STATSPACK.V1024", {null, s("M"), s("M"), n("0"), n("1024")}));
+  EXPECT_EQ(" ", answer({null, s("M"), s("M"), n("0"), n("1024")}));
   EXPECT_EQ(" ", v1024("0", "M", "M", "0", "1024"));
   EXPECT_EQ("    0M", v1024("0.4", "M", "M", "0", "1024"));
   EXPECT_EQ("     .0M", v1024("0.0444", "M", "M", "1", "1024"));
@@ -62,4 +70,4 @@ TEST(StatspackV1024, moreThanTheLargestUnitHoldsIsHashes) {
 }
 
 }  // namespace
-}  // namespace oracle_sql
+}  // namespace kestrelix::statspack

@@ -7,6 +7,7 @@
 
 #include "oracle_sql/spelling.h"
 #include "oracle_sql/tree.h"
+#include "support/statement_text/quoting.h"
 
 namespace oracle_sql {
 
@@ -40,7 +41,6 @@ class Printer {
   void binary(const Expr& left, Level leftLeast, std::string_view op, const Expr& right, Level rightLeast);
   void terms(const ExprList& list, const char* op, Level least);
   void bare(const Expr& e);
-  void compare(const Compare& c);
   void caseExpr(const CaseExpr& c);
 
   // printer_call.cpp

@@ -1,7 +1,8 @@
 // Queries as indented lines, and equality of trees by these lines.
-#include "oracle_sql/dump_state.h"
-#include "oracle_sql/printer.h"
 #include "oracle_sql/spelling.h"
+#include "support/statement_text/dump_state.h"
+#include "support/statement_text/printer.h"
+#include "support/statement_text/quoting.h"
 
 namespace oracle_sql {
 
@@ -76,7 +77,7 @@ void Dump::block(const SelectBlock& b) {
 void Dump::groupings(const List<GroupingTerm*>& terms) {
   const Indent in(*this);
   for (const GroupingTerm* t : terms) {
-    line(t->kind == GroupingKind::Keys ? "keys" : std::string(spelling(t->kind)));
+    line(t->rollup ? "ROLLUP" : "keys");
     below(t->keys);
     groupings(t->terms);
   }
@@ -117,7 +118,7 @@ void Dump::from(const FromItem& f) {
 }
 
 void Dump::join(const JoinItem& j) {
-  line((j.natural ? "NATURAL " : "") + std::string(spelling(j.join)) + " JOIN");
+  line(std::string(spelling(j.join)) + " JOIN");
   const Indent in(*this);
   from(*j.left);
   from(*j.right);

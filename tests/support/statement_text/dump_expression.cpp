@@ -1,6 +1,7 @@
 // Expressions as indented lines.
-#include "oracle_sql/dump_state.h"
 #include "oracle_sql/spelling.h"
+#include "support/statement_text/dump_state.h"
+#include "support/statement_text/quoting.h"
 
 namespace oracle_sql {
 
@@ -15,14 +16,8 @@ void Dump::expr(const Expr& e) {
     case ExprKind::String:
       head(e, "text " + quotedText(static_cast<const StringLiteral&>(e).value));
       break;
-    case ExprKind::IntervalLiteral: {
-      const auto& i = static_cast<const IntervalLiteral&>(e);
-      head(e, "interval " + quotedText(i.value) + " " + spelling(i.fields));
-      break;
-    }
     case ExprKind::DateLiteral:
-      head(e, (static_cast<const DateLiteral&>(e).timestamp ? "timestamp " : "date ") +
-                  quotedText(static_cast<const DateLiteral&>(e).value));
+      head(e, ("date ") + quotedText(static_cast<const DateLiteral&>(e).value));
       break;
     case ExprKind::Column:
       column(static_cast<const ColumnRef&>(e));
@@ -82,17 +77,10 @@ void Dump::expr(const Expr& e) {
       head(e, "row");
       below(static_cast<const RowExpr&>(e).items);
       break;
-    case ExprKind::Compare: {
-      const auto& c = static_cast<const Compare&>(e);
-      const char* q = c.quantifier == Quantifier::None  ? ""
-                      : c.quantifier == Quantifier::Any ? " any"
-                                                        : " all";
-      head(e, std::string(spelling(c.op)) + q);
-      below({c.left, c.right});
-      below(c.list);
-      below(c.query);
+    case ExprKind::Compare:
+      head(e, std::string(spelling(static_cast<const Compare&>(e).op)));
+      below({static_cast<const Compare&>(e).left, static_cast<const Compare&>(e).right});
       break;
-    }
     case ExprKind::And:
       head(e, "and");
       below(static_cast<const AndExpr&>(e).terms);

@@ -1,5 +1,6 @@
-#include "oracle_sql/printer_state.h"
 #include "oracle_sql/spelling.h"
+#include "support/statement_text/printer_state.h"
+#include "support/statement_text/quoting.h"
 
 namespace oracle_sql {
 
@@ -64,14 +65,8 @@ void Printer::bare(const Expr& e) {
     case ExprKind::String:
       out_ += quotedText(static_cast<const StringLiteral&>(e).value);
       break;
-    case ExprKind::IntervalLiteral: {
-      const auto& i = static_cast<const IntervalLiteral&>(e);
-      out_ += "INTERVAL " + quotedText(i.value) + " " + spelling(i.fields);
-      break;
-    }
     case ExprKind::DateLiteral:
-      out_ += static_cast<const DateLiteral&>(e).timestamp ? "TIMESTAMP " : "DATE ";
-      out_ += quotedText(static_cast<const DateLiteral&>(e).value);
+      out_ += "DATE " + quotedText(static_cast<const DateLiteral&>(e).value);
       break;
     case ExprKind::Column: {
       const auto& c = static_cast<const ColumnRef&>(e);
@@ -131,9 +126,11 @@ void Printer::bare(const Expr& e) {
       list(static_cast<const RowExpr&>(e).items);
       out_ += ')';
       break;
-    case ExprKind::Compare:
-      compare(static_cast<const Compare&>(e));
+    case ExprKind::Compare: {
+      const auto& c = static_cast<const Compare&>(e);
+      binary(*c.left, kAdditive, spelling(c.op), *c.right, kAdditive);
       break;
+    }
     case ExprKind::And:
       terms(static_cast<const AndExpr&>(e).terms, " AND ", kNot);
       break;
@@ -185,23 +182,6 @@ void Printer::bare(const Expr& e) {
       bracketed(*static_cast<const Exists&>(e).query);
       break;
   }
-}
-
-void Printer::compare(const Compare& c) {
-  expr(*c.left, kAdditive);
-  out_ += ' ';
-  out_ += spelling(c.op);
-  out_ += ' ';
-  if (c.quantifier == Quantifier::None) {
-    expr(*c.right, kAdditive);
-    return;
-  }
-  out_ += c.quantifier == Quantifier::Any ? "ANY (" : "ALL (";
-  if (c.query)
-    query(*c.query);
-  else
-    list(c.list);
-  out_ += ')';
 }
 
 void Printer::caseExpr(const CaseExpr& c) {

@@ -1,7 +1,8 @@
-#include "oracle_sql/printer.h"
+#include "support/statement_text/printer.h"
 
-#include "oracle_sql/printer_state.h"
 #include "oracle_sql/spelling.h"
+#include "support/statement_text/printer_state.h"
+#include "support/statement_text/quoting.h"
 
 namespace oracle_sql {
 
@@ -94,7 +95,7 @@ void Printer::groupings(const List<GroupingTerm*>& terms) {
   for (std::size_t i = 0; i < terms.size(); ++i) {
     if (i > 0) out_ += ", ";
     const GroupingTerm& t = *terms[i];
-    out_ += spelling(t.kind);
+    if (t.rollup) out_ += "ROLLUP";
     out_ += '(';
     list(t.keys);
     groupings(t.terms);
@@ -147,7 +148,7 @@ void Printer::from(const FromItem& f) {
 
 void Printer::join(const JoinItem& j) {
   from(*j.left);
-  out_ += j.natural ? " NATURAL " : " ";
+  out_ += ' ';
   out_ += spelling(j.join);
   out_ += " JOIN ";
   const bool brackets = j.right->kind == FromKind::Join;

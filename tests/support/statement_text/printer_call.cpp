@@ -1,6 +1,7 @@
 #include "oracle_sql/keywords.h"
-#include "oracle_sql/printer_state.h"
 #include "oracle_sql/spelling.h"
+#include "support/statement_text/printer_state.h"
+#include "support/statement_text/quoting.h"
 
 namespace oracle_sql {
 
