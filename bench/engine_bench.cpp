@@ -6,8 +6,8 @@
 
 #include "bench/bench_repository.h"
 #include "bench/questions.h"
-#include "oracle_sql/parser.h"
-#include "oracle_sql/resolver.h"
+#include "oracle_sql/meaning/resolver.h"
+#include "oracle_sql/syntax/parser.h"
 #include "platform/embedded/file_catalogue.h"
 #include "platform/embedded/local_database.h"
 #include "platform/embedded/repository_file.h"

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "oracle_sql/ascii_case.h"
-#include "oracle_sql/number_format.h"
+#include "oracle_sql/number/number_format.h"
+#include "oracle_sql/text/ascii_case.h"
 
 namespace kestrelix::statspack {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "oracle_sql/functions.h"
+#include "oracle_sql/functions/functions.h"
 
 namespace kestrelix::statspack {
 

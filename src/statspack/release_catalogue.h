@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "oracle_sql/catalogue.h"
+#include "oracle_sql/meaning/catalogue.h"
 #include "statspack/release.h"
 
 namespace kestrelix::statspack {

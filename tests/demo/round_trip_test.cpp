@@ -7,8 +7,8 @@
 #include <fstream>
 #include <span>
 
-#include "oracle_sql/date.h"
-#include "oracle_sql/number.h"
+#include "oracle_sql/date/date.h"
+#include "oracle_sql/number/number.h"
 #include "platform/ascii.h"
 #include "platform/embedded/demo/demo.h"
 #include "platform/embedded/import/importer.h"

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "oracle_sql/parser.h"
+#include "oracle_sql/syntax/parser.h"
 #include "platform/embedded/functions.h"
 #include "platform/embedded/lowering/lowering.h"
 #include "platform/embedded/sqlite_handle.h"

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <sqlite3.h>
 
-#include "oracle_sql/error.h"
+#include "oracle_sql/syntax/error.h"
 #include "platform/embedded/lowering/sqlite_printer.h"
 #include "platform/embedded/sqlite_handle.h"
 
@@ -44,7 +44,8 @@ TEST_F(SqlitePrinter, operatorInsideAnotherStandsInBrackets) {
   EXPECT_EQ(printed(op(Operator::Multiply, {sum, c()})), R"(("a" + "T"."b") * "c")");
   EXPECT_EQ(printed(op(Operator::Subtract, {c(), sum})), R"("c" - ("a" + "T"."b"))");
   EXPECT_EQ(printed(op(Operator::Minus, {sum})), R"(-("a" + "T"."b"))");
-  EXPECT_EQ(printed(op(Operator::Less, {sum, call("abs", {sum})})), R"(("a" + "T"."b") < abs("a" + "T"."b"))");
+  EXPECT_EQ(printed(op(Operator::Less, {sum, call("abs", {sum})})),
+            R"(("a" + "T"."b") < abs("a" + "T"."b"))");
   EXPECT_EQ(printed(op(Operator::Or, {op(Operator::And, {a(), c()}), op(Operator::Not, {a()})})),
             R"(("a" AND "c") OR (NOT "a"))");
   EXPECT_EQ(printed(op(Operator::Not, {in(a(), true, {integer(1), text("x")})})),
@@ -55,7 +56,8 @@ TEST_F(SqlitePrinter, testBehindItsOperandIsClearBetweenConditionsAlone) {
   const Expr* test = op(Operator::IsNull, {a()});
   EXPECT_EQ(printed(op(Operator::And, {test, c()})), R"("a" IS NULL AND "c")");
   EXPECT_EQ(printed(op(Operator::Equal, {c(), test})), R"("c" = ("a" IS NULL))");
-  EXPECT_EQ(printed(op(Operator::IsNotTrue, {op(Operator::Equal, {a(), c()})})), R"(("a" = "c") IS NOT TRUE)");
+  EXPECT_EQ(printed(op(Operator::IsNotTrue, {op(Operator::Equal, {a(), c()})})),
+            R"(("a" = "c") IS NOT TRUE)");
 }
 
 TEST_F(SqlitePrinter, signOfANumberIsNoOperatorOfItsOwn) {

@@ -7,7 +7,7 @@
 #include <set>
 
 #include "embedded/test_repository.h"
-#include "oracle_sql/number.h"
+#include "oracle_sql/number/number.h"
 #include "platform/embedded/local_database.h"
 #include "platform/embedded/names.h"
 #include "support/json.h"

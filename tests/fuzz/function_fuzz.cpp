@@ -6,7 +6,7 @@
 #include <iostream>
 #include <vector>
 
-#include "oracle_sql/functions.h"
+#include "oracle_sql/functions/functions.h"
 
 namespace {
 

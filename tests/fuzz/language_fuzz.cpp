@@ -5,7 +5,7 @@
 #include <iostream>
 #include <string_view>
 
-#include "oracle_sql/parser.h"
+#include "oracle_sql/syntax/parser.h"
 #include "platform/embedded/lowering/lowering.h"
 #include "support/small_catalogue.h"
 #include "support/statement_text/printer.h"

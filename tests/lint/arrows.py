@@ -5,14 +5,26 @@ import pathlib
 import re
 import sys
 
+# The rooms of the language; the files that lie in none of its folders are common ground.
+ORACLE_SQL = {
+    "oracle_sql": set(),
+    "oracle_sql/text": set(),
+    "oracle_sql/number": {"oracle_sql", "oracle_sql/text"},
+    "oracle_sql/date": {"oracle_sql", "oracle_sql/text", "oracle_sql/number"},
+    "oracle_sql/functions": {"oracle_sql", "oracle_sql/text", "oracle_sql/number", "oracle_sql/date"},
+    "oracle_sql/syntax": {"oracle_sql", "oracle_sql/text"},
+    "oracle_sql/meaning": {"oracle_sql", "oracle_sql/text", "oracle_sql/number", "oracle_sql/date",
+                           "oracle_sql/functions", "oracle_sql/syntax"},
+}
+
 # From the ground up: a room may include itself and those that its entry names.
 ROOMS = {
-    "oracle_sql": set(),
-    "statspack": {"oracle_sql"},
+    **ORACLE_SQL,
+    "statspack": {*ORACLE_SQL},
     "platform": set(),
-    "platform/embedded": {"platform", "statspack", "oracle_sql"},
+    "platform/embedded": {"platform", "statspack", *ORACLE_SQL},
     "platform/chm": {"platform"},
-    "platform/odbc": {"platform", "oracle_sql"},
+    "platform/odbc": {"platform", *ORACLE_SQL},
     "navigation": {"platform"},
     "documents": {"platform"},
     "report": {"navigation", "platform"},

@@ -1,4 +1,4 @@
-#include "oracle_sql/date.h"
+#include "oracle_sql/date/date.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "oracle_sql/date_format.h"
+#include "oracle_sql/date/date_format.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "oracle_sql/number_format.h"
+#include "oracle_sql/number/number_format.h"
 
 #include <gtest/gtest.h>
 

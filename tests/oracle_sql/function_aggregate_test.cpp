@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "function_support.h"
-#include "oracle_sql/aggregates.h"
+#include "oracle_sql/functions/aggregates.h"
 
 namespace oracle_sql {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "oracle_sql/date_format.h"
-#include "oracle_sql/functions.h"
+#include "oracle_sql/date/date_format.h"
+#include "oracle_sql/functions/functions.h"
 
 // Short words for tests of functions: calls by name, and values as they are written in SQL.
 namespace oracle_sql {

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "oracle_sql/parser.h"
+#include "oracle_sql/syntax/parser.h"
 #include "support/golden_file.h"
 #include "support/small_catalogue.h"
 #include "support/statement_text/printer.h"

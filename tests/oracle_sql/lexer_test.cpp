@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "oracle_sql/error.h"
-#include "oracle_sql/token.h"
+#include "oracle_sql/syntax/error.h"
+#include "oracle_sql/syntax/token.h"
 
 namespace oracle_sql {
 namespace {

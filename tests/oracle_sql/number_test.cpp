@@ -1,4 +1,4 @@
-#include "oracle_sql/number.h"
+#include "oracle_sql/number/number.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "oracle_sql/parser.h"
+#include "oracle_sql/syntax/parser.h"
 #include "support/statement_text/printer.h"
 
 namespace oracle_sql {

@@ -1,7 +1,7 @@
 // Random statements: each is understood or refused with an error that is not this program's own fault.
 #include <gtest/gtest.h>
 
-#include "oracle_sql/parser.h"
+#include "oracle_sql/syntax/parser.h"
 #include "support/random_statement.h"
 #include "support/small_catalogue.h"
 #include "support/statement_text/printer.h"

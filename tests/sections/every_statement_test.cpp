@@ -7,9 +7,9 @@
 #include <algorithm>
 
 #include "navigation/repository.h"
-#include "oracle_sql/error.h"
-#include "oracle_sql/parser.h"
-#include "oracle_sql/resolver.h"
+#include "oracle_sql/meaning/resolver.h"
+#include "oracle_sql/syntax/error.h"
+#include "oracle_sql/syntax/parser.h"
 #include "platform/ascii.h"
 #include "statspack/release_catalogue.h"
 #include "support/snapshots.h"

@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <map>
 
-#include "oracle_sql/parser.h"
-#include "oracle_sql/resolver.h"
+#include "oracle_sql/meaning/resolver.h"
+#include "oracle_sql/syntax/parser.h"
 #include "platform/ascii.h"
 #include "platform/embedded/lowering/lowering.h"
 #include "sections/EveryStatement.h"

@@ -4,9 +4,9 @@
 #include <map>
 #include <string>
 
-#include "oracle_sql/catalogue.h"
-#include "oracle_sql/functions.h"
-#include "oracle_sql/resolver.h"
+#include "oracle_sql/functions/functions.h"
+#include "oracle_sql/meaning/catalogue.h"
+#include "oracle_sql/meaning/resolver.h"
 
 namespace testing_support {
 

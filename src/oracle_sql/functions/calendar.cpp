@@ -1,5 +1,5 @@
-#include "oracle_sql/ascii_case.h"
 #include "oracle_sql/functions/library.h"
+#include "oracle_sql/text/ascii_case.h"
 
 namespace oracle_sql::library {
 

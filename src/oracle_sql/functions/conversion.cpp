@@ -1,6 +1,6 @@
-#include "oracle_sql/date_format.h"
+#include "oracle_sql/date/date_format.h"
 #include "oracle_sql/functions/library.h"
-#include "oracle_sql/number_format.h"
+#include "oracle_sql/number/number_format.h"
 
 namespace oracle_sql::library {
 Value toCharacter(Arguments arguments, const Context&) {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "oracle_sql/functions.h"
+#include "oracle_sql/functions/functions.h"
 
 /// Where table.cpp wraps a row in
 /// strict<>, the arguments that come here are not NULL.

@@ -1,5 +1,5 @@
 #include "oracle_sql/functions/library.h"
-#include "oracle_sql/utf8.h"
+#include "oracle_sql/text/utf8.h"
 
 namespace oracle_sql {
 

@@ -1,6 +1,6 @@
-#include "oracle_sql/ascii_case.h"
 #include "oracle_sql/functions/library.h"
-#include "oracle_sql/utf8.h"
+#include "oracle_sql/text/ascii_case.h"
+#include "oracle_sql/text/utf8.h"
 
 namespace oracle_sql::library {
 namespace {

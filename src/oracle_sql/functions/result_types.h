@@ -1,7 +1,7 @@
 // The rules by which a function's type follows from those of its arguments.
 #pragma once
 
-#include "oracle_sql/functions.h"
+#include "oracle_sql/functions/functions.h"
 
 namespace oracle_sql::types {
 

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <string>
 
-#include "oracle_sql/ascii_case.h"
 #include "oracle_sql/functions/library.h"
 #include "oracle_sql/functions/result_types.h"
+#include "oracle_sql/text/ascii_case.h"
 
 namespace oracle_sql {
 namespace {

@@ -2,7 +2,7 @@
 #include <memory>
 #include <type_traits>
 
-#include "oracle_sql/aggregates.h"
+#include "oracle_sql/functions/aggregates.h"
 #include "platform/embedded/function_frame.h"
 #include "platform/embedded/storage.h"
 

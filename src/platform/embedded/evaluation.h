@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "oracle_sql/value.h"
+#include "oracle_sql/functions/value.h"
 #include "platform/embedded/names.h"
 
 namespace kestrelix::embedded {

@@ -9,7 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "oracle_sql/catalogue.h"
+#include "oracle_sql/meaning/catalogue.h"
 #include "platform/embedded/lowering/lowering.h"
 
 namespace kestrelix::embedded {

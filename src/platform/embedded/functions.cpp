@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "oracle_sql/functions.h"
+#include "oracle_sql/functions/functions.h"
 #include "platform/database.h"
 #include "platform/embedded/function_frame.h"
 #include "platform/embedded/storage.h"

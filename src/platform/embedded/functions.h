@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "oracle_sql/functions.h"
+#include "oracle_sql/functions/functions.h"
 #include "platform/embedded/evaluation.h"
 #include "platform/embedded/lowering/lowering.h"
 

@@ -4,7 +4,7 @@
 #include <set>
 #include <string>
 
-#include "oracle_sql/aggregates.h"
+#include "oracle_sql/functions/aggregates.h"
 #include "platform/embedded/sort_keys.h"
 #include "platform/embedded/storage.h"
 

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <utility>
 
-#include "oracle_sql/date.h"
-#include "oracle_sql/error.h"
+#include "oracle_sql/date/date.h"
 #include "oracle_sql/function_error.h"
+#include "oracle_sql/syntax/error.h"
 #include "platform/cancelled.h"
 #include "platform/embedded/account.h"
 #include "platform/embedded/repository_file.h"

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "oracle_sql/date.h"
+#include "oracle_sql/date/date.h"
 #include "platform/embedded/function_frame.h"
 #include "platform/embedded/storage.h"
 

@@ -4,7 +4,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "oracle_sql/date.h"
+#include "oracle_sql/date/date.h"
 #include "platform/embedded/sort_keys.h"
 #include "platform/embedded/storage.h"
 

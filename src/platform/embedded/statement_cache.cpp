@@ -4,11 +4,11 @@
 #include <charconv>
 #include <cmath>
 
-#include "oracle_sql/functions.h"
-#include "oracle_sql/number.h"
-#include "oracle_sql/parser.h"
-#include "oracle_sql/resolver.h"
-#include "oracle_sql/token.h"
+#include "oracle_sql/functions/functions.h"
+#include "oracle_sql/meaning/resolver.h"
+#include "oracle_sql/number/number.h"
+#include "oracle_sql/syntax/parser.h"
+#include "oracle_sql/syntax/token.h"
 #include "platform/cancelled.h"
 #include "platform/embedded/functions.h"
 #include "platform/embedded/lowering/sqlite_printer.h"

@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "oracle_sql/number.h"
-#include "oracle_sql/value.h"
+#include "oracle_sql/functions/value.h"
+#include "oracle_sql/number/number.h"
 #include "platform/embedded/names.h"
 
 namespace kestrelix::embedded {

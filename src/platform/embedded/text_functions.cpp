@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 
-#include "oracle_sql/functions.h"
+#include "oracle_sql/functions/functions.h"
 #include "platform/embedded/function_frame.h"
 #include "platform/embedded/storage.h"
 

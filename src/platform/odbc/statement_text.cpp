@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "oracle_sql/error.h"
-#include "oracle_sql/token.h"
+#include "oracle_sql/syntax/error.h"
+#include "oracle_sql/syntax/token.h"
 #include "platform/ascii.h"
 #include "platform/database.h"
 

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "oracle_sql/function_error.h"
-#include "oracle_sql/number.h"
+#include "oracle_sql/number/number.h"
 
 namespace {
 

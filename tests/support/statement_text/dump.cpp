@@ -1,5 +1,5 @@
 // Queries as indented lines, and equality of trees by these lines.
-#include "oracle_sql/spelling.h"
+#include "oracle_sql/syntax/spelling.h"
 #include "support/statement_text/dump_state.h"
 #include "support/statement_text/printer.h"
 #include "support/statement_text/quoting.h"

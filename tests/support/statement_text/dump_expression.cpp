@@ -1,5 +1,5 @@
 // Expressions as indented lines.
-#include "oracle_sql/spelling.h"
+#include "oracle_sql/syntax/spelling.h"
 #include "support/statement_text/dump_state.h"
 #include "support/statement_text/quoting.h"
 

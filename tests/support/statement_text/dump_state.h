@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "oracle_sql/tree.h"
+#include "oracle_sql/syntax/tree.h"
 
 namespace oracle_sql {
 

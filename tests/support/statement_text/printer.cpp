@@ -1,6 +1,6 @@
 #include "support/statement_text/printer.h"
 
-#include "oracle_sql/spelling.h"
+#include "oracle_sql/syntax/spelling.h"
 #include "support/statement_text/printer_state.h"
 #include "support/statement_text/quoting.h"
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "oracle_sql/tree.h"
+#include "oracle_sql/syntax/tree.h"
 
 namespace oracle_sql {
 

@@ -1,5 +1,5 @@
-#include "oracle_sql/keywords.h"
-#include "oracle_sql/spelling.h"
+#include "oracle_sql/syntax/keywords.h"
+#include "oracle_sql/syntax/spelling.h"
 #include "support/statement_text/printer_state.h"
 #include "support/statement_text/quoting.h"
 

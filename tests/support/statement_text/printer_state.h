@@ -5,8 +5,8 @@
 #include <string_view>
 #include <utility>
 
-#include "oracle_sql/spelling.h"
-#include "oracle_sql/tree.h"
+#include "oracle_sql/syntax/spelling.h"
+#include "oracle_sql/syntax/tree.h"
 #include "support/statement_text/quoting.h"
 
 namespace oracle_sql {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "oracle_sql/keywords.h"
+#include "oracle_sql/syntax/keywords.h"
 
 namespace oracle_sql {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "oracle_sql/tree.h"
+#include "oracle_sql/syntax/tree.h"
 
 namespace oracle_sql {
 

@@ -9,7 +9,7 @@
 #include <map>
 #include <optional>
 
-#include "oracle_sql/number.h"
+#include "oracle_sql/number/number.h"
 #include "platform/ascii.h"
 #include "platform/embedded/import/csv_reader.h"
 

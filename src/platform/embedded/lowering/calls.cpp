@@ -1,4 +1,4 @@
-#include "oracle_sql/functions.h"
+#include "oracle_sql/functions/functions.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {

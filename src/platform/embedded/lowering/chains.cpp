@@ -1,6 +1,6 @@
 // Chains of arithmetic, as programs write them by the hundred, are one call for many operators: calls nested
 // in each other would be deeper than SQLite takes.
-#include "oracle_sql/spelling.h"
+#include "oracle_sql/syntax/spelling.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {

@@ -2,7 +2,7 @@
 // to null, never pads with blanks, and evaluates no result but the one that it gives.
 #include <algorithm>
 
-#include "oracle_sql/same_expression.h"
+#include "oracle_sql/meaning/same_expression.h"
 #include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/rules.h"
 

@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "oracle_sql/function_error.h"
-#include "oracle_sql/number.h"
-#include "oracle_sql/spelling.h"
+#include "oracle_sql/number/number.h"
+#include "oracle_sql/syntax/spelling.h"
 #include "platform/embedded/lowering/builders.h"
 
 namespace kestrelix::embedded {

@@ -5,8 +5,8 @@
 #include <functional>
 #include <map>
 
-#include "oracle_sql/same_expression.h"
-#include "oracle_sql/walk.h"
+#include "oracle_sql/meaning/same_expression.h"
+#include "oracle_sql/syntax/walk.h"
 #include "platform/embedded/lowering/block.h"
 #include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/walk.h"

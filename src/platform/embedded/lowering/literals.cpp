@@ -1,7 +1,7 @@
 #include <array>
 #include <cmath>
 
-#include "oracle_sql/date_format.h"
+#include "oracle_sql/date/date_format.h"
 #include "platform/embedded/lowering/rules.h"
 
 namespace kestrelix::embedded {

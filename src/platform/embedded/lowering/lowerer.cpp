@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "oracle_sql/catalogue.h"
+#include "oracle_sql/meaning/catalogue.h"
 #include "platform/ascii.h"
 #include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/sqlite_printer.h"

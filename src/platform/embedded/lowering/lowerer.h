@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "oracle_sql/error.h"
-#include "oracle_sql/tree.h"
+#include "oracle_sql/syntax/error.h"
+#include "oracle_sql/syntax/tree.h"
 #include "platform/embedded/lowering/lowering.h"
 #include "platform/embedded/lowering/sqlite_tree.h"
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "oracle_sql/tree.h"
+#include "oracle_sql/syntax/tree.h"
 #include "platform/embedded/names.h"
 
 namespace kestrelix::embedded {

@@ -1,6 +1,6 @@
 // An aggregate belongs to the block that it stands in, even if it names nothing but columns of the blocks
 // around. SQLite takes such a one for theirs, unless it names something of its own block as well.
-#include "oracle_sql/walk.h"
+#include "oracle_sql/syntax/walk.h"
 #include "platform/embedded/lowering/block.h"
 #include "platform/embedded/lowering/builders.h"
 #include "platform/embedded/lowering/walk.h"

@@ -2,7 +2,7 @@
 // branches of its own is put into a subquery.
 #include <algorithm>
 
-#include "oracle_sql/spelling.h"
+#include "oracle_sql/syntax/spelling.h"
 #include "platform/embedded/lowering/builders.h"
 
 namespace kestrelix::embedded {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "oracle_sql/error.h"
+#include "oracle_sql/syntax/error.h"
 #include "platform/embedded/names.h"
 
 namespace kestrelix::embedded::lite {

@@ -1,6 +1,6 @@
 // What nobody reads is not selected: a column of an inline view that no block around it names is left out,
 // and with it the windows and functions that it would take.
-#include "oracle_sql/walk.h"
+#include "oracle_sql/syntax/walk.h"
 #include "platform/embedded/lowering/builders.h"
 
 namespace kestrelix::embedded {

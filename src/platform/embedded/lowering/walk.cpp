@@ -1,6 +1,6 @@
 #include "platform/embedded/lowering/walk.h"
 
-#include "oracle_sql/walk.h"
+#include "oracle_sql/syntax/walk.h"
 
 namespace kestrelix::embedded {
 

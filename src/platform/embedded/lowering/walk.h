@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "oracle_sql/tree.h"
+#include "oracle_sql/syntax/tree.h"
 #include "platform/embedded/names.h"
 
 namespace kestrelix::embedded {

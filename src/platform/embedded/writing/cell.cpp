@@ -5,7 +5,7 @@
 #include <chrono>
 #include <optional>
 
-#include "oracle_sql/number.h"
+#include "oracle_sql/number/number.h"
 
 namespace kestrelix::embedded {
 
