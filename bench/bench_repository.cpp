@@ -9,14 +9,14 @@
 #include <string>
 #include <vector>
 
-#include "platform/embedded/storage.h"
-#include "platform/embedded/writing/repository_writer.h"
+#include "repository_file/storage.h"
+#include "repository_file/writing/repository_writer.h"
 #include "statspack/release.h"
 
 namespace kestrelix::bench {
 namespace {
 
-using embedded::Cell;
+using repository_file::Cell;
 
 constexpr int kStatistics = 380;
 constexpr int kEvents = 120;
@@ -27,10 +27,10 @@ constexpr int kStatements = 250;
 /// One table of release 11, filled by column name.
 class Table {
  public:
-  Table(embedded::RepositoryWriter& writer, const std::string& name)
+  Table(repository_file::RepositoryWriter& writer, const std::string& name)
       : Table(writer, *statspack::release("11").table(name)) {}
-  Table(embedded::RepositoryWriter& writer, const statspack::Table& table) {
-    std::vector<embedded::NewColumn> columns;
+  Table(repository_file::RepositoryWriter& writer, const statspack::Table& table) {
+    std::vector<repository_file::NewColumn> columns;
     for (const auto& column : table.columns) {
       places_[column.name] = columns.size();
       columns.push_back({column.name, column.type});
@@ -63,7 +63,7 @@ class Table {
   std::map<std::string, std::size_t> places_;
   std::map<std::string, std::string> texts_;
   std::vector<Cell> cells_;
-  embedded::TableWriter* out_;
+  repository_file::TableWriter* out_;
 };
 
 std::string numbered(const char* stem, int number) { return stem + std::to_string(number); }
@@ -74,7 +74,7 @@ std::int64_t growth(std::mt19937& random, int which) {
   return static_cast<std::int64_t>(random() % 100000) * (which % 29 + 1);
 }
 
-void writeCounters(embedded::RepositoryWriter& writer, std::mt19937& random) {
+void writeCounters(repository_file::RepositoryWriter& writer, std::mt19937& random) {
   Table snapshots(writer, "stats$snapshot");
   Table statistics(writer, "stats$sysstat");
   Table events(writer, "stats$system_event");
@@ -109,7 +109,7 @@ void writeCounters(embedded::RepositoryWriter& writer, std::mt19937& random) {
   for (int i = 0; i < kIdleEvents; ++i) idle.set("event", numbered("wait event number ", i * 3)).insert();
 }
 
-void writeStatements(embedded::RepositoryWriter& writer, std::mt19937& random) {
+void writeStatements(repository_file::RepositoryWriter& writer, std::mt19937& random) {
   Table parameters(writer, "stats$parameter");
   Table statements(writer, "stats$sql_summary");
   std::vector<std::int64_t> runs(kStatements);
@@ -154,7 +154,8 @@ void makeNative(const std::filesystem::path& file) {
   if (sqlite3_open(file.c_str(), &connection) != SQLITE_OK)
     throw std::runtime_error("no copy to make native");
   const auto toReal = [](sqlite3_context* context, int, sqlite3_value** arguments) {
-    sqlite3_result_text(context, embedded::numberOf(arguments[0]).toText().c_str(), -1, SQLITE_TRANSIENT);
+    sqlite3_result_text(context, repository_file::numberOf(arguments[0]).toText().c_str(), -1,
+                        SQLITE_TRANSIENT);
   };
   sqlite3_create_function_v2(connection, "number_text", 1, SQLITE_UTF8, nullptr, toReal, nullptr, nullptr,
                              nullptr);
@@ -182,7 +183,7 @@ BenchRepository::BenchRepository() {
   if (!mkdtemp(pattern.data())) throw std::runtime_error("no folder to measure in");
   folder_ = pattern;
   std::mt19937 random(11);
-  embedded::RepositoryWriter writer(repository(), {}, "bench");
+  repository_file::RepositoryWriter writer(repository(), {}, "bench");
   writeCounters(writer, random);
   writeStatements(writer, random);
   for (const auto& table : statspack::everyRelease().tables())

@@ -8,9 +8,9 @@
 #include "bench/questions.h"
 #include "oracle_sql/meaning/resolver.h"
 #include "oracle_sql/syntax/parser.h"
-#include "platform/embedded/file_catalogue.h"
-#include "platform/embedded/local_database.h"
-#include "platform/embedded/repository_file.h"
+#include "repository_file/file_catalogue.h"
+#include "repository_file/local_database.h"
+#include "repository_file/repository_file.h"
 
 namespace kestrelix::bench {
 namespace {
@@ -19,7 +19,7 @@ namespace {
 int firstPair(const Question& question) { return kSnapshots - question.pairs; }
 
 void askEngine(benchmark::State& state, const std::filesystem::path& file, const Question& question) {
-  embedded::LocalDatabase database(file);
+  repository_file::LocalDatabase database(file);
   auto& binds = database.parameters();
   const auto bind = [&](const std::string& name, const std::string& value, bool text) {
     binds.Add(name, 0, 1);
@@ -46,8 +46,8 @@ void askEngine(benchmark::State& state, const std::filesystem::path& file, const
 
 void askSqlite(benchmark::State& state, const std::filesystem::path& file, const Question& question) {
   // The same cache and the same absence of locks as the program's own connection has.
-  const auto connection = embedded::openRepositoryFile(file);
-  const auto statement = embedded::prepare(connection.get(), question.sqlite);
+  const auto connection = repository_file::openRepositoryFile(file);
+  const auto statement = repository_file::prepare(connection.get(), question.sqlite);
   const auto place = [&](const std::string& name) {
     return sqlite3_bind_parameter_index(statement.get(), (":" + name).c_str());
   };
@@ -67,10 +67,10 @@ void askSqlite(benchmark::State& state, const std::filesystem::path& file, const
       sqlite3_bind_int64(statement.get(), place("B3"), pair);
       sqlite3_bind_int64(statement.get(), place("B4"), pair + 1);
       std::vector<std::optional<std::string>> cells;
-      while (embedded::step(statement.get())) {
+      while (repository_file::step(statement.get())) {
         ++rows;
         for (int i = 0; i < sqlite3_column_count(statement.get()); ++i)
-          cells.emplace_back(embedded::columnText(statement.get(), i));
+          cells.emplace_back(repository_file::columnText(statement.get(), i));
       }
       sqlite3_reset(statement.get());
       benchmark::DoNotOptimize(cells.data());
@@ -80,18 +80,18 @@ void askSqlite(benchmark::State& state, const std::filesystem::path& file, const
 }
 
 void translate(benchmark::State& state, const std::filesystem::path& file) {
-  const auto connection = embedded::openRepositoryFile(file);
-  const embedded::FileCatalogue catalogue(connection.get());
+  const auto connection = repository_file::openRepositoryFile(file);
+  const repository_file::FileCatalogue catalogue(connection.get());
   const std::string text = longestStatement();
-  const embedded::LoweringFacts facts{
+  const repository_file::LoweringFacts facts{
       [&](const oracle_sql::CatalogueTable& table, int index) { return catalogue.facts(table, index); },
       [](std::string_view) {
-        return embedded::NumberFacts{true, 1e9};
+        return repository_file::NumberFacts{true, 1e9};
       }};
   for (auto _ : state) {
     auto tree = oracle_sql::parse(text);
     oracle_sql::resolve(tree, catalogue, oracle_sql::allNumbers);
-    const auto lowered = embedded::lower(tree, facts);
+    const auto lowered = repository_file::lower(tree, facts);
     benchmark::DoNotOptimize(lowered.text.data());
   }
   state.counters["bytes"] = static_cast<double>(text.size());

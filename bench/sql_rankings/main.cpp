@@ -16,8 +16,8 @@
 #include <stdexcept>
 
 #include "navigation/ModuleLoadCommon.h"
-#include "platform/embedded/local_session.h"
 #include "report/ModuleDispCommon.h"
+#include "repository_file/local_session.h"
 #include "sections/SectionList.h"
 #include "sql_rankings_repository.h"
 
@@ -50,7 +50,7 @@ std::string firstAndBest(const std::function<void()>& work) {
 class Report {
  public:
   explicit Report(const std::string& file) : workspace_(boxes_) {
-    workspace_.gOraSession = embedded::localSession(file);
+    workspace_.gOraSession = repository_file::localSession(file);
     workspace_.gOraDatabase =
         workspace_.gOraSession->OpenDatabase("BENCH", "PERFSTAT/perfstat", kDatabaseOptions);
     for (const char* key : {"GRID", "SQL", "PLAN"}) workspace_.controls.ToolbarTop.Add(key, key, "");

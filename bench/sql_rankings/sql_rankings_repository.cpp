@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "platform/embedded/writing/repository_writer.h"
+#include "repository_file/writing/repository_writer.h"
 #include "statspack/release.h"
 
 namespace kestrelix::bench {
 namespace {
 
-using embedded::Cell;
+using repository_file::Cell;
 
 constexpr long kHour = 3600;
 constexpr long kStart = 1767571200;  // 2026-01-05 00:00:00
@@ -18,8 +18,8 @@ constexpr long kStart = 1767571200;  // 2026-01-05 00:00:00
 /// Rows told by column name; columns left out are NULL, those that the release lacks are skipped.
 class Rows {
  public:
-  Rows(embedded::RepositoryWriter& writer, const Extent& extent, const std::string& name) {
-    std::vector<embedded::NewColumn> columns;
+  Rows(repository_file::RepositoryWriter& writer, const Extent& extent, const std::string& name) {
+    std::vector<repository_file::NewColumn> columns;
     for (const statspack::Column& column : statspack::release(extent.version).table(name)->columns) {
       at_[column.name] = columns.size();
       columns.push_back({column.name, column.type});
@@ -37,7 +37,7 @@ class Rows {
  private:
   std::map<std::string, std::size_t> at_;
   std::vector<Cell> cells_;
-  embedded::TableWriter* table_;
+  repository_file::TableWriter* table_;
 };
 
 /// Growth of a statement from one snapshot to the next: few statements do most of the work.
@@ -46,7 +46,7 @@ long growth(int statement, int snapshot) {
   return share + (statement * 7919L + snapshot * 104729L) % (1 + share / 4);
 }
 
-void writeStatements(embedded::RepositoryWriter& writer, const Extent& extent) {
+void writeStatements(repository_file::RepositoryWriter& writer, const Extent& extent) {
   Rows rows(writer, extent, "stats$sql_summary");
   std::vector<long> work(static_cast<std::size_t>(extent.statements), 0);
   std::vector<std::string> subsets, addresses;
@@ -73,7 +73,7 @@ void writeStatements(embedded::RepositoryWriter& writer, const Extent& extent) {
     }
 }
 
-void writeTotals(embedded::RepositoryWriter& writer, const Extent& extent) {
+void writeTotals(repository_file::RepositoryWriter& writer, const Extent& extent) {
   Rows names(writer, extent, "stats$time_model_statname");
   names.set("stat_id", 1).set("stat_name", "DB time").add();
   names.set("stat_id", 2).set("stat_name", "DB CPU").add();
@@ -98,7 +98,7 @@ void writeTotals(embedded::RepositoryWriter& writer, const Extent& extent) {
 }  // namespace
 
 void writeRankedRepository(const std::filesystem::path& file, const Extent& extent) {
-  embedded::RepositoryWriter writer(file, {}, "a benchmark");
+  repository_file::RepositoryWriter writer(file, {}, "a benchmark");
   const std::string version = extent.version + ".2.0.4.0";  // cells only look at their texts
   Rows instance(writer, extent, "stats$database_instance");
   instance.set("startup_time", kStart).set("snap_id", 1).set("parallel", "YES").set("version", version);

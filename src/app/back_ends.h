@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <memory>
 
-#include "platform/embedded/local_session.h"
-#include "platform/odbc/odbc_session.h"
+#include "odbc/odbc_session.h"
+#include "repository_file/local_session.h"
 #include "shell/BackEndChain.h"
 
 namespace kestrelix {
@@ -26,7 +26,7 @@ inline BackEnd odbcDatabases() {
 /// A local repository of the name comes first, then what ODBC knows.
 inline std::unique_ptr<Session> anySession(const std::filesystem::path& folder) {
   return std::make_unique<BackEndChain>(
-      std::vector<BackEnd>{localRepositories(folder, embedded::localSession), odbcDatabases()});
+      std::vector<BackEnd>{localRepositories(folder, repository_file::localSession), odbcDatabases()});
 }
 
 }  // namespace kestrelix

@@ -3,9 +3,9 @@
 #include <iostream>
 
 #include "app/back_ends.h"
-#include "platform/qt/Desktop.h"
-#include "platform/qt/HelpWindow.h"
-#include "platform/qt/desktop_services.h"
+#include "desktop/Desktop.h"
+#include "desktop/HelpWindow.h"
+#include "desktop/desktop_services.h"
 #include "sections/SectionList.h"
 #include "shell/login_folder.h"
 

@@ -1,5 +1,5 @@
-// The renderers by their own names, for whoever wants one Section and not the one that a list has selected. Each
-// is a reading of the Section's row.
+// The renderers by their own names, for whoever wants one Section and not the one that a list has selected.
+// Each is a reading of the Section's row.
 #pragma once
 
 #include "report/reading.h"

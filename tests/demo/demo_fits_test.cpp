@@ -1,7 +1,7 @@
 // The demo's counters grow and fit each other.
 #include "demo/demo_support.h"
 
-namespace kestrelix::embedded {
+namespace kestrelix::demo {
 namespace {
 
 // A statistic of stats$sysstat at the snapshot of `s`.
@@ -398,4 +398,4 @@ TEST_F(DemoTest, aBadHourEatsTheMachine) {
 }
 
 }  // namespace
-}  // namespace kestrelix::embedded
+}  // namespace kestrelix::demo

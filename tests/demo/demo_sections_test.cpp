@@ -5,7 +5,7 @@
 #include "demo/demo_support.h"
 #include "support/report_fixture.h"
 
-namespace kestrelix::embedded {
+namespace kestrelix::demo {
 namespace {
 
 constexpr int kBusyPair = 10;     // Monday from 10 to 11
@@ -67,4 +67,4 @@ TEST_F(DemoTest, theTopEventsShareTheCallTime) {
 }
 
 }  // namespace
-}  // namespace kestrelix::embedded
+}  // namespace kestrelix::demo

@@ -4,7 +4,7 @@
 #include "demo/demo_support.h"
 #include "platform/code_page.h"
 
-namespace kestrelix::embedded {
+namespace kestrelix::demo {
 namespace {
 
 TEST_F(DemoTest, textPiecesHoldSixtyFourBytesOfTheCodePage) {
@@ -96,4 +96,4 @@ TEST_F(DemoTest, segmentsAreCapturedFromLevelSevenAndHavePartitions) {
 }
 
 }  // namespace
-}  // namespace kestrelix::embedded
+}  // namespace kestrelix::demo

@@ -7,10 +7,13 @@
 #include <filesystem>
 #include <string>
 
-#include "platform/embedded/demo/demo.h"
+#include "demo/demo.h"
 #include "support/sqlite_reading.h"
 
-namespace kestrelix::embedded {
+namespace kestrelix::demo {
+
+using repository_file::readTexts;
+using repository_file::Texts;
 
 class DemoTest : public ::testing::Test {
  protected:
@@ -18,7 +21,7 @@ class DemoTest : public ::testing::Test {
     if (!path().empty()) return;
     path() =
         std::filesystem::temp_directory_path() / ("kestrelix-demo-" + std::to_string(::getpid()) + ".sqlite");
-    demo::makeDemo(path(), {});
+    makeDemo(path(), {});
     static const struct Remover {
       ~Remover() {
         std::error_code ignored;
@@ -40,4 +43,4 @@ class DemoTest : public ::testing::Test {
 
 inline const Texts kNone;
 
-}  // namespace kestrelix::embedded
+}  // namespace kestrelix::demo

@@ -1,4 +1,4 @@
-#include "platform/embedded/demo/demo.h"
+#include "demo/demo.h"
 
 #include <fstream>
 #include <iterator>
@@ -7,12 +7,12 @@
 
 #include "demo/demo_support.h"
 #include "platform/code_page.h"
-#include "platform/embedded/local_session.h"
+#include "repository_file/local_session.h"
 #include "statspack/release.h"
 #include "support/answering_progress.h"
 #include "support/test_folder.h"
 
-namespace kestrelix::embedded {
+namespace kestrelix::demo {
 namespace {
 
 std::string bytesOf(const std::filesystem::path& path) {
@@ -22,8 +22,8 @@ std::string bytesOf(const std::filesystem::path& path) {
 
 TEST_F(DemoTest, fewerThanTwoSnapshotsAreRefused) {
   const auto file = std::filesystem::temp_directory_path() / "kestrelix-demo-refused.sqlite";
-  EXPECT_THROW(demo::makeDemo(file, {.snapshots = 1}), std::invalid_argument);
-  EXPECT_THROW(demo::makeDemo(file, {.snapshots = 100001}), std::invalid_argument);
+  EXPECT_THROW(makeDemo(file, {.snapshots = 1}), std::invalid_argument);
+  EXPECT_THROW(makeDemo(file, {.snapshots = 100001}), std::invalid_argument);
   EXPECT_FALSE(std::filesystem::exists(file));
 }
 
@@ -36,7 +36,7 @@ TEST_F(DemoTest, aDemoThatIsToldToEndLeavesNothingBehind) {
     EXPECT_EQ(all, 18);
     return done < 4;
   });
-  EXPECT_THROW(demo::makeDemo(folder / "demo.sqlite", {.snapshots = 3}, progress), Cancelled);
+  EXPECT_THROW(makeDemo(folder / "demo.sqlite", {.snapshots = 3}, progress), Cancelled);
   EXPECT_EQ(written, 4);
   EXPECT_EQ(folder.files(), 0);
 }
@@ -45,16 +45,16 @@ TEST_F(DemoTest, theSeedDecidesTheBytes) {
   const auto folder =
       std::filesystem::temp_directory_path() / ("kestrelix-demo-seeds-" + std::to_string(::getpid()));
   std::filesystem::create_directory(folder);
-  demo::makeDemo(folder / "a", {.snapshots = 3, .seed = 7});
-  demo::makeDemo(folder / "b", {.snapshots = 3, .seed = 7});
-  demo::makeDemo(folder / "c", {.snapshots = 3, .seed = 8});
+  makeDemo(folder / "a", {.snapshots = 3, .seed = 7});
+  makeDemo(folder / "b", {.snapshots = 3, .seed = 7});
+  makeDemo(folder / "c", {.snapshots = 3, .seed = 8});
   EXPECT_TRUE(bytesOf(folder / "a") == bytesOf(folder / "b"));
   EXPECT_FALSE(bytesOf(folder / "a") == bytesOf(folder / "c"));
   std::filesystem::remove_all(folder);
 }
 
 TEST_F(DemoTest, opensWithItsAccountAlone) {
-  LocalFileSession session(path());
+  repository_file::LocalFileSession session(path());
   EXPECT_NO_THROW(session.OpenDatabase("DEMO", "PERFSTAT/perfstat", 1));
   EXPECT_THROW(session.OpenDatabase("DEMO", "PERFSTAT/other", 1), DatabaseError);
 }
@@ -277,4 +277,4 @@ TEST_F(DemoTest, hostAndTimeStatisticsHaveTheirNames) {
 }
 
 }  // namespace
-}  // namespace kestrelix::embedded
+}  // namespace kestrelix::demo

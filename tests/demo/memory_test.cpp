@@ -2,11 +2,11 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 
+#include "demo/demo.h"
 #include "demo/demo_support.h"
-#include "platform/embedded/demo/demo.h"
 #include "support/report_fixture.h"
 
-namespace kestrelix::embedded::demo {
+namespace kestrelix::demo {
 namespace {
 
 /// Shows the All view of every Section of the open instance and the series of its first row.
@@ -40,4 +40,4 @@ TEST(Memory, repeatedViewsKeepNothing) {
 }
 
 }  // namespace
-}  // namespace kestrelix::embedded::demo
+}  // namespace kestrelix::demo

@@ -7,14 +7,17 @@
 #include <fstream>
 #include <span>
 
+#include "demo/demo.h"
+#include "import/importer.h"
 #include "oracle_sql/date/date.h"
 #include "oracle_sql/number/number.h"
 #include "platform/ascii.h"
-#include "platform/embedded/demo/demo.h"
-#include "platform/embedded/import/importer.h"
 #include "support/sqlite_reading.h"
 
-namespace kestrelix::embedded {
+namespace kestrelix::demo {
+
+using repository_file::readTexts;
+using repository_file::Texts;
 namespace {
 
 std::string two(int value) { return (value < 10 ? "0" : "") + std::to_string(value); }
@@ -76,12 +79,12 @@ TEST(RoundTrip, anExportedRepositoryComesBackRowByRow) {
   std::filesystem::create_directories(folder / "csv");
   const auto original = folder / "original.sqlite";
   const auto copy = folder / "copy.sqlite";
-  demo::makeDemo(original, {.snapshots = 3});
+  makeDemo(original, {.snapshots = 3});
   const Texts tables = readTexts(original, "select distinct table_name from \"kestrelix$column\" order by 1");
   for (const std::string& table : tables)
     exportTable(original, table, folder / "csv" / (asciiUpper(table) + ".csv"));
 
-  const auto imported = importFolder(folder / "csv", copy, {});
+  const auto imported = importing::importFolder(folder / "csv", copy, {});
   EXPECT_EQ(imported.size(), tables.size());
   EXPECT_EQ(readTexts(copy, "select distinct table_name from \"kestrelix$column\" order by 1"), tables);
   EXPECT_EQ(readTexts(copy,
@@ -106,4 +109,4 @@ TEST(RoundTrip, anExportedRepositoryComesBackRowByRow) {
 }
 
 }  // namespace
-}  // namespace kestrelix::embedded
+}  // namespace kestrelix::demo

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "oracle_sql/syntax/parser.h"
-#include "platform/embedded/lowering/lowering.h"
+#include "repository_file/lowering/lowering.h"
 #include "support/small_catalogue.h"
 #include "support/statement_text/printer.h"
 
@@ -18,8 +18,8 @@ namespace {
 }
 
 /// Every other column holds small whole numbers, and so does every other bind.
-kestrelix::embedded::LoweringFacts facts() {
-  using kestrelix::embedded::NumberFacts;
+kestrelix::repository_file::LoweringFacts facts() {
+  using kestrelix::repository_file::NumberFacts;
   return {[](const auto&, int index) {
             return index % 2 == 0 ? NumberFacts{true, 1e6} : NumberFacts{};
           },
@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     resolve(tree, catalogue, &testing_support::SmallCatalogue::bind);
     if (dump(*tree.query()).empty()) fault("empty dump", statement);
-    if (kestrelix::embedded::lower(tree, facts()).text.empty()) fault("lowered to nothing", statement);
+    if (kestrelix::repository_file::lower(tree, facts()).text.empty()) fault("lowered to nothing", statement);
   } catch (const SqlError& e) {
     if (e.kind() == ErrorKind::Internal) fault(e.what(), statement);
     if (e.render(statement).empty() || e.place().offset > size) fault("no place", statement);

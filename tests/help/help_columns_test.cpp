@@ -2,8 +2,8 @@
 #include <gmock/gmock.h>
 #include <unistd.h>
 
+#include "demo/demo.h"
 #include "help/help_support.h"
-#include "platform/embedded/demo/demo.h"
 #include "support/report_fixture.h"
 
 namespace kestrelix {
@@ -87,7 +87,7 @@ class HelpOfInstance : public testing::TestWithParam<int> {
       std::string path = (std::filesystem::temp_directory_path() /
                           ("kestrelix-help-columns-" + std::to_string(::getpid()) + ".sqlite"))
                              .string();
-      Demo() { embedded::demo::makeDemo(path, {.snapshots = 12}); }
+      Demo() { demo::makeDemo(path, {.snapshots = 12}); }
       ~Demo() {
         std::error_code ignored;
         std::filesystem::remove(path, ignored);

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/chm/HelpFile.h"
+#include "chm/HelpFile.h"
 
 namespace kestrelix::testing_support {
 

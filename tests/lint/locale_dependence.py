@@ -25,7 +25,7 @@ def main():
     faults = []
     for file in files:
         relative = file.relative_to(root).as_posix()
-        if relative.startswith("src/platform/qt/") or relative in EXCEPTIONS:
+        if relative.startswith("src/desktop/") or relative in EXCEPTIONS:
             continue
         for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
             code = line.split("//")[0]

@@ -6,8 +6,8 @@
 
 #include "conformance/database_conformance.h"
 #include "odbc/data_sources.h"
+#include "odbc/odbc_session.h"
 #include "odbc/postgres_cluster.h"
-#include "platform/odbc/odbc_session.h"
 
 namespace kestrelix::conformance {
 namespace {

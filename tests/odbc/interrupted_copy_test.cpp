@@ -7,8 +7,8 @@
 #include <fstream>
 #include <thread>
 
+#include "odbc/odbc_session.h"
 #include "odbc/postgres_cluster.h"
-#include "platform/odbc/odbc_session.h"
 #include "support/run_program.h"
 
 namespace kestrelix {

@@ -3,8 +3,8 @@
 
 #include "navigation/clsSnapId.h"
 #include "odbc/delaying_proxy.h"
+#include "odbc/odbc_session.h"
 #include "odbc/postgres_cluster.h"
-#include "platform/odbc/odbc_session.h"
 #include "report/SectionObject.h"
 
 namespace kestrelix {

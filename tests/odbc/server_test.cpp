@@ -7,9 +7,9 @@
 #include <memory>
 
 #include "navigation/version_gate.h"
+#include "odbc/odbc_session.h"
 #include "odbc/postgres_cluster.h"
 #include "platform/cancelled.h"
-#include "platform/odbc/odbc_session.h"
 #include "sections/SectionList.h"
 #include "shell/ModuleDispCommon.h"
 #include "shell/ModuleLoadCommon.h"

@@ -2,10 +2,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/odbc/connection_text.h"
-#include "platform/odbc/plain_number.h"
-#include "platform/odbc/statement_text.h"
-#include "platform/odbc/utf16.h"
+#include "odbc/connection_text.h"
+#include "odbc/plain_number.h"
+#include "odbc/statement_text.h"
+#include "odbc/utf16.h"
 
 namespace kestrelix::odbc {
 namespace {

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "platform/embedded/demo/demo.h"
+#include "demo/demo.h"
 #include "support/report_fixture.h"
 #include "support/sqlite_reading.h"
 
@@ -42,7 +42,7 @@ class TemporaryFile {
 const std::filesystem::path& demo() {
   static const struct Demo {
     TemporaryFile file;
-    Demo() { embedded::demo::makeDemo(file.path().string(), {.snapshots = kSnapshots}); }
+    Demo() { demo::makeDemo(file.path().string(), {.snapshots = kSnapshots}); }
   } made;
   return made.file.path();
 }
@@ -74,10 +74,10 @@ struct Table {
 
 std::vector<Table> tables() {
   std::vector<Table> all;
-  for (const std::string& name : embedded::readTexts(
+  for (const std::string& name : repository_file::readTexts(
            demo(), "select name from sqlite_master where type = 'table' and name like 'stats$%'"))
-    all.push_back(
-        {name, embedded::readTexts(demo(), "select lower(name) from pragma_table_info('" + name + "')")});
+    all.push_back({name, repository_file::readTexts(
+                             demo(), "select lower(name) from pragma_table_info('" + name + "')")});
   return all;
 }
 
@@ -106,7 +106,7 @@ enum class Snapshots { Own, Foreign };
 /// the following snapshot, so that they differ. The ids are snapshots of the other one as well, or not.
 void addForeign(const Instance& instance, Of of, Snapshots snapshots, const std::filesystem::path& file) {
   const std::string otherDbid =
-      embedded::readTexts(demo(), "select dbid from stats$snapshot where dbid <> " + instance.dbid)[0];
+      repository_file::readTexts(demo(), "select dbid from stats$snapshot where dbid <> " + instance.dbid)[0];
   const std::string before = "(select max(p.snap_id) from stats$snapshot p where p.snap_id < t.snap_id and " +
                              isOf(instance, "p") + ")";
   std::string statements = "begin;";

@@ -9,7 +9,7 @@
 #include "oracle_sql/meaning/resolver.h"
 #include "oracle_sql/syntax/parser.h"
 #include "platform/ascii.h"
-#include "platform/embedded/lowering/lowering.h"
+#include "repository_file/lowering/lowering.h"
 #include "sections/EveryStatement.h"
 #include "statspack/release_catalogue.h"
 #include "support/golden_file.h"
@@ -60,7 +60,7 @@ class UsedCatalogue : public oracle_sql::Catalogue {
 };
 
 std::string sqliteText(const SentStatement& sent, const UsedCatalogue& catalogue) {
-  using embedded::NumberFacts;
+  using repository_file::NumberFacts;
   oracle_sql::Tree tree = oracle_sql::parse(sent.text);
   oracle_sql::resolve(tree, catalogue, [&](std::string_view name) -> std::optional<oracle_sql::TypeKind> {
     for (const Bind& bind : sent.binds)
@@ -68,14 +68,14 @@ std::string sqliteText(const SentStatement& sent, const UsedCatalogue& catalogue
         return oracle_sql::TypeKind::Varchar2;
     return oracle_sql::TypeKind::Number;
   });
-  return embedded::lower(tree, {[](const oracle_sql::CatalogueTable& table, int index) {
-                                  const bool whole =
-                                      table.columns[static_cast<std::size_t>(index)].type.integral;
-                                  return whole ? NumberFacts{true, 1e12} : NumberFacts{};
-                                },
-                                [](std::string_view) {
-                                  return NumberFacts{true, 9007199254740992.0};
-                                }})
+  return repository_file::lower(tree, {[](const oracle_sql::CatalogueTable& table, int index) {
+                                         const bool whole =
+                                             table.columns[static_cast<std::size_t>(index)].type.integral;
+                                         return whole ? NumberFacts{true, 1e12} : NumberFacts{};
+                                       },
+                                       [](std::string_view) {
+                                         return NumberFacts{true, 9007199254740992.0};
+                                       }})
       .text;
 }
 

@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "platform/embedded/import/importer.h"
+#include "import/importer.h"
 #include "support/report_fixture.h"
 #include "support/sqlite_reading.h"
 
@@ -18,7 +18,7 @@ class ImportedFolder : public ::testing::Test {
   ImportedFolder() {
     path_ = std::filesystem::temp_directory_path() /
             ("kestrelix-imported-" + std::to_string(::getpid()) + ".sqlite");
-    embedded::importFolder(KESTRELIX_SOURCE_DIR "/tests/data/three_snapshots", path_, {});
+    importing::importFolder(KESTRELIX_SOURCE_DIR "/tests/data/three_snapshots", path_, {});
   }
   ~ImportedFolder() override { std::filesystem::remove(path_); }
 
@@ -78,8 +78,8 @@ TEST_F(ImportedFolder, aMissingParameterIsItsGettersBox) {
 }
 
 TEST_F(ImportedFolder, aColumnOfItsOwnIsKept) {
-  EXPECT_EQ(embedded::readTexts(path_, R"(select note from "stats$parameter" where note is not null)"),
-            (embedded::Texts{"typed off the screen"}));
+  EXPECT_EQ(repository_file::readTexts(path_, R"(select note from "stats$parameter" where note is not null)"),
+            (repository_file::Texts{"typed off the screen"}));
 }
 
 }  // namespace

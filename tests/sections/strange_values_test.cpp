@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <set>
 
-#include "platform/embedded/demo/demo.h"
+#include "demo/demo.h"
 #include "support/report_fixture.h"
 
 namespace kestrelix {
@@ -81,7 +81,7 @@ class StrangeValues : public testing::TestWithParam<std::pair<const char*, Chang
   static void SetUpTestSuite() {
     folder_ = fs::temp_directory_path() / ("kestrelix-strange-" + std::to_string(::getpid()));
     fs::create_directories(folder_);
-    embedded::demo::makeDemo(folder_ / "demo.sqlite", {.snapshots = 4});
+    demo::makeDemo(folder_ / "demo.sqlite", {.snapshots = 4});
   }
   static void TearDownTestSuite() { fs::remove_all(folder_); }
 

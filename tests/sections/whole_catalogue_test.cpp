@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <set>
 
-#include "platform/embedded/demo/demo.h"
+#include "demo/demo.h"
 #include "report/versions.h"
 #include "support/report_fixture.h"
 
@@ -202,7 +202,7 @@ const std::string& demo() {
     std::string path = (std::filesystem::temp_directory_path() /
                         ("kestrelix-whole-catalogue-" + std::to_string(::getpid()) + ".sqlite"))
                            .string();
-    Demo() { embedded::demo::makeDemo(path, {.snapshots = kSnapshots}); }
+    Demo() { demo::makeDemo(path, {.snapshots = kSnapshots}); }
     ~Demo() {
       std::error_code ignored;
       std::filesystem::remove(path, ignored);

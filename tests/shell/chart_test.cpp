@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/embedded/local_session.h"
+#include "repository_file/local_session.h"
 #include "sections/SectionList.h"
 #include "sections/head_support.h"
 #include "shell/FormMain.h"
@@ -53,7 +53,7 @@ class ChartOfTheWindow : public ShellTest {
     }
     services.sections = sectionList();
     services.reader = &directReader();
-    workspace.repository.gOraSession = embedded::localSession(repository.write());
+    workspace.repository.gOraSession = repository_file::localSession(repository.write());
     workspace.repository.gOraDatabase =
         workspace.repository.gOraSession->OpenDatabase("FIXTURE", "PERFSTAT/perfstat", kDatabaseOptions);
     main.Load(1, login);

@@ -1,5 +1,5 @@
 // The main window with the program's own operations, on a small repository.
-#include "platform/embedded/local_session.h"
+#include "repository_file/local_session.h"
 #include "sections/SectionList.h"
 #include "shell/FormMain.h"
 #include "shell/report_operations.h"
@@ -20,7 +20,7 @@ class SqlPanelsOfTheWindow : public ShellTest {
     repository.addStatementWithPlan();
     services.sections = sectionList();
     services.reader = &directReader();
-    workspace.repository.gOraSession = embedded::localSession(repository.write());
+    workspace.repository.gOraSession = repository_file::localSession(repository.write());
     workspace.repository.gOraDatabase =
         workspace.repository.gOraSession->OpenDatabase("FIXTURE", "PERFSTAT/perfstat", kDatabaseOptions);
     main.Load(1, login);

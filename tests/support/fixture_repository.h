@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "platform/ascii.h"
-#include "platform/embedded/writing/repository_writer.h"
+#include "repository_file/writing/repository_writer.h"
 #include "statspack/release.h"
 
 namespace kestrelix::testing_support {
@@ -102,12 +102,12 @@ class FixtureRepository {
 
   /// Writes the file, over any earlier one, and tells where it is.
   const std::filesystem::path& write() {
-    embedded::RepositoryWriter writer(path_, {}, "a test");
+    repository_file::RepositoryWriter writer(path_, {}, "a test");
     for (const statspack::Table& table : schema_.tables()) {
       if (left_.contains(table.name)) continue;
-      std::vector<embedded::NewColumn> columns;
+      std::vector<repository_file::NewColumn> columns;
       for (const statspack::Column& column : table.columns) columns.push_back({column.name, column.type});
-      embedded::TableWriter& written = writer.addTable(table.name, std::move(columns));
+      repository_file::TableWriter& written = writer.addTable(table.name, std::move(columns));
       if (neighbours_) writeRows(written, neighboursOf(table));
       writeRows(written, rows_[table.name]);
     }
@@ -167,14 +167,14 @@ class FixtureRepository {
     return larger ? value + "7" : "1";
   }
 
-  void writeRows(embedded::TableWriter& table, const std::vector<Row>& rows) {
+  void writeRows(repository_file::TableWriter& table, const std::vector<Row>& rows) {
     for (const Row& row : rows) {
-      std::vector<embedded::Cell> cells;
+      std::vector<repository_file::Cell> cells;
       std::vector<std::string> scratch(table.columns().size());
       for (std::size_t i = 0; i < table.columns().size(); ++i) {
         const auto found = row.find(table.columns()[i].name);
         const std::string_view text = found == row.end() ? std::string_view() : found->second;
-        cells.push_back(embedded::Cell::fromText(table.columns()[i].type, text, scratch[i]));
+        cells.push_back(repository_file::Cell::fromText(table.columns()[i].type, text, scratch[i]));
       }
       table.insert(cells);
     }

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "navigation/version_gate.h"
-#include "platform/embedded/local_session.h"
+#include "repository_file/local_session.h"
 #include "support/fixture_repository.h"
 #include "support/grid_report.h"
 
@@ -22,7 +22,7 @@ namespace kestrelix::testing_support {
 class ReportFixture {
  public:
   explicit ReportFixture(const std::string& path) {
-    const auto session = [&] { return embedded::localSession(path); };
+    const auto session = [&] { return repository_file::localSession(path); };
     if (!repository().open(session, "FIXTURE", "PERFSTAT/perfstat").empty() ||
         !repository().loadInstances().empty())
       throw std::runtime_error("fixture: no instances");

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace kestrelix::embedded {
+namespace kestrelix::repository_file {
 
 using Texts = std::vector<std::string>;
 
@@ -28,4 +28,4 @@ inline Texts readTexts(const std::filesystem::path& path, const std::string& sql
   return result;
 }
 
-}  // namespace kestrelix::embedded
+}  // namespace kestrelix::repository_file

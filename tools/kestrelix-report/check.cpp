@@ -64,7 +64,7 @@ void check(const Options& options, StderrBoxes& boxes) {
   std::cout << "name: " << name << " leads to " << way << std::endl;
 
   const auto session =
-      options.repository.empty() ? anySession(programFolder()) : embedded::localSession(name);
+      options.repository.empty() ? anySession(programFolder()) : repository_file::localSession(name);
   const auto database = logOn(*session, name, connectText(options));
   std::cout << "login: " << asciiUpper(options.user) << " is connected" << std::endl;
 

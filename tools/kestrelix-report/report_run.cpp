@@ -43,7 +43,7 @@ void ReportRun::connect() {
     throw UsageError("name the repository by one of --repository FILE and --tns NAME");
   const bool local = !options_.repository.empty();
   const auto makeSession = [&] {
-    return local ? embedded::localSession(options_.repository) : anySession(programFolder());
+    return local ? repository_file::localSession(options_.repository) : anySession(programFolder());
   };
   Failures failures = repository_.open(makeSession, local ? options_.repository : asciiUpper(options_.tns),
                                        connectText(options_));

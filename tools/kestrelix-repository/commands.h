@@ -5,7 +5,7 @@
 #include <string>
 
 #include "console/command_line.h"
-#include "platform/embedded/writing/repository_writer.h"
+#include "repository_file/writing/repository_writer.h"
 
 namespace kestrelix {
 
@@ -16,7 +16,7 @@ struct NewFile {
 
   void addForceOption(console::CommandLine& line);
   /// Fails if the file is there and isn't to be replaced.
-  embedded::Existing existing() const;
+  repository_file::Existing existing() const;
   /// From here on an interrupt ends the making, and no unfinished file stays behind.
   void watchInterrupts() const;
 };

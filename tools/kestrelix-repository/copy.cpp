@@ -8,9 +8,9 @@
 #include "console/password.h"
 #include "console/progress.h"
 #include "console/run.h"
+#include "odbc/odbc_session.h"
 #include "platform/ascii.h"
-#include "platform/embedded/writing/repository_writer.h"
-#include "platform/odbc/odbc_session.h"
+#include "repository_file/writing/repository_writer.h"
 #include "statspack/release.h"
 
 namespace kestrelix {
@@ -100,32 +100,33 @@ std::string statementFor(const std::string& table, const std::vector<std::string
 }
 
 /// Copies one table; gives its rows.
-std::int64_t copyTable(odbc::OdbcDatabase& database, embedded::RepositoryWriter& writer,
+std::int64_t copyTable(odbc::OdbcDatabase& database, repository_file::RepositoryWriter& writer,
                        const statspack::Table& known, const std::vector<std::string>& names,
                        const CopyOptions& options) {
-  std::vector<embedded::NewColumn> columns;
+  std::vector<repository_file::NewColumn> columns;
   for (const std::string& name : names) {
     const statspack::Column* column = known.column(name);
     // A column that no release has is kept as the text that the server gives.
     columns.push_back({name, column == nullptr ? statspack::Type::Varchar2 : column->type});
   }
-  embedded::TableWriter& table = writer.addTable(known.name, columns);
-  std::vector<embedded::Cell> cells(columns.size());
+  repository_file::TableWriter& table = writer.addTable(known.name, columns);
+  std::vector<repository_file::Cell> cells(columns.size());
   std::vector<std::string> scratch(columns.size());
   std::int64_t rows = 0;
-  database.stream(statementFor(known.name, names, options), [&](const auto&,
-                                                                const odbc::RowStream::Row& row) {
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-      try {
-        cells[i] = row[i] ? embedded::Cell::fromText(columns[i].type, *row[i], scratch[i]) : embedded::Cell();
-      } catch (const embedded::BadValue& error) {
-        throw CopyError(known.name + ", column " + columns[i].name + ", value '" + *row[i] +
-                        "': " + error.what());
-      }
-    }
-    table.insert(cells);
-    ++rows;
-  });
+  database.stream(
+      statementFor(known.name, names, options), [&](const auto&, const odbc::RowStream::Row& row) {
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+          try {
+            cells[i] = row[i] ? repository_file::Cell::fromText(columns[i].type, *row[i], scratch[i])
+                              : repository_file::Cell();
+          } catch (const repository_file::BadValue& error) {
+            throw CopyError(known.name + ", column " + columns[i].name + ", value '" + *row[i] +
+                            "': " + error.what());
+          }
+        }
+        table.insert(cells);
+        ++rows;
+      });
   return rows;
 }
 
@@ -134,12 +135,12 @@ std::int64_t copyTable(odbc::OdbcDatabase& database, embedded::RepositoryWriter&
 int copyCommand(std::span<const std::string> words) {
   CopyOptions options;
   if (!read(words, options)) return console::kExitDone;
-  const embedded::Existing existing = options.file.existing();
+  const repository_file::Existing existing = options.file.existing();
   const std::string login = asciiUpper(options.user) + "/" + console::readPassword(options.password, "");
   options.file.watchInterrupts();
   const auto database = odbc::openOdbc(asciiUpper(options.tns), login);
   const console::CancelledByInterrupts cancelled(*database);
-  embedded::RepositoryWriter writer(options.file.name, {}, "kestrelix-repository copy", existing);
+  repository_file::RepositoryWriter writer(options.file.name, {}, "kestrelix-repository copy", existing);
   const auto& tables = statspack::everyRelease().tables();
   std::int64_t rows = 0;
   std::int64_t copied = 0;

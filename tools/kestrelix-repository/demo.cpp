@@ -1,5 +1,5 @@
 // kestrelix-repository demo: a repository to try the program on.
-#include "platform/embedded/demo/demo.h"
+#include "demo/demo.h"
 
 #include <iostream>
 
@@ -20,7 +20,7 @@ of two instances. Its account is PERFSTAT, password perfstat.
 
 int demoCommand(std::span<const std::string> words) {
   NewFile file;
-  embedded::demo::DemoOptions options;
+  demo::DemoOptions options;
   console::CommandLine line("kestrelix-repository demo", kAbout);
   line.word("FILE", file.name)
       .whole<int>("--snapshots", "N", options.snapshots,
@@ -32,7 +32,7 @@ int demoCommand(std::span<const std::string> words) {
   options.existing = file.existing();
   file.watchInterrupts();
   console::ProgressBar bar("snapshots");
-  embedded::demo::makeDemo(file.name, options, bar);
+  demo::makeDemo(file.name, options, bar);
   console::interruptsEndNothingMore();
   return console::kExitDone;
 }

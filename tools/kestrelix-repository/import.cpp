@@ -7,7 +7,7 @@
 #include "console/password.h"
 #include "console/progress.h"
 #include "console/run.h"
-#include "platform/embedded/import/importer.h"
+#include "import/importer.h"
 
 namespace kestrelix {
 namespace {
@@ -26,7 +26,7 @@ int importCommand(std::span<const std::string> words) {
   std::string folder;
   NewFile file;
   console::PasswordSource password;
-  embedded::ImportOptions options;
+  importing::ImportOptions options;
   console::CommandLine line("kestrelix-repository import", kAbout);
   line.word("DIR", folder).word("FILE", file.name);
   line.text("--user", "NAME", options.account.user, "the file's account (PERFSTAT)");
@@ -42,10 +42,10 @@ int importCommand(std::span<const std::string> words) {
   options.existing = file.existing();
   file.watchInterrupts();
   std::int64_t rows = 0;
-  std::vector<embedded::ImportedTable> tables;
+  std::vector<importing::ImportedTable> tables;
   {
     console::ProgressBar bar("import");
-    tables = embedded::importFolder(folder, file.name, options, bar);
+    tables = importing::importFolder(folder, file.name, options, bar);
     console::interruptsEndNothingMore();
   }
   for (const auto& table : tables) {

@@ -6,7 +6,7 @@
 #include "commands.h"
 #include "console/run.h"
 #include "documents/csv.h"
-#include "platform/embedded/local_database.h"
+#include "repository_file/local_database.h"
 
 namespace kestrelix {
 namespace {
@@ -70,7 +70,7 @@ int queryCommand(std::span<const std::string> words) {
       .texts("--bind", "NAME=VALUE", binds, kBindHelp)
       .flag("--explain", explain, "prints what SQLite is asked to run and runs nothing");
   if (!line.read(words, std::cout)) return console::kExitDone;
-  embedded::LocalDatabase database(file);
+  repository_file::LocalDatabase database(file);
   for (const auto& bind : binds) addBind(database.parameters(), bind);
   if (explain) {
     std::cout << database.loweredText(sql) << "\n";

@@ -75,9 +75,7 @@ std::string transactionsSelect(const std::string& alias) {
        and a.INSTANCE_NUMBER = b.INSTANCE_NUMBER)sql";
 }
 
-Bind transactions() {
-  return {"TRAN", ServerType::Number, "getTRAN", fold(transactionsSelect("TRAN"))};
-}
+Bind transactions() { return {"TRAN", ServerType::Number, "getTRAN", fold(transactionsSelect("TRAN"))}; }
 
 std::string elapsedSeconds(const std::string& inOrder) {
   return fold(R"sql(
