@@ -5,6 +5,7 @@
 #include "sections/SectionList.h"
 #include "shell/ModuleDispCommon.h"
 #include "support/recording_boxes.h"
+#include "support/snapshots.h"
 
 namespace kestrelix {
 namespace {
@@ -124,6 +125,43 @@ TEST_F(Catalogue, anUnknownTextDoesNothing) {
   workspace.controls.ListSection.ListIndex(0);
   gDispSectionAll(workspace, directReader(), sectionList(), "");
   gDispSectionCol(workspace, directReader(), sectionList(), "");
+  EXPECT_TRUE(boxes.shown.empty());
+}
+
+/// A pair of a database that the gate has refused, with the list of another instance still on show.
+class RefusedRelease : public Catalogue {
+ protected:
+  RefusedRelease() {
+    for (const char* key : {"GRID", "SQL", "PLAN"}) workspace.controls.ToolbarTop.Add(key, key, "");
+    testing_support::laySnapshots(server, {{"1", "2026-01-05 10:00:00"}, {"2", "2026-01-05 11:00:00"}});
+    workspace.repository.gOraDatabase = std::make_unique<testing_support::FakeDatabase>(server);
+    EXPECT_TRUE(workspace.repository.loadPairs("1001", "1", false).empty());
+    workspace.controls.ListSnapId.AddItem("1 2");
+    workspace.controls.ListSnapId.ListIndex(0);
+    server.asked.clear();
+  }
+  void show(const std::string& section, const std::string& version) {
+    const auto texts = listed("10", "NO");
+    const auto at = std::find(texts.begin(), texts.end(), section);
+    workspace.controls.ListSection.ListIndex(static_cast<int>(at - texts.begin()));
+    gDispSectionAll(workspace, directReader(), sectionList(), version);
+  }
+
+  testing_support::FakeServer server;
+};
+
+TEST_F(RefusedRelease, sectionsThatDifferByReleaseShowNothingAndTurnNoButtonOn) {
+  Grid& grid = workspace.controls.MSFlexGridMain;
+  grid.TextMatrix(1, 1, "former");
+  for (const char* version : {"8", "12", ""})
+    for (const char* section : {"Load Profile", "Instance Efficiency", "SQL ordered by Gets TOTAL",
+                                "SQL ordered by Version Count", "Buffer Pool Advisory"}) {
+      show(section, version);
+      EXPECT_EQ(grid.TextMatrix(1, 1), "former") << section << " " << version;
+      for (const char* key : {"GRID", "SQL", "PLAN"})
+        EXPECT_FALSE(workspace.controls.ToolbarTop.Enabled(key)) << section << " " << version;
+    }
+  EXPECT_TRUE(server.asked.empty());
   EXPECT_TRUE(boxes.shown.empty());
 }
 
