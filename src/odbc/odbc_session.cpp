@@ -1,6 +1,8 @@
 #include "odbc/odbc_session.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <map>
 #include <optional>
 
@@ -8,6 +10,7 @@
 #include "odbc/statement_text.h"
 #include "odbc/utf16.h"
 #include "platform/ascii.h"
+#include "platform/result_rows.h"
 
 namespace kestrelix::odbc {
 namespace {
@@ -45,33 +48,15 @@ void bindValue(const Handle& statement, SQLUSMALLINT number, const Parameter& pa
                                    static_cast<SQLLEN>(value.wide.size() * sizeof(SQLWCHAR)), &value.length));
 }
 
-/// A result that has been fetched whole.
-class FetchedRows final : public Dynaset {
- public:
-  explicit FetchedRows(RowStream& rows) : columns_(rows.columns()) {
-    for (RowStream::Row row; rows.next(row);) rows_.push_back(row);
-  }
-
-  bool Eof() const override { return at_ >= rows_.size(); }
-  void MoveNext() override {
-    if (!Eof()) ++at_;
-  }
-  long RecordCount() override { return static_cast<long>(rows_.size()); }
-  Field Fields(std::string_view alias) const override {
-    if (Eof()) throw DatabaseError("24000", 0, "there is no row to read " + std::string(alias) + " from");
-    const std::string wanted = asciiUpper(alias);
-    for (std::size_t i = 0; i < columns_.size(); ++i)
-      if (asciiUpper(columns_[i]) == wanted) return Field(columns_[i], &rows_[at_][i]);
-    throw DatabaseError("42S22", 0, "the result has no column " + std::string(alias));
-  }
-  void Close() override { rows_.clear(), at_ = 0; }
-  const std::vector<std::string>& columns() const override { return columns_; }
-
- private:
-  std::vector<std::string> columns_;
-  std::vector<RowStream::Row> rows_;
-  std::size_t at_ = 0;
-};
+/// The whole result, so that its statement is free to run again at once.
+std::unique_ptr<Dynaset> fetchedRows(RowStream& stream) {
+  std::vector<std::optional<std::string>> cells;
+  std::size_t rows = 0;
+  for (RowStream::Row row; stream.next(row); ++rows)
+    std::move(row.begin(), row.end(), std::back_inserter(cells));
+  return std::make_unique<ResultRows>(std::make_shared<const std::vector<std::string>>(stream.columns()),
+                                      std::move(cells), rows);
+}
 
 const Handle& environment() {
   static const Handle handle(SQL_HANDLE_ENV, SQL_NULL_HANDLE);
@@ -194,7 +179,7 @@ void OdbcDatabase::cancel() { running_.cancel(); }
 std::unique_ptr<Dynaset> OdbcDatabase::DbCreateDynaset(const std::string& sql, long /*options*/) {
   const RunningStatement::Run running(running_);
   const auto rows = run(sql);
-  auto fetched = std::make_unique<FetchedRows>(*rows);
+  auto fetched = fetchedRows(*rows);
   connection_->count(*rows);
   return fetched;
 }

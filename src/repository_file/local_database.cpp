@@ -13,7 +13,6 @@
 #include "platform/running_statement.h"
 #include "repository_file/account.h"
 #include "repository_file/repository_file.h"
-#include "repository_file/result_rows.h"
 #include "repository_file/statement_cache.h"
 #include "repository_file/storage.h"
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "platform/database.h"
-#include "repository_file/result_rows.h"
+#include "platform/result_rows.h"
 
 namespace kestrelix::repository_file {
 

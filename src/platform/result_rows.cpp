@@ -1,8 +1,8 @@
-#include "repository_file/result_rows.h"
+#include "platform/result_rows.h"
 
 #include "platform/ascii.h"
 
-namespace kestrelix::repository_file {
+namespace kestrelix {
 namespace {
 
 bool sameName(std::string_view a, std::string_view b) {
@@ -39,4 +39,4 @@ void ResultRows::Close() {
   row_ = 0;
 }
 
-}  // namespace kestrelix::repository_file
+}  // namespace kestrelix

@@ -10,7 +10,7 @@
 
 #include "platform/database.h"
 
-namespace kestrelix::repository_file {
+namespace kestrelix {
 
 /// A result that holds all its rows: its statement is free to run again at once, and every row has been
 /// evaluated, as a server with its read-ahead does.
@@ -38,4 +38,4 @@ class ResultRows final : public Dynaset {
   std::size_t row_ = 0;
 };
 
-}  // namespace kestrelix::repository_file
+}  // namespace kestrelix
