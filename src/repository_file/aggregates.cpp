@@ -1,225 +1,205 @@
-// Aggregates and moving aggregates in NUMBER.
-#include <memory>
-#include <type_traits>
-
+// Aggregates: over groups, over windows that move, and with KEEP (DENSE_RANK FIRST ...) over the rows that
+// share the first place of an order.
 #include "oracle_sql/functions/aggregates.h"
-#include "repository_file/function_frame.h"
+
+#include <optional>
+#include <set>
+#include <string>
+
+#include "repository_file/sort_keys.h"
 #include "repository_file/storage.h"
 
 namespace kestrelix::repository_file {
 namespace {
 
-/// An accumulator in SQLite's own memory, which begins as zeroes: an empty one. Null when `create` is false
-/// and no row has come.
-template <class Accumulator>
-Accumulator* inPlace(sqlite3_context* context, bool create) {
-  static_assert(std::is_trivially_destructible_v<Accumulator>);
-  return static_cast<Accumulator*>(sqlite3_aggregate_context(context, create ? sizeof(Accumulator) : 0));
-}
+/// An accumulator of the language; numbers alone.
+template <class Accumulator, auto Result>
+struct Numbers {
+  Accumulator accumulator;
+  void take(sqlite3_value* value) { accumulator.step(numberOf(value)); }
+  void takeBack(sqlite3_value* value) { accumulator.inverse(numberOf(value)); }
+  void give(sqlite3_context* context) { giveValue(context, (accumulator.*Result)()); }
+};
 
-template <class Accumulator>
-void step(sqlite3_context* context, int, Values arguments) {
-  auto* accumulator = inPlace<Accumulator>(context, true);
-  if (!accumulator) return sqlite3_result_error_nomem(context);
-  if (isNull(arguments[0])) return;
-  try {
-    accumulator->step(numberOf(arguments[0]));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
+/// MIN and MAX of numbers that may be broken; `Sign` 1 for the greatest.
+template <int Sign>
+struct NumberExtreme {
+  std::optional<values::Number> best;
+  void take(sqlite3_value* value) {
+    const values::Number number = numberOf(value);
+    if (!best || compare(number, *best) == Sign) best = number;
   }
-}
-
-template <class Accumulator>
-void inverse(sqlite3_context* context, int, Values arguments) {
-  if (isNull(arguments[0])) return;
-  try {
-    inPlace<Accumulator>(context, true)->inverse(numberOf(arguments[0]));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
+  void give(sqlite3_context* context) const {
+    if (best) giveNumber(context, *best);
   }
-}
+};
 
-template <class Accumulator, values::Value (Accumulator::*Result)() const>
-void result(sqlite3_context* context) {
-  const auto* accumulator = inPlace<Accumulator>(context, false);
-  if (!accumulator) return sqlite3_result_null(context);
-  try {
-    giveValue(context, (accumulator->*Result)());
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
+/// The same of what compares as it is stored.
+template <int Sign>
+struct Extreme {
+  KeptValue best;
+  void take(sqlite3_value* value) {
+    if (!best || compareStored(value, best.get()) * Sign > 0) best = kept(value);
   }
-}
+  void give(sqlite3_context* context) const {
+    if (best) sqlite3_result_value(context, best.get());
+  }
+};
 
-template <class Accumulator, values::Value (Accumulator::*Result)() const>
-void addMoving(sqlite3* connection, const char* name, Evaluation& evaluation) {
-  checkRegistration(sqlite3_create_window_function(connection, name, 1, kPure, &evaluation, step<Accumulator>,
-                                                   result<Accumulator, Result>, result<Accumulator, Result>,
-                                                   inverse<Accumulator>, nullptr),
-                    name);
-}
+struct Count {
+  long count = 0;
+  void take(sqlite3_value*) { ++count; }
+  void give(sqlite3_context* context) const { sqlite3_result_int64(context, count); }
+};
+
+/// Of all the rows whose value is there.
+template <class Aggregate>
+struct Plain : Aggregate {
+  void take(int, Values arguments) {
+    if (!isNull(arguments[0])) Aggregate::take(arguments[0]);
+  }
+  void takeBack(Values arguments) {
+    if (!isNull(arguments[0])) Aggregate::takeBack(arguments[0]);
+  }
+};
+
+/// Each value once.
+template <class Aggregate>
+struct Distinct {
+  Aggregate aggregate;
+  std::set<std::string> seen;
+
+  void take(sqlite3_value* value) {
+    if (seen.insert(identityOf(value)).second) aggregate.take(value);
+  }
+  void give(sqlite3_context* context) { aggregate.give(context); }
+};
+
+/// KEEP: arguments are the value and the sort keys; without keys all rows share the first place. The
+/// aggregate begins anew with every row that comes before all others so far.
+template <class Aggregate>
+struct Keeping : WholePartition {
+  static constexpr int kValues = 1;
+  std::optional<SortKeys> first;
+  Aggregate aggregate;
+
+  void take(int count, Values arguments) {
+    const int order = first ? first->compare(kValues, arguments) : 1;
+    if (order < 0) return;
+    if (order > 0) {
+      first.emplace(kValues, count, arguments);
+      aggregate = Aggregate();
+    }
+    if (!isNull(arguments[0])) aggregate.take(arguments[0]);
+  }
+  void give(sqlite3_context* context) { aggregate.give(context); }
+};
 
 /// The sum of whole numbers, in place of SQLite's own, which tells only in words that it left 64 bits.
 struct WholeSum {
   std::int64_t sum;
   std::int64_t count;
+  void give(sqlite3_context* context) const {
+    if (count != 0) sqlite3_result_int64(context, sum);
+  }
 };
 
 /// `Sign` 1 for a row that comes, -1 for one that leaves the window.
 template <int Sign>
 void wholeStep(sqlite3_context* context, int, Values arguments) {
-  auto* whole = inPlace<WholeSum>(context, true);
-  if (!whole) return sqlite3_result_error_nomem(context);
-  if (isNull(arguments[0])) return;
-  const std::int64_t value = sqlite3_value_int64(arguments[0]);
-  whole->count += Sign;
-  if (!(Sign > 0 ? __builtin_add_overflow(whole->sum, value, &whole->sum)
-                 : __builtin_sub_overflow(whole->sum, value, &whole->sum)))
-    return;
-  evaluationOf(context).sumTooLarge = true;
-  sqlite3_result_error(context, "a sum of whole numbers leaves 64 bits", -1);
-}
-
-void wholeResult(sqlite3_context* context) {
-  const auto* whole = inPlace<WholeSum>(context, false);
-  if (!whole || whole->count == 0) return sqlite3_result_null(context);
-  sqlite3_result_int64(context, whole->sum);
-}
-
-/// The extreme of a group; `Sign` 1 for the greatest.
-struct Extreme {
-  bool any;
-  values::Number number;
-};
-
-template <int Sign>
-void extremeStep(sqlite3_context* context, int, Values arguments) {
-  auto* extreme = inPlace<Extreme>(context, true);
-  if (!extreme) return sqlite3_result_error_nomem(context);
-  if (isNull(arguments[0])) return;
-  try {
-    const values::Number number = numberOf(arguments[0]);
-    if (!extreme->any || compare(number, extreme->number) == Sign) *extreme = {true, number};
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
-}
-
-void extremeResult(sqlite3_context* context) {
-  const auto* extreme = inPlace<Extreme>(context, false);
-  if (!extreme || !extreme->any) return sqlite3_result_null(context);
-  giveNumber(context, extreme->number);
-}
-
-/// An aggregate of a window that moves, in an object of its own.
-template <class Moving>
-Moving*& movingOf(sqlite3_context* context) {
-  return *static_cast<Moving**>(sqlite3_aggregate_context(context, sizeof(Moving*)));
-}
-
-template <class Moving>
-void movingStep(sqlite3_context* context, int, Values arguments) {
-  try {
-    Moving*& moving = movingOf<Moving>(context);
-    if (!moving) moving = new Moving;
-    if (!isNull(arguments[0])) moving->step(numberOf(arguments[0]));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
-}
-
-template <class Moving>
-void movingInverse(sqlite3_context* context, int, Values arguments) {
-  try {
-    Moving* moving = movingOf<Moving>(context);
-    if (moving && !isNull(arguments[0])) moving->inverse(numberOf(arguments[0]));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
-}
-
-template <class Moving, auto Result>
-void movingValue(sqlite3_context* context) {
-  Moving* moving = movingOf<Moving>(context);
-  if (!moving) return sqlite3_result_null(context);
-  try {
-    giveValue(context, (moving->*Result)());
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
-}
-
-template <class Moving, auto Result>
-void movingFinal(sqlite3_context* context) {
-  const std::unique_ptr<Moving> moving(movingOf<Moving>(context));
-  movingValue<Moving, Result>(context);
-}
-
-template <class Moving, auto Result>
-void addMovingWindow(sqlite3* connection, const char* name, Evaluation& evaluation) {
-  checkRegistration(
-      sqlite3_create_window_function(connection, name, 1, kPure, &evaluation, movingStep<Moving>,
-                                     movingFinal<Moving, Result>, movingValue<Moving, Result>,
-                                     movingInverse<Moving>, nullptr),
-      name);
+  guarded(context, nullptr, [&] {
+    auto* whole = stateOf<WholeSum>(context, true);
+    if (isNull(arguments[0])) return;
+    const std::int64_t value = sqlite3_value_int64(arguments[0]);
+    whole->count += Sign;
+    if (!(Sign > 0 ? __builtin_add_overflow(whole->sum, value, &whole->sum)
+                   : __builtin_sub_overflow(whole->sum, value, &whole->sum)))
+      return;
+    evaluationOf(context).sumTooLarge = true;
+    sqlite3_result_error(context, "a sum of whole numbers leaves 64 bits", -1);
+  });
 }
 
 /// A scalar subquery's value: the only row's, NULL without one.
+struct OnlyRow {
+  KeptValue value;
+  void give(sqlite3_context* context) const {
+    if (value) sqlite3_result_value(context, value.get());
+  }
+};
+
 void onlyRowStep(sqlite3_context* context, int, Values arguments) {
-  auto** kept = static_cast<sqlite3_value**>(sqlite3_aggregate_context(context, sizeof(sqlite3_value*)));
-  if (!kept) return sqlite3_result_error_nomem(context);
-  if (!*kept) {
-    *kept = sqlite3_value_dup(arguments[0]);
-    return;
-  }
-  try {
-    throw values::FunctionError(1427, "single-row subquery returns more than one row");
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[1]));
-  }
+  guarded(context, arguments[1], [&] {
+    if (stateOf<OnlyRow>(context, false))
+      throw values::FunctionError(1427, "single-row subquery returns more than one row");
+    stateOf<OnlyRow>(context, true)->value = kept(arguments[0]);
+  });
 }
 
-void onlyRowFinal(sqlite3_context* context) {
-  auto** kept = static_cast<sqlite3_value**>(sqlite3_aggregate_context(context, 0));
-  if (!kept || !*kept) return sqlite3_result_null(context);
-  if (evaluationOf(context).failure)
-    sqlite3_result_error(context, evaluationOf(context).failure->message.c_str(), -1);
-  else
-    sqlite3_result_value(context, *kept);
-  sqlite3_value_free(*kept);
-  *kept = nullptr;
+void addAggregate(sqlite3* connection, const char* name, int count, SqliteFunction step,
+                  void (*final)(sqlite3_context*), Evaluation& evaluation) {
+  checkRegistration(
+      sqlite3_create_function_v2(connection, name, count, kPure, &evaluation, nullptr, step, final, nullptr),
+      name);
+}
+
+template <class Aggregate>
+void addGroup(sqlite3* connection, const char* name, Evaluation& evaluation) {
+  addAggregate(connection, name, 1, take<Plain<Aggregate>>, finish<Plain<Aggregate>>, evaluation);
+}
+
+template <class Aggregate>
+void addWindow(sqlite3* connection, const char* name, Evaluation& evaluation) {
+  addMoving<Plain<Aggregate>>(connection, name, 1, evaluation);
+}
+
+template <class Aggregate>
+void addKeeping(sqlite3* connection, const std::string& name, Evaluation& evaluation) {
+  addMoving<Keeping<Aggregate>>(connection, ("keep_" + name).c_str(), -1, evaluation);
+  addMoving<Keeping<Distinct<Aggregate>>>(connection, ("keep_" + name + "_distinct").c_str(), -1, evaluation);
 }
 
 }  // namespace
 
 void registerAggregates(sqlite3* connection, Evaluation& evaluation) {
-  using values::SumAccumulator;
-  using values::VarianceAccumulator;
-  checkRegistration(sqlite3_create_window_function(connection, "sum", 1, kPure, &evaluation, wholeStep<1>,
-                                                   wholeResult, wholeResult, wholeStep<-1>, nullptr),
-                    "sum");
-  addMoving<SumAccumulator, &SumAccumulator::sum>(connection, "num_sum", evaluation);
-  addMoving<SumAccumulator, &SumAccumulator::average>(connection, "num_avg", evaluation);
-  addMoving<VarianceAccumulator, &VarianceAccumulator::variance>(connection, "num_variance", evaluation);
-  addMoving<VarianceAccumulator, &VarianceAccumulator::standardDeviation>(connection, "num_stddev",
-                                                                          evaluation);
-
-  const auto addAggregate = [&](const char* name, int count, auto stepFunction, auto finalFunction) {
-    checkRegistration(sqlite3_create_function_v2(connection, name, count, kPure, &evaluation, nullptr,
-                                                 stepFunction, finalFunction, nullptr),
-                      name);
-  };
-  addAggregate("num_min", 1, extremeStep<-1>, extremeResult);
-  addAggregate("num_max", 1, extremeStep<1>, extremeResult);
-  addAggregate("only_row", 2, onlyRowStep, onlyRowFinal);
   using values::MovingExtremeAccumulator;
   using values::MovingSumAccumulator;
-  addMovingWindow<MovingExtremeAccumulator, &MovingExtremeAccumulator::minimum>(connection, "num_min_moving",
-                                                                                evaluation);
-  addMovingWindow<MovingExtremeAccumulator, &MovingExtremeAccumulator::maximum>(connection, "num_max_moving",
-                                                                                evaluation);
-  addMovingWindow<MovingSumAccumulator, &MovingSumAccumulator::sum>(connection, "num_sum_moving", evaluation);
-  addMovingWindow<MovingSumAccumulator, &MovingSumAccumulator::average>(connection, "num_avg_moving",
-                                                                        evaluation);
+  using values::SumAccumulator;
+  using values::VarianceAccumulator;
+  using Sum = Numbers<SumAccumulator, &SumAccumulator::sum>;
+  using Average = Numbers<SumAccumulator, &SumAccumulator::average>;
+  using Variance = Numbers<VarianceAccumulator, &VarianceAccumulator::variance>;
+  using Deviation = Numbers<VarianceAccumulator, &VarianceAccumulator::standardDeviation>;
+  using MovingMin = Numbers<MovingExtremeAccumulator, &MovingExtremeAccumulator::minimum>;
+  using MovingMax = Numbers<MovingExtremeAccumulator, &MovingExtremeAccumulator::maximum>;
+  using MovingSum = Numbers<MovingSumAccumulator, &MovingSumAccumulator::sum>;
+  using MovingAverage = Numbers<MovingSumAccumulator, &MovingSumAccumulator::average>;
+
+  checkRegistration(
+      sqlite3_create_window_function(connection, "sum", 1, kPure, &evaluation, wholeStep<1>, finish<WholeSum>,
+                                     current<WholeSum>, wholeStep<-1>, nullptr),
+      "sum");
+  addAggregate(connection, "only_row", 2, onlyRowStep, finish<OnlyRow>, evaluation);
+  addGroup<NumberExtreme<-1>>(connection, "num_min", evaluation);
+  addGroup<NumberExtreme<1>>(connection, "num_max", evaluation);
+  addWindow<Sum>(connection, "num_sum", evaluation);
+  addWindow<Average>(connection, "num_avg", evaluation);
+  addWindow<Variance>(connection, "num_variance", evaluation);
+  addWindow<Deviation>(connection, "num_stddev", evaluation);
+  addWindow<MovingMin>(connection, "num_min_moving", evaluation);
+  addWindow<MovingMax>(connection, "num_max_moving", evaluation);
+  addWindow<MovingSum>(connection, "num_sum_moving", evaluation);
+  addWindow<MovingAverage>(connection, "num_avg_moving", evaluation);
+
+  addKeeping<Count>(connection, "count", evaluation);
+  addKeeping<Extreme<-1>>(connection, "min", evaluation);
+  addKeeping<Extreme<1>>(connection, "max", evaluation);
+  addKeeping<NumberExtreme<-1>>(connection, "num_min", evaluation);
+  addKeeping<NumberExtreme<1>>(connection, "num_max", evaluation);
+  addKeeping<Sum>(connection, "num_sum", evaluation);
+  addKeeping<Average>(connection, "num_avg", evaluation);
+  addKeeping<Variance>(connection, "num_variance", evaluation);
+  addKeeping<Deviation>(connection, "num_stddev", evaluation);
 }
 
 }  // namespace kestrelix::repository_file

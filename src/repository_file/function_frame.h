@@ -40,21 +40,31 @@ inline Evaluation& evaluationOf(sqlite3_context* context) {
   return *static_cast<Evaluation*>(sqlite3_user_data(context));
 }
 
-inline std::uint32_t offsetOf(sqlite3_value* argument) {
-  return static_cast<std::uint32_t>(sqlite3_value_int64(argument));
+/// Runs the body of a function; its failure is told at the offset that `place` holds, at 0 if it is null.
+template <class Body>
+void guarded(sqlite3_context* context, sqlite3_value* place, Body body) {
+  try {
+    body();
+  } catch (...) {
+    giveFailure(context, evaluationOf(context),
+                place ? static_cast<std::uint32_t>(sqlite3_value_int64(place)) : 0);
+  }
 }
 
 inline constexpr int kPure = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
 inline constexpr int kStateful = SQLITE_UTF8 | SQLITE_INNOCUOUS;
 
+using SqliteFunction = void (*)(sqlite3_context*, int, Values);
+
 /// Throws DatabaseError if SQLite refuses the registration.
 void checkRegistration(int result, const char* name);
+void addFunction(sqlite3* connection, const char* name, int count, SqliteFunction call,
+                 Evaluation& evaluation, int flags = kPure);
 
 void registerNumberFunctions(sqlite3* connection, Evaluation& evaluation);
 void registerTextFunctions(sqlite3* connection, Evaluation& evaluation);
 void registerAggregates(sqlite3* connection, Evaluation& evaluation);
 void registerKeptValues(sqlite3* connection, Evaluation& evaluation);
 void registerPercentiles(sqlite3* connection, Evaluation& evaluation);
-void registerKeepAggregates(sqlite3* connection, Evaluation& evaluation);
 
 }  // namespace kestrelix::repository_file

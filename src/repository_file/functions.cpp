@@ -67,7 +67,8 @@ void callTyped(sqlite3_context* context, int count, Values arguments) {
               : valueOf(arguments[i], static_cast<StoredKind>(typed.signature[static_cast<std::size_t>(i)])));
     giveValue(context, typed.function->call(call.all(), typed.evaluation->context));
   } catch (...) {
-    giveFailure(context, *typed.evaluation, offsetOf(arguments[given]));
+    giveFailure(context, *typed.evaluation,
+                static_cast<std::uint32_t>(sqlite3_value_int64(arguments[given])));
   }
 }
 
@@ -105,25 +106,23 @@ void checkRegistration(int result, const char* name) {
     throw DatabaseError("HY000", 0, std::string("the function ") + name + " cannot be registered");
 }
 
+void addFunction(sqlite3* connection, const char* name, int count, SqliteFunction call,
+                 Evaluation& evaluation, int flags) {
+  checkRegistration(sqlite3_create_function_v2(connection, name, count, flags, &evaluation, call, nullptr,
+                                               nullptr, nullptr),
+                    name);
+}
+
 void registerFunctions(sqlite3* connection, Evaluation& evaluation) {
   registerNumberFunctions(connection, evaluation);
   registerTextFunctions(connection, evaluation);
   registerAggregates(connection, evaluation);
   registerKeptValues(connection, evaluation);
   registerPercentiles(connection, evaluation);
-  registerKeepAggregates(connection, evaluation);
-  checkRegistration(sqlite3_create_function_v2(connection, "rownum_to_try", 2, kStateful, &evaluation,
-                                               rownumToTry, nullptr, nullptr, nullptr),
-                    "rownum_to_try");
-  checkRegistration(sqlite3_create_function_v2(connection, "rownum_passes", 3, kStateful, &evaluation,
-                                               rownumPasses, nullptr, nullptr, nullptr),
-                    "rownum_passes");
-  checkRegistration(sqlite3_create_function_v2(connection, "nvl_of_both", 2, kPure, nullptr, nvlOfBoth,
-                                               nullptr, nullptr, nullptr),
-                    "nvl_of_both");
-  checkRegistration(sqlite3_create_function_v2(connection, "nvl2_of_all", 3, kPure, nullptr, nvl2OfAll,
-                                               nullptr, nullptr, nullptr),
-                    "nvl2_of_all");
+  addFunction(connection, "rownum_to_try", 2, rownumToTry, evaluation, kStateful);
+  addFunction(connection, "rownum_passes", 3, rownumPasses, evaluation, kStateful);
+  addFunction(connection, "nvl_of_both", 2, nvlOfBoth, evaluation);
+  addFunction(connection, "nvl2_of_all", 3, nvl2OfAll, evaluation);
 }
 
 const values::Function* functionNamed(std::string_view name) {

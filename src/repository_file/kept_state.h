@@ -1,8 +1,9 @@
-// Aggregates whose state is an object of ours: SQLite's memory of the aggregate holds the pointer to it.
+// Aggregates whose state is an object of ours.
 #pragma once
 
 #include <memory>
 #include <stdexcept>
+#include <type_traits>
 
 #include "repository_file/function_frame.h"
 
@@ -21,8 +22,21 @@ inline KeptValue kept(sqlite3_value* value) {
 }
 
 template <class State>
-State*& slot(sqlite3_context* context) {
-  return *static_cast<State**>(sqlite3_aggregate_context(context, sizeof(State*)));
+inline constexpr bool kInPlace = std::is_trivially_destructible_v<State>;
+
+/// The state of the aggregate: in SQLite's own memory if it needs no end (zeroes are an empty one), else what
+/// the pointer there points to. Null when `create` is false and no row has come.
+template <class State>
+State* stateOf(sqlite3_context* context, bool create) {
+  using Held = std::conditional_t<kInPlace<State>, State, State*>;
+  auto* held = static_cast<Held*>(sqlite3_aggregate_context(context, create ? sizeof(Held) : 0));
+  if (create && !held) throw std::bad_alloc();
+  if constexpr (kInPlace<State>) {
+    return held;
+  } else {
+    if (create && !*held) *held = new State;
+    return held ? *held : nullptr;
+  }
 }
 
 /// Base of states of functions that take no order in OVER: the frame is the partition and loses no row.
@@ -33,45 +47,33 @@ struct WholePartition {
 /// xStep: `State::take(count, arguments)`.
 template <class State>
 void take(sqlite3_context* context, int count, Values arguments) {
-  try {
-    State*& state = slot<State>(context);
-    if (!state) state = new State;
-    state->take(count, arguments);
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
+  guarded(context, nullptr, [&] { stateOf<State>(context, true)->take(count, arguments); });
 }
 
 /// xInverse: `State::takeBack(arguments)`.
 template <class State>
 void takeBack(sqlite3_context* context, int, Values arguments) {
-  try {
-    if (State* state = slot<State>(context)) state->takeBack(arguments);
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
+  guarded(context, nullptr, [&] {
+    if (State* state = stateOf<State>(context, false)) state->takeBack(arguments);
+  });
 }
 
 /// xValue: `State::give(context)`, of a state without a row where none has come.
 template <class State>
 void current(sqlite3_context* context) {
-  try {
-    if (State* state = slot<State>(context))
+  guarded(context, nullptr, [&] {
+    if (State* state = stateOf<State>(context, false))
       state->give(context);
     else
       State().give(context);
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
+  });
 }
 
 /// xFinal: the same, and the end of the state.
 template <class State>
 void finish(sqlite3_context* context) {
   current<State>(context);
-  State*& state = slot<State>(context);
-  delete state;
-  state = nullptr;
+  if constexpr (!kInPlace<State>) delete stateOf<State>(context, false);
 }
 
 /// An aggregate that is a window function too.

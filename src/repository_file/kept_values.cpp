@@ -43,14 +43,10 @@ struct TextList : WholePartition {
   std::vector<Row> rows;
   std::string between;
 
-  static std::string textOf(sqlite3_value* value) {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-    return text ? std::string(text, static_cast<std::size_t>(sqlite3_value_bytes(value))) : std::string();
-  }
   void take(int count, Values arguments) {
     if (isNull(arguments[0])) return;
     between = textOf(arguments[1]);
-    rows.push_back({textOf(arguments[0]), SortKeys(kValues, count, arguments)});
+    rows.push_back({std::string(textOf(arguments[0])), SortKeys(kValues, count, arguments)});
   }
   void give(sqlite3_context* context) {
     std::stable_sort(rows.begin(), rows.end(),

@@ -13,67 +13,34 @@ namespace {
 
 using values::Number;
 
-bool bothWhole(Values arguments) {
-  return sqlite3_value_type(arguments[0]) == SQLITE_INTEGER &&
-         sqlite3_value_type(arguments[1]) == SQLITE_INTEGER;
-}
-
-/// The frame of a function of two numbers and a place.
+/// What a function of the arguments before `place` gives: NULL for any NULL, else `compute()`; a failure is
+/// told at `place`.
 template <class Compute>
-void ofTwo(sqlite3_context* context, Values arguments, Compute compute) {
-  if (anyNull(2, arguments)) return sqlite3_result_null(context);
-  try {
-    giveNumber(context, compute(numberOf(arguments[0]), numberOf(arguments[1])));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[2]));
-  }
+void strict(sqlite3_context* context, Values arguments, int place, Compute compute) {
+  if (anyNull(place, arguments)) return sqlite3_result_null(context);
+  guarded(context, arguments[place], [&] { giveNumber(context, compute()); });
 }
 
 void add(sqlite3_context* context, int, Values arguments) {
-  std::int64_t result = 0;
-  if (bothWhole(arguments) &&
-      !__builtin_add_overflow(sqlite3_value_int64(arguments[0]), sqlite3_value_int64(arguments[1]), &result))
-    return sqlite3_result_int64(context, result);
-  ofTwo(context, arguments, [](const Number& a, const Number& b) { return a + b; });
+  strict(context, arguments, 2, [&] { return numberOf(arguments[0]) + numberOf(arguments[1]); });
 }
 
 void subtract(sqlite3_context* context, int, Values arguments) {
-  std::int64_t result = 0;
-  if (bothWhole(arguments) &&
-      !__builtin_sub_overflow(sqlite3_value_int64(arguments[0]), sqlite3_value_int64(arguments[1]), &result))
-    return sqlite3_result_int64(context, result);
-  ofTwo(context, arguments, [](const Number& a, const Number& b) { return a - b; });
+  strict(context, arguments, 2, [&] { return numberOf(arguments[0]) - numberOf(arguments[1]); });
 }
 
 void multiply(sqlite3_context* context, int, Values arguments) {
-  std::int64_t result = 0;
-  if (bothWhole(arguments) &&
-      !__builtin_mul_overflow(sqlite3_value_int64(arguments[0]), sqlite3_value_int64(arguments[1]), &result))
-    return sqlite3_result_int64(context, result);
-  ofTwo(context, arguments, [](const Number& a, const Number& b) { return a * b; });
+  strict(context, arguments, 2, [&] { return numberOf(arguments[0]) * numberOf(arguments[1]); });
 }
 
 void divide(sqlite3_context* context, int count, Values arguments) {
   if (anyNull(2, arguments)) return sqlite3_result_null(context);
-  if (bothWhole(arguments)) {
-    const auto a = sqlite3_value_int64(arguments[0]);
-    const auto b = sqlite3_value_int64(arguments[1]);
-    if (b > 0 && a % b == 0) return sqlite3_result_int64(context, a / b);
-  }
-  try {
-    giveNumber(context, numberOf(arguments[0]) / numberOf(arguments[1]));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), count > 2 ? offsetOf(arguments[2]) : 0);
-  }
+  guarded(context, count > 2 ? arguments[2] : nullptr,
+          [&] { giveNumber(context, numberOf(arguments[0]) / numberOf(arguments[1])); });
 }
 
 void negate(sqlite3_context* context, int, Values arguments) {
-  if (isNull(arguments[0])) return sqlite3_result_null(context);
-  try {
-    giveNumber(context, -numberOf(arguments[0]));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[1]));
-  }
+  strict(context, arguments, 1, [&] { return -numberOf(arguments[0]); });
 }
 
 /// Many operators from left to right. The second argument has them, each with the place that its failure is
@@ -112,40 +79,21 @@ void chain(sqlite3_context* context, int count, Values arguments) {
 }
 
 int placesOf(sqlite3_value* argument) {
-  const auto places = numberOf(argument).clampToInt64();
-  return static_cast<int>(places > 1000 ? 1000 : places < -1000 ? -1000 : places);
+  return static_cast<int>(std::clamp<std::int64_t>(numberOf(argument).clampToInt64(), -1000, 1000));
 }
 
 void roundNumber(sqlite3_context* context, int, Values arguments) {
-  if (anyNull(2, arguments)) return sqlite3_result_null(context);
-  try {
-    giveNumber(context, numberOf(arguments[0]).round(placesOf(arguments[1])));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[2]));
-  }
+  strict(context, arguments, 2, [&] { return numberOf(arguments[0]).round(placesOf(arguments[1])); });
 }
 
 void truncNumber(sqlite3_context* context, int, Values arguments) {
-  if (anyNull(2, arguments)) return sqlite3_result_null(context);
-  try {
-    giveNumber(context, numberOf(arguments[0]).trunc(placesOf(arguments[1])));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[2]));
-  }
+  strict(context, arguments, 2, [&] { return numberOf(arguments[0]).trunc(placesOf(arguments[1])); });
 }
 
 void compareNumbers(sqlite3_context* context, int, Values arguments) {
   if (anyNull(2, arguments)) return sqlite3_result_null(context);
-  if (bothWhole(arguments)) {
-    const auto a = sqlite3_value_int64(arguments[0]);
-    const auto b = sqlite3_value_int64(arguments[1]);
-    return sqlite3_result_int(context, a < b ? -1 : a > b ? 1 : 0);
-  }
-  try {
-    sqlite3_result_int(context, compare(numberOf(arguments[0]), numberOf(arguments[1])));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
+  guarded(context, nullptr,
+          [&] { sqlite3_result_int(context, compare(numberOf(arguments[0]), numberOf(arguments[1]))); });
 }
 
 /// The ordered byte form, of whole numbers too.
@@ -153,7 +101,7 @@ void orderKey(sqlite3_context* context, int, Values arguments) {
   switch (sqlite3_value_type(arguments[0])) {
     case SQLITE_INTEGER: {
       std::uint8_t bytes[Number::kMaxBytes];
-      const auto size = Number(static_cast<std::int64_t>(sqlite3_value_int64(arguments[0]))).toBytes(bytes);
+      const auto size = numberOf(arguments[0]).toBytes(bytes);
       return sqlite3_result_blob(context, bytes, static_cast<int>(size), SQLITE_TRANSIENT);
     }
     case SQLITE_NULL:
@@ -173,104 +121,69 @@ void giveWhole(sqlite3_context* context, const Number& whole) {
 
 void wholeUp(sqlite3_context* context, int, Values arguments) {
   if (sqlite3_value_type(arguments[0]) != SQLITE_BLOB) return sqlite3_result_value(context, arguments[0]);
-  try {
-    giveWhole(context, numberOf(arguments[0]).ceil());
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
+  guarded(context, nullptr, [&] { giveWhole(context, numberOf(arguments[0]).ceil()); });
 }
 
 void wholeDown(sqlite3_context* context, int, Values arguments) {
   if (sqlite3_value_type(arguments[0]) != SQLITE_BLOB) return sqlite3_result_value(context, arguments[0]);
-  try {
-    giveWhole(context, numberOf(arguments[0]).floor());
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
+  guarded(context, nullptr, [&] { giveWhole(context, numberOf(arguments[0]).floor()); });
 }
 
 // SQLite's LIMIT: a negative one would be none.
 void giveLimit(sqlite3_context* context, const Number& last) {
-  const auto limit = last.clampToInt64();
-  sqlite3_result_int64(context, limit < 0 ? 0 : limit);
+  sqlite3_result_int64(context, std::max<std::int64_t>(last.clampToInt64(), 0));
 }
 
 void rowsUpTo(sqlite3_context* context, int, Values arguments) {
   if (isNull(arguments[0])) return sqlite3_result_int64(context, 0);
-  try {
-    giveLimit(context, numberOf(arguments[0]).floor());
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
+  guarded(context, nullptr, [&] { giveLimit(context, numberOf(arguments[0]).floor()); });
 }
 
 void rowsBelow(sqlite3_context* context, int, Values arguments) {
   if (isNull(arguments[0])) return sqlite3_result_int64(context, 0);
-  try {
-    giveLimit(context, numberOf(arguments[0]).ceil() - Number(1));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), 0);
-  }
+  guarded(context, nullptr, [&] { giveLimit(context, numberOf(arguments[0]).ceil() - Number(1)); });
 }
+
+values::Date dateOf(sqlite3_value* stored) { return {sqlite3_value_int64(stored)}; }
 
 void dateDays(sqlite3_context* context, int, Values arguments) {
-  if (anyNull(2, arguments)) return sqlite3_result_null(context);
-  try {
-    giveNumber(context, values::Date{sqlite3_value_int64(arguments[0])} -
-                            values::Date{sqlite3_value_int64(arguments[1])});
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[2]));
-  }
+  strict(context, arguments, 2, [&] { return dateOf(arguments[0]) - dateOf(arguments[1]); });
 }
 
+/// Dates are stored as their seconds.
 void datePlus(sqlite3_context* context, int, Values arguments) {
-  if (anyNull(2, arguments)) return sqlite3_result_null(context);
-  try {
-    giveValue(context, values::Date{sqlite3_value_int64(arguments[0])} + numberOf(arguments[1]));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[2]));
-  }
+  strict(context, arguments, 2, [&] { return (dateOf(arguments[0]) + numberOf(arguments[1])).seconds; });
 }
 
 void dateMinus(sqlite3_context* context, int, Values arguments) {
-  if (anyNull(2, arguments)) return sqlite3_result_null(context);
-  try {
-    giveValue(context, values::Date{sqlite3_value_int64(arguments[0])} - numberOf(arguments[1]));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[2]));
-  }
+  strict(context, arguments, 2, [&] { return (dateOf(arguments[0]) - numberOf(arguments[1])).seconds; });
 }
 
 void castNumber(sqlite3_context* context, int, Values arguments) {
-  if (isNull(arguments[0])) return sqlite3_result_null(context);
-  try {
+  strict(context, arguments, 3, [&] {
     const int precision = sqlite3_value_int(arguments[1]);
     const int scale = sqlite3_value_int(arguments[2]);
     const Number rounded = numberOf(arguments[0]).round(scale);
     if (!(rounded.abs() < power(Number(10), Number(precision - scale))))
       throw values::FunctionError(1438, "value larger than specified precision allowed for this column");
-    giveNumber(context, rounded);
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[3]));
-  }
+    return rounded;
+  });
 }
 
 /// How far a frame or a shift goes: a whole number that is not below the second argument.
 void rowOffset(sqlite3_context* context, int, Values arguments) {
-  try {
+  guarded(context, arguments[2], [&] {
     if (isNull(arguments[0])) values::raiseArgumentOutOfRange("");
     const std::int64_t offset = numberOf(arguments[0]).clampToInt64();
     if (offset < sqlite3_value_int64(arguments[1])) values::raiseArgumentOutOfRange(std::to_string(offset));
     sqlite3_result_int64(context, offset);
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[2]));
-  }
+  });
 }
 
 struct Entry {
   const char* name;
   int count;
-  void (*call)(sqlite3_context*, int, Values);
+  SqliteFunction call;
 };
 
 constexpr Entry kFunctions[] = {
@@ -286,10 +199,7 @@ constexpr Entry kFunctions[] = {
 }  // namespace
 
 void registerNumberFunctions(sqlite3* connection, Evaluation& evaluation) {
-  for (const auto& entry : kFunctions)
-    checkRegistration(sqlite3_create_function_v2(connection, entry.name, entry.count, kPure, &evaluation,
-                                                 entry.call, nullptr, nullptr, nullptr),
-                      entry.name);
+  for (const auto& [name, count, call] : kFunctions) addFunction(connection, name, count, call, evaluation);
 }
 
 }  // namespace kestrelix::repository_file

@@ -1,18 +1,8 @@
 #include "repository_file/sort_keys.h"
 
-#include <string_view>
+#include "repository_file/storage.h"
 
 namespace kestrelix::repository_file {
-namespace {
-
-std::string_view bytesOf(sqlite3_value* value) {
-  const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
-  return bytes ? std::string_view(bytes, static_cast<std::size_t>(sqlite3_value_bytes(value)))
-               : std::string_view();
-}
-
-}  // namespace
-
 int compareStored(sqlite3_value* a, sqlite3_value* b) {
   if (sqlite3_value_type(a) != SQLITE_INTEGER) return bytesOf(a).compare(bytesOf(b));
   const auto left = sqlite3_value_int64(a);

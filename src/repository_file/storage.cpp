@@ -10,6 +10,15 @@ namespace {
 
 using NumberBytes = std::array<std::uint8_t, values::Number::kMaxBytes>;
 
+values::Number numberOfBytes(const void* data, int size) {
+  const auto number =
+      values::Number::fromBytes({static_cast<const std::uint8_t*>(data), static_cast<std::size_t>(size)});
+  if (!number) throw std::runtime_error("the repository holds a number that is none");
+  return *number;
+}
+
+}  // namespace
+
 std::string_view bytesOf(sqlite3_value* stored) {
   const auto* data = static_cast<const char*>(sqlite3_value_blob(stored));
   return {data ? data : "", static_cast<std::size_t>(sqlite3_value_bytes(stored))};
@@ -19,15 +28,6 @@ std::string_view textOf(sqlite3_value* stored) {
   const auto* data = reinterpret_cast<const char*>(sqlite3_value_text(stored));
   return {data ? data : "", static_cast<std::size_t>(sqlite3_value_bytes(stored))};
 }
-
-values::Number numberOfBytes(const void* data, int size) {
-  const auto number =
-      values::Number::fromBytes({static_cast<const std::uint8_t*>(data), static_cast<std::size_t>(size)});
-  if (!number) throw std::runtime_error("the repository holds a number that is none");
-  return *number;
-}
-
-}  // namespace
 
 values::Number numberOf(sqlite3_value* stored) {
   switch (sqlite3_value_type(stored)) {

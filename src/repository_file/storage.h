@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include <string>
+#include <string_view>
 
 #include "oracle_sql/functions/value.h"
 #include "oracle_sql/number/number.h"
@@ -14,6 +15,10 @@ namespace kestrelix::repository_file {
 /// The letter that tells a value's type where SQLite's own type does not: a date and a whole NUMBER are both
 /// INTEGER, a RAW and any other NUMBER both BLOB.
 enum class StoredKind : char { Null = '0', Number = 'n', Text = 't', Char = 'c', Date = 'd', Raw = 'r' };
+
+/// Of a value's text or blob; SQLite's own memory.
+std::string_view textOf(sqlite3_value* stored);
+std::string_view bytesOf(sqlite3_value* stored);
 
 /// A value that is not NULL. Bytes of text and RAW stay SQLite's.
 values::Value valueOf(sqlite3_value* stored, StoredKind kind);

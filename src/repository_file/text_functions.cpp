@@ -9,20 +9,13 @@
 namespace kestrelix::repository_file {
 namespace {
 
-std::string_view textOf(sqlite3_value* value) {
-  const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-  return {text ? text : "", static_cast<std::size_t>(sqlite3_value_bytes(value))};
-}
-
 void like(sqlite3_context* context, int, Values arguments) {
   if (anyNull(2, arguments)) return sqlite3_result_null(context);
-  try {
+  guarded(context, arguments[3], [&] {
     if (isNull(arguments[2])) values::raiseEscape();  // '' is no character
     sqlite3_result_int(context,
                        values::like(textOf(arguments[0]), textOf(arguments[1]), textOf(arguments[2])));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[3]));
-  }
+  });
 }
 
 void paddedCompare(sqlite3_context* context, int, Values arguments) {
@@ -50,7 +43,7 @@ std::string_view fitting(std::string_view text, std::size_t length, bool inChara
 /// A text that is too long is cut; what another type has turned into must fit.
 void castText(sqlite3_context* context, Values arguments, bool padded) {
   if (isNull(arguments[0])) return sqlite3_result_null(context);
-  try {
+  guarded(context, arguments[4], [&] {
     const auto length = static_cast<std::size_t>(sqlite3_value_int64(arguments[1]));
     std::size_t used = 0;
     const std::string_view whole = textOf(arguments[0]);
@@ -59,9 +52,7 @@ void castText(sqlite3_context* context, Values arguments, bool padded) {
       throw values::FunctionError(25137, "Data value out of range");
     if (padded) text.append(length - used, ' ');
     giveValue(context, values::Value::text(std::move(text)));
-  } catch (...) {
-    giveFailure(context, evaluationOf(context), offsetOf(arguments[4]));
-  }
+  });
 }
 
 void castVarchar(sqlite3_context* context, int, Values arguments) { castText(context, arguments, false); }
@@ -70,15 +61,10 @@ void castChar(sqlite3_context* context, int, Values arguments) { castText(contex
 }  // namespace
 
 void registerTextFunctions(sqlite3* connection, Evaluation& evaluation) {
-  const auto add = [&](const char* name, int count, void (*call)(sqlite3_context*, int, Values)) {
-    checkRegistration(sqlite3_create_function_v2(connection, name, count, kPure, &evaluation, call, nullptr,
-                                                 nullptr, nullptr),
-                      name);
-  };
-  add("ora_like", 4, like);
-  add("padded_cmp", 2, paddedCompare);
-  add("cast_varchar", 5, castVarchar);
-  add("cast_char", 5, castChar);
+  addFunction(connection, "ora_like", 4, like, evaluation);
+  addFunction(connection, "padded_cmp", 2, paddedCompare, evaluation);
+  addFunction(connection, "cast_varchar", 5, castVarchar, evaluation);
+  addFunction(connection, "cast_char", 5, castChar, evaluation);
 }
 
 }  // namespace kestrelix::repository_file

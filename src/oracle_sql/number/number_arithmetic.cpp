@@ -258,6 +258,7 @@ Number operator*(const Number& a, const Number& b) {
 Number operator/(const Number& a, const Number& b) {
   if (b.isZero()) raiseDivisionByZero();
   if (a.isZero()) return a;
+  if (a.form_ == 0 && b.whole_ > 0 && b.form_ == 0 && a.whole_ % b.whole_ == 0) return a.whole_ / b.whole_;
   if (a.form_ == 0 && b.form_ == 0)
     return divideWhole(magnitude(a.whole_), magnitude(b.whole_), 0, a.isNegative() != b.isNegative());
   const NumberParts x = a.parts();
