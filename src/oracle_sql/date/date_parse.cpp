@@ -14,25 +14,37 @@ constexpr std::int64_t kFirstJulianDay = 1721424;  // of 0001-01-01
 
 bool isNumeric(const DateItem& item) { return item.digits != 0; }
 
-bool isTimeOfDay(DateElement element) {
-  switch (element) {
-    case DateElement::Hour12:
-    case DateElement::Hour24:
-    case DateElement::Minute:
-    case DateElement::Second:
-    case DateElement::SecondOfDay:
-    case DateElement::Meridian:
-    case DateElement::Punctuation:
-      return true;
-    default:
-      return false;
-  }
-}
+constexpr DateElement kTimeOfDay[] = {
+    DateElement::Hour12,      DateElement::Hour24,   DateElement::Minute,      DateElement::Second,
+    DateElement::SecondOfDay, DateElement::Meridian, DateElement::Punctuation,
+};
 
 int inRange(std::int64_t value, int low, int high, int code, const char* message) {
   if (value < low || value > high) throw FunctionError(code, message);
   return static_cast<int>(value);
 }
+
+/// An element that is one part of a date, within limits.
+struct Limits {
+  DateElement element;
+  std::optional<int> DateParts::*part;
+  int low;
+  int high;
+  int code;
+  const char* message;
+};
+constexpr Limits kLimits[] = {
+    {DateElement::Month, &DateParts::month, 1, 12, 1843, "not a valid month"},
+    {DateElement::Day, &DateParts::day, 1, 31, 1847, "day of month must be between 1 and last day of month"},
+    {DateElement::DayOfYear, &DateParts::dayOfYear, 1, 366, 1848,
+     "day of year must be between 1 and 365 (366 for leap year)"},
+    {DateElement::Hour12, &DateParts::hour12, 1, 12, 1849, "hour must be between 1 and 12"},
+    {DateElement::Hour24, &DateParts::hour24, 0, 23, 1850, "hour must be between 0 and 23"},
+    {DateElement::Minute, &DateParts::minute, 0, 59, 1851, "minutes must be between 0 and 59"},
+    {DateElement::Second, &DateParts::second, 0, 59, 1852, "seconds must be between 0 and 59"},
+    {DateElement::SecondOfDay, &DateParts::secondOfDay, 0, 86399, 1853,
+     "seconds in day must be between 0 and 86399"},
+};
 
 class Reader {
  public:
@@ -76,10 +88,9 @@ class Reader {
 
   /// A text may end before the time of day.
   static void requireOptional(const DateModel& model, std::size_t from) {
-    for (std::size_t i = from; i < model.size(); ++i) {
-      if (!isTimeOfDay(model[i].element))
+    for (std::size_t i = from; i < model.size(); ++i)
+      if (std::ranges::find(kTimeOfDay, model[i].element) == std::end(kTimeOfDay))
         throw FunctionError(1840, "input value not long enough for date format");
-    }
   }
 
   /// `joined`: the text lacks the marks that the model has in front of this value. Then a number must have
@@ -202,31 +213,6 @@ class Reader {
       case DateElement::RoundedYear4:
         found_.year = count > 2 ? enteredYear(value) : roundedYear(value);
         return;
-      case DateElement::Month:
-        found_.month = inRange(value, 1, 12, 1843, "not a valid month");
-        return;
-      case DateElement::Day:
-        found_.day = inRange(value, 1, 31, 1847, "day of month must be between 1 and last day of month");
-        return;
-      case DateElement::DayOfYear:
-        found_.dayOfYear =
-            inRange(value, 1, 366, 1848, "day of year must be between 1 and 365 (366 for leap year)");
-        return;
-      case DateElement::Hour12:
-        found_.hour12 = inRange(value, 1, 12, 1849, "hour must be between 1 and 12");
-        return;
-      case DateElement::Hour24:
-        found_.hour24 = inRange(value, 0, 23, 1850, "hour must be between 0 and 23");
-        return;
-      case DateElement::Minute:
-        found_.minute = inRange(value, 0, 59, 1851, "minutes must be between 0 and 59");
-        return;
-      case DateElement::Second:
-        found_.second = inRange(value, 0, 59, 1852, "seconds must be between 0 and 59");
-        return;
-      case DateElement::SecondOfDay:
-        found_.secondOfDay = inRange(value, 0, 86399, 1853, "seconds in day must be between 0 and 86399");
-        return;
       case DateElement::WeekdayNumber:
         found_.weekday = inRange(value, 1, 7, 1846, "not a valid day of the week") - 1;
         return;
@@ -235,8 +221,12 @@ class Reader {
         if (value < kFirstJulianDay) raiseBeforeChrist();
         return;
       default:
-        throw FunctionError(1820, "format code cannot appear in date input format");
+        break;
     }
+    const auto* limits = std::ranges::find(kLimits, item.element, &Limits::element);
+    if (limits == std::end(kLimits))
+      throw FunctionError(1820, "format code cannot appear in date input format");
+    found_.*limits->part = inRange(value, limits->low, limits->high, limits->code, limits->message);
   }
 
   void readYearWithComma() {

@@ -26,14 +26,12 @@ void Resolver::countArguments(const Call& c, int low, int high) const {
 Type Resolver::scalarCall(Call& c, const Env& env) {
   const std::string name =
       c.package.empty() ? std::string(c.name) : std::string(c.package) + "." + std::string(c.name);
-  const std::string shown = c.package.empty()
-                                ? "\"" + name + "\""
-                                : "\"" + std::string(c.package) + "\".\"" + std::string(c.name) + "\"";
   c.function = c.package.empty() ? findFunction(name) : catalogue_.packageFunction(name);
   if (!c.function) {
     if (c.package.empty() && isOracleFunction(c.name))
       throw SqlError::unsupported("function " + name, c.place);
-    fail(904, shown + ": invalid identifier", c.place);
+    const std::string package = c.package.empty() ? "" : "\"" + std::string(c.package) + "\".";
+    fail(904, package + "\"" + std::string(c.name) + "\": invalid identifier", c.place);
   }
   c.role = CallRole::Scalar;
   if (c.star) fail(936, "missing expression", c.place);
@@ -76,11 +74,7 @@ void Resolver::checkArguments(const Call& c) const {
     Type common = type(0);
     for (std::size_t i = 1; i < count; ++i) {
       const Type next = commonType(common, type(i));
-      if (next.kind == TypeKind::Unresolved)
-        fail(932,
-             std::string("inconsistent datatypes: expected ") + typeName(common.kind) + " got " +
-                 typeName(type(i).kind),
-             c.args[i]->place);
+      if (next.kind == TypeKind::Unresolved) inconsistent(common, type(i), c.args[i]->place);
       common = next;
     }
   } else if (c.name == "NVL" || c.name == "GREATEST" || c.name == "LEAST") {
@@ -192,11 +186,11 @@ Type Resolver::setFunctionType(const Call& c, const SetFunction& f) const {
   const bool ofOrder = f.result == SetResult::LikeOrder || f.result == SetResult::NumberOrDateOfOrder;
   const Expr* deciding = ofOrder ? c.withinGroup.front().expr : c.args.empty() ? nullptr : c.args.front();
   const Type first = deciding ? deciding->type : Type{TypeKind::Null};
-  const auto refuse = [](Type got, Place place) {
-    fail(932, std::string("inconsistent datatypes: expected NUMBER got ") + typeName(got.kind), place);
+  const auto requireNumber = [](Type type, Place place) {
+    if (type.kind == TypeKind::Date || type.kind == TypeKind::Raw)
+      inconsistent({TypeKind::Number}, type, place);
   };
-  const auto noNumber = [](Type type) { return type.kind == TypeKind::Date || type.kind == TypeKind::Raw; };
-  if (ofOrder && noNumber(c.args.front()->type)) refuse(c.args.front()->type, c.args.front()->place);
+  if (ofOrder) requireNumber(c.args.front()->type, c.args.front()->place);
   switch (f.result) {
     case SetResult::Whole:
       return {TypeKind::Number, true};
@@ -207,7 +201,7 @@ Type Resolver::setFunctionType(const Call& c, const SetFunction& f) const {
       if (first.kind == TypeKind::Date) return first;
       [[fallthrough]];
     case SetResult::Number:
-      if (noNumber(first)) refuse(first, deciding->place);
+      if (deciding) requireNumber(first, deciding->place);
       return {TypeKind::Number};
     case SetResult::LikeOrder:
     case SetResult::LikeArgument:
@@ -218,11 +212,7 @@ Type Resolver::setFunctionType(const Call& c, const SetFunction& f) const {
   // The default of LAG and LEAD.
   const Type other = c.args[2]->type;
   if (first.kind == TypeKind::Null) return other.kind == TypeKind::Null ? result : other;
-  if (comparisonOf(first, other) == Comparison::Invalid)
-    fail(932,
-         std::string("inconsistent datatypes: expected ") + typeName(first.kind) + " got " +
-             typeName(other.kind),
-         c.args[2]->place);
+  comparable(first, other, c.args[2]->place);
   if (result.isText()) return {TypeKind::Varchar2};
   result.integral = result.integral && (other.integral || other.kind == TypeKind::Null);
   return result;

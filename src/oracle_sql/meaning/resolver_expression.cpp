@@ -11,13 +11,6 @@ namespace {
 /// The longest text literal in a statement, in bytes.
 constexpr std::size_t kMaxTextLiteral = 4000;
 
-[[noreturn]] void inconsistent(Type expected, Type got, Place place) {
-  throw SqlError::wrong(932,
-                        std::string("inconsistent datatypes: expected ") + typeName(expected.kind) + " got " +
-                            typeName(got.kind),
-                        place);
-}
-
 /// Whole and certainly within 64 bits: up to 18 digits.
 bool isWhole(std::string_view number) {
   return number.find_first_not_of("0123456789") == std::string_view::npos && number.size() <= 18;
@@ -34,6 +27,13 @@ void checkNumber(std::string_view text, Place place) {
 }
 
 }  // namespace
+
+void Resolver::inconsistent(Type expected, Type got, Place place) {
+  fail(932,
+       std::string("inconsistent datatypes: expected ") + typeName(expected.kind) + " got " +
+           typeName(got.kind),
+       place);
+}
 
 Type Resolver::value(Expr& e, const Env& env) { return e.type = resolved(e, env); }
 

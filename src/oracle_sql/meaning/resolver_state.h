@@ -88,6 +88,7 @@ class Resolver {
   Type resolved(Expr& e, const Env& env);
   Type caseType(CaseExpr& c, const Env& env);
   Type arithmeticType(const Arithmetic& a, Type left, Type right) const;
+  [[noreturn]] static void inconsistent(Type expected, Type got, Place place);
   void comparable(Type left, Type right, Place place) const;
   void listAgainst(const Expr& left, const ExprList& list, const Env& env);
   void compareRows(const Expr& left, const Expr& right) const;

@@ -13,6 +13,12 @@ bool isLetter(char c) { return isAsciiLetter(c) || static_cast<unsigned char>(c)
 bool isNamePart(char c) { return isLetter(c) || isAsciiDigit(c) || c == '_' || c == '$' || c == '#'; }
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f' || c == '\v'; }
 
+/// What is a symbol whatever follows it.
+constexpr std::string_view kMarks = "(),.+-*/@";
+constexpr Symbol kSymbolOfMark[] = {Symbol::LeftParen, Symbol::RightParen, Symbol::Comma,
+                                    Symbol::Dot,       Symbol::Plus,       Symbol::Minus,
+                                    Symbol::Star,      Symbol::Slash,      Symbol::At};
+
 class Lexer {
  public:
   explicit Lexer(std::string_view text) : text_(text) { tokens_.reserve(text.size() / 4 + 8); }
@@ -192,33 +198,6 @@ class Lexer {
   void symbol(char c) {
     Symbol kind = Symbol::None;
     switch (c) {
-      case '(':
-        kind = Symbol::LeftParen;
-        break;
-      case ')':
-        kind = Symbol::RightParen;
-        break;
-      case ',':
-        kind = Symbol::Comma;
-        break;
-      case '.':
-        kind = Symbol::Dot;
-        break;
-      case '+':
-        kind = Symbol::Plus;
-        break;
-      case '-':
-        kind = Symbol::Minus;
-        break;
-      case '*':
-        kind = Symbol::Star;
-        break;
-      case '/':
-        kind = Symbol::Slash;
-        break;
-      case '@':
-        kind = Symbol::At;
-        break;
       case '=':
         kind = at(1) == '>' ? (step(), Symbol::Arrow) : Symbol::Equal;
         break;
@@ -236,7 +215,7 @@ class Lexer {
         kind = followedBy('=') ? Symbol::GreaterEqual : Symbol::Greater;
         break;
       default:
-        break;
+        if (const auto i = kMarks.find(c); i != std::string_view::npos) kind = kSymbolOfMark[i];
     }
     if (kind == Symbol::None) throw SqlError::wrong(911, "invalid character", start_);
     step();

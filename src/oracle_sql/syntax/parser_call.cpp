@@ -141,20 +141,12 @@ FrameBound Parser::frameBound() {
     expect(Keyword::Row, 905, "missing keyword");
     return bound;
   }
-  if (accept(Keyword::Unbounded)) {
-    if (accept(Keyword::Preceding))
-      bound.kind = BoundKind::UnboundedPreceding;
-    else if (accept(Keyword::Following))
-      bound.kind = BoundKind::UnboundedFollowing;
-    else
-      fail(905, "missing keyword");
-    return bound;
-  }
-  bound.offset = value();
+  const bool unbounded = accept(Keyword::Unbounded);
+  if (!unbounded) bound.offset = value();
   if (accept(Keyword::Preceding))
-    bound.kind = BoundKind::Preceding;
+    bound.kind = unbounded ? BoundKind::UnboundedPreceding : BoundKind::Preceding;
   else if (accept(Keyword::Following))
-    bound.kind = BoundKind::Following;
+    bound.kind = unbounded ? BoundKind::UnboundedFollowing : BoundKind::Following;
   else
     fail(905, "missing keyword");
   return bound;
