@@ -1,7 +1,6 @@
 #include "repository_file/storage.h"
 
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <stdexcept>
 

@@ -1,26 +1,11 @@
 // KEEP (DENSE_RANK FIRST|LAST ...): SQLite's aggregates know no order, so the sort keys go along, and the
 // aggregate itself drops the rows that another one comes before. The last ones are the first of the order
 // turned round. DISTINCT in a window, which SQLite lacks, keeps all rows of the partition.
+#include "platform/ascii.h"
 #include "repository_file/lowering/builders.h"
 #include "repository_file/lowering/rules.h"
 
 namespace kestrelix::repository_file {
-namespace {
-
-using sql::TypeKind;
-
-struct KeptNumber {
-  std::string_view name;
-  std::string_view function;
-};
-constexpr KeptNumber kKeptNumbers[] = {
-    {"SUM", "num_sum"},
-    {"AVG", "num_avg"},
-    {"STDDEV", "num_stddev"},
-    {"VARIANCE", "num_variance"},
-};
-
-}  // namespace
 
 Lowered lowerKeep(Lowerer& to, const sql::Call& call) {
   if (!call.keep && !(call.distinct && call.over)) return {};
@@ -33,17 +18,13 @@ Lowered lowerKeep(Lowerer& to, const sql::Call& call) {
     result.number = {true, 1e15};
     result.present = true;
   } else if (call.name == "MIN" || call.name == "MAX") {
-    const bool native = argument.kind != TypeKind::Number || argument.number.integral;
+    const bool native = argument.kind != sql::TypeKind::Number || argument.number.integral;
     function = std::string(native ? "" : "num_") + (call.name == "MAX" ? "max" : "min");
     result.number = argument.number;
+  } else {
+    function = "num_" + asciiLower(call.name);
+    argument = to.converted(argument, sql::TypeKind::Number, call.args.front()->place);
   }
-  for (const auto& number : kKeptNumbers) {
-    if (number.name != call.name) continue;
-    function = number.function;
-    argument = to.converted(argument, TypeKind::Number, call.args.front()->place);
-  }
-  if (function.empty())
-    throw sql::SqlError::unsupported("KEEP of the aggregate " + std::string(call.name), call.place);
   std::vector<const lite::Expr*> args{argument.node};
   if (call.keep) addSortKeys(to, call.keep->orderBy, call.keep->last, args);
   result.node = setCall(to, call, to.keep("keep_" + function + (call.distinct ? "_distinct" : "")), args);
