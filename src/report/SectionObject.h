@@ -43,6 +43,8 @@ class SectionObject {
   bool showsRestart(std::string_view member) const;
 
   const std::string& className() const { return className_; }
+  /// The aliases that the records' fields are read by.
+  const std::vector<std::string>& fieldNames() const { return fieldNames_; }
   const std::vector<Statement>& statements() const { return statements_; }
   /// The binds beside B1 to B4, in the order of adding.
   const std::vector<Bind>& binds() const { return binds_; }

@@ -33,7 +33,7 @@ ListView<clsSegmentsby> ranking(const std::string& members, const C& ranked, con
       .all = "get" + members + "_ALL",
       .col = "get" + members + "_COL",
       .columns = {{"OWNER", F::OWNER, Kind::Key},
-                  {"TABLESPACE", F::TABLESPACE, Kind::Text},
+                  {"TABLESPACE", F::TABLESPACE, Kind::Key},
                   {"OBJECT NAME", F::OBJECT_NAME, Kind::Key},
                   {"SUB OBJECT NAME", F::SUBOBJECT_NAME, Kind::Key},
                   {"OBJECT TYPE", F::OBJECT_TYPE, Kind::Key},
