@@ -1,6 +1,7 @@
 #include "sections/nature.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <string>
 #include <utility>
@@ -93,22 +94,17 @@ void appendTerms(const Expr& e, bool plus, std::vector<std::pair<const Expr*, bo
   appendTerms(*sum.right, plus != (sum.op == ArithmeticOp::Subtract), terms);
 }
 
-/// The table columns that an expression adds and those that it takes away.
-struct TableColumns {
-  std::multiset<std::string> plus, minus;
-};
-
-void collect(const Expr& e, bool plus, TableColumns& columns) {
+/// The table columns that an expression is made of.
+void collect(const Expr& e, std::set<std::string>& columns) {
   const auto all = [&](const Exprs& values) {
-    for (const Expr* value : values) collect(*value, plus, columns);
+    for (const Expr* value : values) collect(*value, columns);
   };
   if (const auto* ref = as<ColumnRef>(&e)) {
     const Origin origin = originOf(*ref);
-    if (origin.column != nullptr) (plus ? columns.plus : columns.minus).insert(origin.name);
+    if (origin.column != nullptr) columns.insert(origin.name);
     all(origin.computed);
-  } else if (const auto* sum = as<Arithmetic>(&e)) {
-    collect(*sum->left, plus, columns);
-    collect(*sum->right, plus != (sum->op == ArithmeticOp::Subtract), columns);
+  } else if (const auto* arithmetic = as<Arithmetic>(&e)) {
+    all({arithmetic->left, arithmetic->right});
   } else if (const auto* call = as<Call>(&e)) {
     all(valuesOf(*call));
   } else if (const auto* choice = as<CaseExpr>(&e)) {
@@ -187,28 +183,29 @@ class Reader {
     return call.name == "RATIO_TO_REPORT" ? Figure{Nature::Quotient} : joinedOf(valuesOf(call));
   }
 
-  /// The same columns added and taken away are a growth: of the end's row and of the start's.
+  /// Columns that are taken away as often as they are added give a growth: they are the end's row and the
+  /// start's.
   Figure ofSum(const Expr& e) const {
     std::vector<std::pair<const Expr*, bool>> terms;
     appendTerms(e, true, terms);
-    TableColumns states;
-    Nature rest = Nature::Constant;
-    bool hundredfold = false;
+    std::map<std::string, int> added;  // less those taken away
+    Figure all;
     for (const auto& [term, plus] : terms) {
-      const Figure one = of(*term);
-      hundredfold = hundredfold || one.hundredfold;
-      if (one.nature == Nature::State || one.nature == Nature::Text) collect(*term, plus, states);
+      Figure one = of(*term);
       if (one.nature == Nature::Moment && !plus) return {Nature::Duration};
-      if (one.nature == Nature::Text)
-        rest = joined(rest, Nature::State);  // a parameter's value
-      else
-        rest = joined(rest, one.nature);
+      if (one.nature == Nature::Text) one.nature = Nature::State;  // a parameter's value
+      all = {joined(all.nature, one.nature), all.hundredfold || one.hundredfold};
+      if (one.nature != Nature::State) continue;
+      std::set<std::string> columns;
+      collect(*term, columns);
+      for (const std::string& column : columns) added[column] += plus ? 1 : -1;
     }
-    const bool balanced = !states.plus.empty() && states.plus == states.minus;
-    if (rest == Nature::State) return {balanced ? Nature::Growth : rest, hundredfold};
-    // A growth beside the end's and the start's figures is their sum; beside one of them it is a state.
-    if (rest == Nature::Growth && states.plus != states.minus) return {Nature::State, hundredfold};
-    return {rest, hundredfold};
+    if (all.nature != Nature::State && all.nature != Nature::Growth) return all;
+    const bool balanced =
+        std::all_of(added.begin(), added.end(), [](const auto& of) { return of.second == 0; });
+    // Nothing added but growths is balanced too; a figure of one snapshot and a growth are a state.
+    all.nature = balanced ? Nature::Growth : Nature::State;
+    return all;
   }
 
   Figure ofProduct(const Arithmetic& e) const {
