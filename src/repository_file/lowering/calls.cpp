@@ -39,13 +39,14 @@ Lowered lowerCall(Lowerer& to, const sql::Call& call) {
   }
   if (!call.function || !call.function->call)
     throw sql::SqlError::unsupported("the function " + name, call.place);
-  Value& first = arguments.front();
-  if (name == "TO_NUMBER" && first.kind == sql::TypeKind::Null) {
+  if (name == "TO_NUMBER" && arguments.front().kind == sql::TypeKind::Null) {
+    Value& first = arguments.front();
     first.kind = sql::TypeKind::Number;
     first.number = {true, 0};
     return first;
   }
-  if (arguments.size() == 1 && isConversionToItself(call, first)) {
+  if (arguments.size() == 1 && isConversionToItself(call, arguments.front())) {
+    Value& first = arguments.front();
     first.kind = call.type.kind;
     return first;
   }
